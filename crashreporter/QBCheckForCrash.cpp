@@ -1,0 +1,5 @@
+#include "crashreporter/QBCheckForCrash.h"
+
+void QBCrashReporterCheckForCrash()
+{
+}

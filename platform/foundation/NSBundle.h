@@ -1,0 +1,58 @@
+#pragma once
+
+#include "platform/foundation/Export.h"
+
+#include <QString>
+#include <QStringList>
+#include <QVariantMap>
+#include <memory>
+
+/// A folder with an Info dictionary, code and resources: Contents/{Info.plist, Linux/, Resources/, Frameworks/}.
+///
+/// Bundles live as long as the process; one object for each path. The Info dictionary is read once, at the first request, and kept: a bundle that is
+/// exchanged on disk keeps answering with what was loaded. An unreadable Info.plist is an empty dictionary and one logged line.
+class LM_FOUNDATION NSBundle
+{
+public:
+    ~NSBundle();
+    NSBundle(const NSBundle &) = delete;
+    NSBundle &operator=(const NSBundle &) = delete;
+
+    /// The bundle around the running executable (Contents/Linux/<executable>); for a bare executable, the folder it stands in.
+    static NSBundle *mainBundle();
+    /// The bundle at a folder, or null when there is no such folder.
+    static NSBundle *bundleWithPath(const QString &path);
+    /// A bundle this process has used already (main bundle included), by CFBundleIdentifier, or null.
+    static NSBundle *bundleWithIdentifier(const QString &identifier);
+
+    QString bundlePath() const;
+    QString resourcePath() const;
+    /// Contents/Linux/<CFBundleExecutable>, whether or not it exists; empty without CFBundleExecutable.
+    QString executablePath() const;
+    QString bundleIdentifier() const;
+
+    QVariantMap infoDictionary() const;
+    /// The Info dictionary with the entries of the string table "InfoPlist" of the user's language in place of its own.
+    QVariantMap localizedInfoDictionary() const;
+    /// A value of the localised Info dictionary, or no value.
+    QVariant objectForInfoDictionaryKey(const QString &key) const;
+
+    /// The path of a resource: the folder of the user's language first, then Resources itself. An empty `extension` asks for the bare name.
+    /// Empty when there is none.
+    QString pathForResourceOfType(const QString &name, const QString &extension) const;
+
+    /// The text for `key` in a string table ("" stands for "Localizable") in the user's language; without one, `value`, and with an empty `value`, `key`.
+    QString localizedStringForKeyValueTable(const QString &key, const QString &value = {}, const QString &table = {}) const;
+
+    /// The languages the bundle has string tables for, and of these the ones to use now, best first ("en" last if it exists).
+    QStringList localizations() const;
+    QStringList preferredLocalizations() const;
+
+    /// Reads an Info.plist afresh from disk; empty when it is missing or unreadable.
+    static QVariantMap infoDictionaryOnDisk(const QString &bundlePath);
+
+private:
+    explicit NSBundle(const QString &path);
+    class Private;
+    std::unique_ptr<Private> d;
+};

@@ -1,0 +1,58 @@
+#include "KeyPress.h"
+
+#include <QScopeGuard>
+#include <cstdlib>
+#include <memory>
+#include <xcb/xcb.h>
+#include <xcb/xtest.h>
+
+namespace {
+
+xcb_connection_t *connection()
+{
+    static const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> display(xcb_connect(nullptr, nullptr), &xcb_disconnect);
+    return display.get();
+}
+
+void waitForServer()
+{
+    std::free(xcb_get_input_focus_reply(connection(), xcb_get_input_focus(connection()), nullptr));
+}
+
+void send(quint8 type, quint8 detail, QPoint place = {})
+{
+    xcb_test_fake_input(connection(), type, detail, XCB_CURRENT_TIME, XCB_NONE, qint16(place.x()), qint16(place.y()), 0);
+}
+
+} // namespace
+
+void keyDown(int evdevCode)
+{
+    send(XCB_KEY_PRESS, quint8(evdevCode + evdevToX11));
+    waitForServer();
+}
+
+void keyUp(int evdevCode)
+{
+    send(XCB_KEY_RELEASE, quint8(evdevCode + evdevToX11));
+    waitForServer();
+}
+
+void pressKey(int evdevCode, const QList<int> &held)
+{
+    for (const int key : held)
+        send(XCB_KEY_PRESS, quint8(key + evdevToX11));
+    send(XCB_KEY_PRESS, quint8(evdevCode + evdevToX11));
+    send(XCB_KEY_RELEASE, quint8(evdevCode + evdevToX11));
+    for (const int key : held)
+        send(XCB_KEY_RELEASE, quint8(key + evdevToX11));
+    waitForServer();
+}
+
+void clickAt(QPoint place)
+{
+    send(XCB_MOTION_NOTIFY, 0, place);
+    send(XCB_BUTTON_PRESS, 1);
+    send(XCB_BUTTON_RELEASE, 1);
+    waitForServer();
+}

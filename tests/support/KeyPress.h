@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QList>
+#include <QPoint>
+#include <QtGlobal>
+
+// Real key presses and clicks on the X server, as a keyboard and a mouse would send them (XTEST). Keys are kernel (evdev) codes.
+
+inline constexpr int evdevToX11 = 8;
+
+/// Presses and releases a key while `held` keys are down, and waits until the server has taken it all.
+void pressKey(int evdevCode, const QList<int> &held = {});
+void keyDown(int evdevCode);
+void keyUp(int evdevCode);
+/// Moves the pointer to a place of the screen (in pixels) and clicks the left button.
+void clickAt(QPoint place);

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QTemporaryDir>
+#include <QVariantMap>
+
+/// A bundle folder made for a test, removed with the object.
+class TestBundle
+{
+public:
+    /// `name` with its suffix, such as "Sample.prefPane".
+    explicit TestBundle(const QString &name);
+
+    QString path() const { return path_; }
+    QString resourcePath() const { return path_ + QStringLiteral("/Contents/Resources"); }
+
+    void writeInfo(const QVariantMap &info) const;
+    /// Writes a file below the bundle, folders included.
+    void writeFile(const QString &relativePath, const QByteArray &content) const;
+
+private:
+    QTemporaryDir folder_;
+    QString path_;
+};
