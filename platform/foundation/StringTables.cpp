@@ -1,0 +1,98 @@
+#include "platform/foundation/StringTables.h"
+
+#include "platform/foundation/NSLog.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+
+namespace {
+
+constexpr QLatin1StringView folderSuffix(".lproj");
+constexpr QLatin1StringView english("en");
+
+QStringList languagesWithAFolder(const QString &resourcePath)
+{
+    const QDir resources(resourcePath);
+    QStringList languages;
+    for (const QString &folder :
+        resources.entryList({QString(u'*') + folderSuffix}, QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name))
+        languages += folder.chopped(folderSuffix.size());
+    return languages;
+}
+
+/// The user's languages as folders are named, each followed by its more general forms: "de-Latn-AT" gives de_Latn_AT,
+/// de_Latn, de.
+QStringList userLanguages()
+{
+    QStringList languages;
+    for (QString language : QLocale().uiLanguages()) {
+        language.replace(u'-', u'_');
+        for (; !language.isEmpty(); language = language.section(u'_', 0, -2))
+            languages += language;
+    }
+    languages += english;
+    languages.removeDuplicates();
+    return languages.first(languages.indexOf(english) + 1);
+}
+
+QStringList availableOf(const QStringList &wanted, const QStringList &available)
+{
+    QStringList found;
+    for (const QString &language : wanted) {
+        if (available.contains(language))
+            found += language;
+    }
+    return found;
+}
+
+} // namespace
+
+StringTables::StringTables(QString resourcePath)
+    : resourcePath_(std::move(resourcePath)), languages_(languagesWithAFolder(resourcePath_)),
+      preferredLanguages_(availableOf(userLanguages(), languages_))
+{
+}
+
+QString StringTables::languageFolder(const QString &language) const
+{
+    return resourcePath_ + u'/' + language + folderSuffix;
+}
+
+QString StringTables::text(const QString &tableName, const QString &key)
+{
+    const QByteArray context = tableName.toUtf8();
+    const QByteArray source = key.toUtf8();
+    for (const QString &language : preferredLanguages_) {
+        const Table &found = table(language, tableName);
+        const QString text =
+            found.translator ? found.translator->translate(context.constData(), source.constData()) : QString();
+        if (!text.isEmpty())
+            return text;
+    }
+    return {};
+}
+
+const StringTables::Table &StringTables::table(const QString &language, const QString &name)
+{
+    const QString path = languageFolder(language) + u'/' + name + QStringLiteral(".qm");
+    const auto [entry, isNew] = tables_.try_emplace(path);
+    if (isNew)
+        load(entry->second, path);
+    return entry->second;
+}
+
+void StringTables::load(Table &table, const QString &path) const
+{
+    if (!QFileInfo(path).isFile())
+        return;
+    QFile file(path);
+    if (file.open(QIODevice::ReadOnly))
+        table.content = file.readAll();
+    auto translator = std::make_unique<QTranslator>();
+    if (translator->load(reinterpret_cast<const uchar *>(table.content.constData()), int(table.content.size())))
+        table.translator = std::move(translator);
+    else
+        NSLog(QStringLiteral("lumaroo: bundles: %1 is no string table; its texts stay in English").arg(path));
+}

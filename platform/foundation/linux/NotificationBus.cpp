@@ -1,0 +1,108 @@
+#include "platform/foundation/linux/NotificationBus.h"
+
+#include "platform/foundation/NSLog.h"
+#include "platform/foundation/linux/NotificationMessage.h"
+
+namespace {
+
+constexpr qsizetype longestMatchValue = 255; // in bytes; the bus takes rules of up to 1024
+
+QString matchValue(const QString &text)
+{
+    const bool matchable =
+        !text.contains(u'\'') && !text.contains(QChar::Null) && text.toUtf8().size() <= longestMatchValue;
+    return matchable ? text : QString();
+}
+
+} // namespace
+
+bool NotificationFilter::accepts(const NSNotification &notification) const
+{
+    return notification.name == name && (object.isEmpty() || notification.object.toString() == object);
+}
+
+QStringList busMatch(const NotificationFilter &filter)
+{
+    if (filter.object.isEmpty())
+        return {matchValue(filter.name)};
+    return {matchValue(filter.name), matchValue(filter.object)};
+}
+
+BusSubscription::BusSubscription(
+    QDBusConnection connection, NotificationFilter filter, const NotificationReceiver &receiver)
+    : connection_(std::move(connection)), filter_(std::move(filter)), receiver_(receiver)
+{
+    connection_.connect({}, notificationPath(), notificationInterface(), notificationMember(), busMatch(filter_),
+        notificationSignature(), this, SLOT(receive(QDBusMessage)));
+}
+
+void BusSubscription::end()
+{
+    ended_ = true;
+    connection_.disconnect({}, notificationPath(), notificationInterface(), notificationMember(), busMatch(filter_),
+        notificationSignature(), this, SLOT(receive(QDBusMessage)));
+    deleteLater();
+}
+
+void BusSubscription::receive(const QDBusMessage &message)
+{
+    const std::optional<NSNotification> notification = notificationFromMessage(message);
+    if (!ended_ && notification && filter_.accepts(*notification))
+        receiver_(filter_, *notification);
+}
+
+void NotificationBus::setReceiver(NotificationReceiver receiver)
+{
+    receiver_ = std::move(receiver);
+}
+
+void NotificationBus::subscribe(const NotificationFilter &filter)
+{
+    if (!connectOnce())
+        return;
+    BusSubscription *&subscription = subscriptions_[filter];
+    if (!subscription)
+        subscription = new BusSubscription(*connection_, filter, receiver_);
+    ++subscription->users;
+}
+
+void NotificationBus::unsubscribe(const NotificationFilter &filter)
+{
+    const auto found = subscriptions_.find(filter);
+    if (found == subscriptions_.end() || --found->second->users > 0)
+        return;
+    found->second->end();
+    subscriptions_.erase(found);
+}
+
+void NotificationBus::post(
+    const QString &name, const QString &object, const QVariantMap &userInfo, bool deliverImmediately)
+{
+    if (connectOnce())
+        connection_->send(notificationMessage(name, object, userInfo, deliverImmediately));
+}
+
+bool NotificationBus::connectOnce()
+{
+    if (!connection_) {
+        connection_ = QDBusConnection::sessionBus();
+        connection_->connect({}, QStringLiteral("/org/freedesktop/DBus/Local"),
+            QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this, SLOT(busHasGone()));
+        if (!connection_->isConnected())
+            report(QStringLiteral("there is no session bus; other programs are neither told nor heard"));
+    } else if (!connection_->isConnected()) {
+        busHasGone();
+    }
+    return connection_->isConnected();
+}
+
+void NotificationBus::busHasGone()
+{
+    report(QStringLiteral("the session bus has gone; other programs are neither told nor heard from now on"));
+}
+
+void NotificationBus::report(const QString &what)
+{
+    if (!std::exchange(reported_, true))
+        NSLog(QStringLiteral("lumaroo: notifications: ") + what);
+}
