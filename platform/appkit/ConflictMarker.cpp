@@ -4,8 +4,7 @@
 #include <QPainter>
 #include <QStyle>
 
-ConflictMarker::ConflictMarker(QWidget *parent) :
-    QWidget(parent)
+ConflictMarker::ConflictMarker(QWidget *parent) : QWidget(parent)
 {
     QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     policy.setRetainSizeWhenHidden(true);

@@ -6,8 +6,8 @@
 
 /// The mark beside a hot key field whose key is used twice: an icon with a tool tip.
 ///
-/// It keeps its place when hidden and shows no text of its own. Setting its `text` emits textSet, also for an equal text: the interface file carries that on
-/// to the field that shows it.
+/// It keeps its place when hidden and shows no text of its own. Setting its `text` emits textSet, also for an equal
+/// text: the interface file carries that on to the field that shows it.
 class LM_APPKIT ConflictMarker : public QWidget
 {
     Q_OBJECT

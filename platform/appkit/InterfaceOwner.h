@@ -10,7 +10,8 @@ class NSTabViewDelegate;
 class NSControlTextEditingDelegate;
 class NSWindowDelegate;
 
-/// An outlet by its name, and how an object of the interface file is put into it; answers false for an object of the wrong type.
+/// An outlet by its name, and how an object of the interface file is put into it; answers false for an object of the
+/// wrong type.
 struct OutletEntry
 {
     QString name;
@@ -36,7 +37,7 @@ struct InterfaceOwner
     NSWindowDelegate *windowDelegate = nullptr;
 };
 
-template<typename T>
+template <typename T>
 OutletEntry outletEntry(const QString &name, Outlet<T> &outlet)
 {
     return {name, [&outlet](QObject *object) {

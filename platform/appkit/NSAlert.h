@@ -8,7 +8,11 @@
 
 class NSBundle;
 
-enum NSAlertReturn { NSAlertFirstButtonReturn = 1000, NSAlertSecondButtonReturn = 1001, NSAlertThirdButtonReturn = 1002 };
+enum NSAlertReturn {
+    NSAlertFirstButtonReturn = 1000,
+    NSAlertSecondButtonReturn = 1001,
+    NSAlertThirdButtonReturn = 1002
+};
 
 /// A message with an icon, buttons from right to left, and an optional help button.
 class LM_APPKIT NSAlert
@@ -23,7 +27,8 @@ public:
     void setInformativeText(const QString &text);
     /// The image file to show beside the text; a file that is missing or unreadable gives no icon and no error.
     void setIconFile(const QString &path);
-    /// Adds a button. The focus starts on the button titled as Cancel if there is one, else on the first; Escape presses the Cancel button.
+    /// Adds a button. The focus starts on the button titled as Cancel if there is one, else on the first; Escape
+    /// presses the Cancel button.
     void addButtonWithTitle(const QString &title);
     /// The plain key that presses a button, such as "q"; no modifier needed.
     void setKeyEquivalent(int buttonIndex, const QString &key);

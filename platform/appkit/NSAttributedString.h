@@ -13,9 +13,11 @@ class LM_APPKIT NSAttributedString
 public:
     NSAttributedString();
 
-    /// Reads an "rtfd" document: a folder with TXT.rtf and the images it names. Empty when it is missing or no rich text.
+    /// Reads an "rtfd" document: a folder with TXT.rtf and the images it names. Empty when it is missing or no rich
+    /// text.
     static NSAttributedString fromRTFDDocument(const QString &path);
-    /// Reads rich text as a flat file holds it; images are looked up in `imageFolder`. Bounded in size (1 MiB), depth and images; never throws.
+    /// Reads rich text as a flat file holds it; images are looked up in `imageFolder`. Bounded in size (1 MiB), depth
+    /// and images; never throws.
     static NSAttributedString fromRTF(const QByteArray &data, const QString &imageFolder = {});
 
     bool isEmpty() const;

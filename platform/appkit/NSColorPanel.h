@@ -20,7 +20,8 @@ public:
 
     /// Its frame, with y upward, also while it is not visible.
     QRectF frame() const;
-    /// Moves the panel's lower left corner without changing its size, visible or not. Does nothing where windows cannot be placed (no X display).
+    /// Moves the panel's lower left corner without changing its size, visible or not. Does nothing where windows cannot
+    /// be placed (no X display).
     void setFrameOrigin(QPointF origin);
 
     /// The panel's window.

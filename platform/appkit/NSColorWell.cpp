@@ -4,8 +4,7 @@
 
 #include <QPainter>
 
-NSColorWell::NSColorWell(QWidget *parent) :
-    QAbstractButton(parent)
+NSColorWell::NSColorWell(QWidget *parent) : QAbstractButton(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
     connect(this, &QAbstractButton::clicked, this, &NSColorWell::activate);
@@ -38,6 +37,4 @@ void NSColorWell::paintEvent(QPaintEvent *)
     painter.fillRect(rect(), liveColor(color_));
 }
 
-void NSColorWell::activate()
-{
-}
+void NSColorWell::activate() { }

@@ -2,14 +2,11 @@
 
 #include "platform/appkit/Controls.h"
 
-#include <QAbstractButton>
+#include <QButtonGroup>
 #include <QChildEvent>
 #include <QRadioButton>
 
-NSMatrix::NSMatrix(QWidget *parent) :
-    QWidget(parent)
-{
-}
+NSMatrix::NSMatrix(QWidget *parent) : QWidget(parent), radioCells_(new QButtonGroup(this)) { }
 
 QList<QAbstractButton *> NSMatrix::cells() const
 {
@@ -36,17 +33,36 @@ QAbstractButton *NSMatrix::selectedCell() const
     return nullptr;
 }
 
+void NSMatrix::adoptCells()
+{
+    for (QAbstractButton *cell : cells())
+        adoptCell(cell);
+}
+
+void NSMatrix::adoptCell(QAbstractButton *cell)
+{
+    connect(cell, &QAbstractButton::clicked, this, &NSMatrix::cellWasClicked, Qt::UniqueConnection);
+    // Radio buttons exclude one another by themselves only where they have the same parent.
+    if (qobject_cast<QRadioButton *>(cell) && !cell->group())
+        radioCells_->addButton(cell);
+}
+
 void NSMatrix::childEvent(QChildEvent *event)
 {
     QWidget::childEvent(event);
-    if (event->type() != QEvent::ChildPolished)
-        return;
-    if (auto *cell = qobject_cast<QAbstractButton *>(event->child()))
-        connect(cell, &QAbstractButton::clicked, this, [this, cell] { cellWasClicked(cell); });
+    // What is added is no button yet: its constructor is still running.
+    if (event->added() && event->child()->isWidgetType())
+        QMetaObject::invokeMethod(this, &NSMatrix::adoptCells, Qt::QueuedConnection);
 }
 
-void NSMatrix::cellWasClicked(QAbstractButton *cell)
+void NSMatrix::showEvent(QShowEvent *event)
 {
-    selectedCell_ = cell;
+    adoptCells();
+    QWidget::showEvent(event);
+}
+
+void NSMatrix::cellWasClicked()
+{
+    selectedCell_ = qobject_cast<QAbstractButton *>(sender());
     Q_EMIT cellClicked();
 }

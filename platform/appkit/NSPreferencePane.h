@@ -4,8 +4,8 @@
 #include "platform/appkit/InterfaceOwner.h"
 
 #include <QObject>
-#include <QtPlugin>
 #include <QWidget>
+#include <QtPlugin>
 #include <memory>
 
 class NSBundle;
@@ -13,8 +13,9 @@ class NSBundle;
 enum NSPreferencePaneUnselectReply { NSUnselectCancel = 0, NSUnselectNow = 1, NSUnselectLater = 2 };
 
 /// A pane of the settings application, as its host drives it:
-/// `initialize` of the principal class (once), construction, initWithBundle, loadMainView (which calls mainViewDidLoad), then at each showing willSelect,
-/// the view appears, didSelect; at each leaving shouldUnselect and, unless that keeps the pane, willUnselect, the view goes, didUnselect; at last destruction.
+/// `initialize` of the principal class (once), construction, initWithBundle, loadMainView (which calls
+/// mainViewDidLoad), then at each showing willSelect, the view appears, didSelect; at each leaving shouldUnselect and,
+/// unless that keeps the pane, willUnselect, the view goes, didUnselect; at last destruction.
 class LM_APPKIT NSPreferencePane : public QObject
 {
     Q_OBJECT
@@ -24,12 +25,13 @@ public:
     /// Destroys the main view with it, if nobody else has.
     ~NSPreferencePane() override;
 
-    /// Called once, right after construction. False means that the pane cannot be used: the host releases it and shows its error page.
+    /// Called once, right after construction. False means that the pane cannot be used: the host releases it and shows
+    /// its error page.
     virtual bool initWithBundle(NSBundle *bundle);
     NSBundle *bundle() const { return bundle_; }
 
-    /// Loads the main view from the interface file, connects it, and calls mainViewDidLoad; called once, by the host, in one go with initWithBundle.
-    /// Null when the interface file cannot be loaded.
+    /// Loads the main view from the interface file, connects it, and calls mainViewDidLoad; called once, by the host,
+    /// in one go with initWithBundle. Null when the interface file cannot be loaded.
     QWidget *loadMainView();
     QWidget *mainView() const { return mainView_; }
     /// The interface file's name: NSMainNibFile of the Info dictionary, or "Main".
@@ -52,7 +54,10 @@ Q_SIGNALS:
 
 protected:
     /// What the interface file can reach; asked once, by loadMainView.
-    virtual InterfaceOwner interfaceOwner() { return {this, QString::fromLatin1(metaObject()->className()), {}, {}, nullptr, nullptr, nullptr}; }
+    virtual InterfaceOwner interfaceOwner()
+    {
+        return {this, QString::fromLatin1(metaObject()->className()), {}, {}, nullptr, nullptr, nullptr};
+    }
 
 private:
     NSBundle *bundle_ = nullptr;

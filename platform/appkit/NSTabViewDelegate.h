@@ -3,7 +3,8 @@
 class QTabWidget;
 class QWidget;
 
-/// Told of page changes of a tab view whose `delegate` is the owner, by the user or by code; of none while the interface file loads or is torn down.
+/// Told of page changes of a tab view whose `delegate` is the owner, by the user or by code; of none while the
+/// interface file loads or is torn down.
 class NSTabViewDelegate
 {
 public:

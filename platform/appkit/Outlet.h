@@ -2,10 +2,11 @@
 
 #include <QPointer>
 
-/// A place in an owner for an object of its interface file: connected by the loader, not owned, null before that and after the object is gone.
+/// A place in an owner for an object of its interface file: connected by the loader, not owned, null before that and
+/// after the object is gone.
 ///
 /// There is no `->`: a control is used through the functions of Controls.h, which do nothing on an absent one.
-template<typename T>
+template <typename T>
 class Outlet
 {
 public:

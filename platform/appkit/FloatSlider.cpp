@@ -1,0 +1,90 @@
+#include "platform/appkit/FloatSlider.h"
+
+#include <QScopedValueRollback>
+#include <cmath>
+
+namespace {
+
+constexpr double mostPositions = 100000;
+
+} // namespace
+
+FloatSlider::FloatSlider(QWidget *parent) : QSlider(Qt::Horizontal, parent)
+{
+    connect(this, &QSlider::valueChanged, this, &FloatSlider::positionChanged);
+    connect(this, &QSlider::sliderReleased, this, &FloatSlider::dragEnded);
+    showValue();
+}
+
+void FloatSlider::setMinimum(double minimum)
+{
+    minimum_ = minimum;
+    showValue();
+}
+
+void FloatSlider::setMaximum(double maximum)
+{
+    maximum_ = maximum;
+    showValue();
+}
+
+void FloatSlider::setStep(double step)
+{
+    step_ = step;
+    showValue();
+}
+
+double FloatSlider::value() const
+{
+    // Bounded when it is read: an interface file may give the value before its bounds.
+    return value_ > minimum_ ? std::fmin(value_, maximum_) : minimum_;
+}
+
+void FloatSlider::setValue(double value)
+{
+    value_ = value;
+    showValue();
+}
+
+int FloatSlider::lastPosition() const
+{
+    const double positions = step_ > 0 ? std::ceil((maximum_ - minimum_) / step_ - 1e-9) : 100;
+    return positions >= 1 ? int(std::fmin(positions, mostPositions)) : 1;
+}
+
+double FloatSlider::valueAtPosition(int position) const
+{
+    if (position >= lastPosition())
+        return maximum_;
+    const double step =
+        step_ > 0 ? std::fmax(step_, (maximum_ - minimum_) / mostPositions) : (maximum_ - minimum_) / 100;
+    return minimum_ + position * step;
+}
+
+void FloatSlider::showValue()
+{
+    const QScopedValueRollback<bool> follows(followsCode_, true);
+    const int last = lastPosition();
+    const double share = maximum_ > minimum_ ? (value() - minimum_) / (valueAtPosition(1) - minimum_) : 0;
+    setRange(0, last);
+    setSingleStep(1);
+    setPageStep(qMax(1, last / 10));
+    QSlider::setValue(int(std::fmin(std::round(share), last)));
+}
+
+void FloatSlider::positionChanged(int position)
+{
+    if (followsCode_)
+        return;
+    value_ = valueAtPosition(position);
+    if (isSliderDown())
+        movedInDrag_ = true;
+    else
+        Q_EMIT valueChosen();
+}
+
+void FloatSlider::dragEnded()
+{
+    if (std::exchange(movedInDrag_, false))
+        Q_EMIT valueChosen();
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "platform/appkit/Export.h"
+
+#include <QSlider>
+
+/// A slider whose value is a number of its own, not a position: what code sets stays exact, what the user moves falls
+/// on a step.
+class LM_APPKIT FloatSlider : public QSlider
+{
+    Q_OBJECT
+    Q_PROPERTY(double minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(double maximum READ maximum WRITE setMaximum)
+    Q_PROPERTY(double step READ step WRITE setStep)
+    Q_PROPERTY(double value READ value WRITE setValue)
+
+public:
+    explicit FloatSlider(QWidget *parent = nullptr);
+
+    double minimum() const { return minimum_; }
+    void setMinimum(double minimum);
+    double maximum() const { return maximum_; }
+    void setMaximum(double maximum);
+    double step() const { return step_; }
+    void setStep(double step);
+
+    /// Always between minimum and maximum; no number reads as the minimum.
+    double value() const;
+    /// Sends no valueChosen.
+    void setValue(double value);
+
+Q_SIGNALS:
+    /// The user has chosen a value: at each key, wheel step and click, and at the end of a drag.
+    void valueChosen();
+
+private:
+    double valueAtPosition(int position) const;
+    int lastPosition() const;
+    void showValue();
+    void positionChanged(int position);
+    void dragEnded();
+
+    double minimum_ = 0;
+    double maximum_ = 1;
+    double step_ = 0.01;
+    double value_ = 0;
+    bool followsCode_ = false;
+    bool movedInDrag_ = false;
+};

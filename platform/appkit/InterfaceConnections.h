@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/appkit/InterfaceOwner.h"
+
+#include <QList>
+#include <QString>
+#include <functional>
+
+class QComboBox;
+class QTabWidget;
+class QToolButton;
+class QWidget;
+
+/// Connects the objects of one interface file with its owner; what does not fit is one logged line with file and
+/// object.
+class InterfaceConnections
+{
+public:
+    InterfaceConnections(const QString &file, const InterfaceOwner &owner) : file_(file), owner_(owner) { }
+
+    /// Called once, after everything is built: whatever building has changed is told to nobody.
+    void connectAll(QWidget *root);
+
+private:
+    void connectOutlets(const QList<QObject *> &objects);
+    void connectObject(QObject *object);
+    void connectAction(QObject *control, const QString &selector);
+    void connectDelegate(QObject *object, const QString &delegate);
+    void connectTabView(QTabWidget *tabView);
+    void giveItemsTheirTags(QComboBox *popUp, const QStringList &tags);
+    void useOnlyActionAsDefault(QToolButton *button);
+    template <typename Control, typename Signal>
+    bool connectSender(QObject *object, Signal signal, const ActionEntry &action);
+    void log(const QObject *object, const QString &what) const;
+
+    QString file_;
+    InterfaceOwner owner_;
+};

@@ -1,0 +1,36 @@
+#include "platform/appkit/InterfaceFile.h"
+
+#include "platform/appkit/InterfaceConnections.h"
+#include "platform/appkit/InterfaceLoader.h"
+#include "platform/appkit/InterfaceText.h"
+#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/NSLog.h"
+
+#include <QFile>
+
+namespace {
+
+QWidget *refuse(const QString &file, const QString &reason)
+{
+    NSLog(QStringLiteral("lumaroo: %1: %2").arg(file, reason));
+    return nullptr;
+}
+
+} // namespace
+
+QWidget *loadInterfaceFile(const NSBundle *bundle, const QString &nibName, const InterfaceOwner &owner)
+{
+    const QString name = nibName + QStringLiteral(".ui");
+    if (!bundle)
+        return refuse(name, QStringLiteral("no bundle to load it from"));
+    QFile file(bundle->resourcePath() + u'/' + name);
+    if (!file.open(QIODevice::ReadOnly))
+        return refuse(file.fileName(), file.errorString());
+    const InterfaceText text = readInterfaceText(&file, bundle, nibName);
+    if (!text.error.isEmpty())
+        return refuse(file.fileName(), text.error);
+    QWidget *root = InterfaceLoader::loadInterface(text.xml, name, bundle->resourcePath(), text.baseClasses);
+    if (root)
+        InterfaceConnections(name, owner).connectAll(root);
+    return root;
+}

@@ -1,0 +1,128 @@
+#include "platform/appkit/InterfaceLoader.h"
+
+#include "platform/appkit/ConflictMarker.h"
+#include "platform/appkit/FloatSlider.h"
+#include "platform/appkit/NSColorWell.h"
+#include "platform/appkit/NSMatrix.h"
+#include "platform/foundation/NSLog.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+
+namespace {
+
+using WidgetMaker = QWidget *(*)(QWidget *parent);
+
+template <typename Widget>
+QWidget *make(QWidget *parent)
+{
+    return new Widget(parent);
+}
+
+WidgetMaker ownClass(const QString &className)
+{
+    static const QHash<QString, WidgetMaker> makers{
+        {QStringLiteral("NSMatrix"), &make<NSMatrix>},
+        {QStringLiteral("NSColorWell"), &make<NSColorWell>},
+        {QStringLiteral("FloatSlider"), &make<FloatSlider>},
+        {QStringLiteral("ConflictMarker"), &make<ConflictMarker>},
+    };
+    return makers.value(className);
+}
+
+/// While it lives, no plug-ins are found: the base class would load those of Designer, which drag in toolkits that
+/// nothing here needs.
+class NoPlugIns
+{
+public:
+    NoPlugIns() : paths_(QCoreApplication::libraryPaths()) { QCoreApplication::setLibraryPaths({}); }
+    ~NoPlugIns() { QCoreApplication::setLibraryPaths(paths_); }
+    Q_DISABLE_COPY_MOVE(NoPlugIns)
+
+private:
+    QStringList paths_;
+};
+
+/// While it lives, what the toolkit complains about in this thread is logged with the interface file's name.
+class ToolkitWarnings
+{
+public:
+    explicit ToolkitWarnings(const QString &file) : file_(file), outer_(current_)
+    {
+        current_ = this;
+        if (!outer_)
+            previous_ = qInstallMessageHandler(&ToolkitWarnings::handle);
+    }
+    ~ToolkitWarnings()
+    {
+        current_ = outer_;
+        if (!outer_)
+            qInstallMessageHandler(previous_);
+    }
+    Q_DISABLE_COPY_MOVE(ToolkitWarnings)
+
+private:
+    static void handle(QtMsgType type, const QMessageLogContext &context, const QString &message)
+    {
+        if (current_ && (type == QtWarningMsg || type == QtCriticalMsg))
+            NSLog(QStringLiteral("lumaroo: %1: %2").arg(current_->file_, message));
+        else
+            previous_(type, context, message);
+    }
+
+    static thread_local ToolkitWarnings *current_;
+    static QtMessageHandler previous_;
+    QString file_;
+    ToolkitWarnings *outer_;
+};
+
+thread_local ToolkitWarnings *ToolkitWarnings::current_ = nullptr;
+QtMessageHandler ToolkitWarnings::previous_ = nullptr;
+
+} // namespace
+
+InterfaceLoader::InterfaceLoader(const QString &file, const QHash<QString, QString> &baseClasses)
+    : file_(file), baseClasses_(baseClasses)
+{
+    const QStringList available = availableWidgets();
+    toolkitClasses_ = QSet<QString>(available.cbegin(), available.cend());
+    toolkitClasses_ += {QStringLiteral("Line"), QStringLiteral("QLayoutWidget")};
+}
+
+QWidget *InterfaceLoader::loadInterface(
+    const QByteArray &xml, const QString &file, const QString &folder, const QHash<QString, QString> &baseClasses)
+{
+    const NoPlugIns noPlugIns;
+    const ToolkitWarnings warnings(file);
+    InterfaceLoader loader(file, baseClasses);
+    // The texts are in the user's language already.
+    loader.setTranslationEnabled(false);
+    loader.setWorkingDirectory(folder);
+    QBuffer buffer;
+    buffer.setData(xml);
+    buffer.open(QIODevice::ReadOnly);
+    QWidget *root = loader.load(&buffer);
+    if (!root)
+        NSLog(QStringLiteral("lumaroo: %1: %2").arg(file, loader.errorString()));
+    return root;
+}
+
+QString InterfaceLoader::classToUse(const QString &className, const QString &name) const
+{
+    QString known = className;
+    for (int depth = 0; depth < 16 && !ownClass(known) && !toolkitClasses_.contains(known); ++depth)
+        known = baseClasses_.value(known, QStringLiteral("QWidget"));
+    if (known != className)
+        NSLog(QStringLiteral("lumaroo: %1: %2: unknown class %3, %4 stands in").arg(file_, name, className, known));
+    return known;
+}
+
+QWidget *InterfaceLoader::createWidget(const QString &className, QWidget *parent, const QString &name)
+{
+    const QString known = classToUse(className, name);
+    const WidgetMaker maker = ownClass(known);
+    QWidget *widget = maker ? maker(parent) : QUiLoader::createWidget(known, parent, name);
+    if (widget)
+        widget->setObjectName(name);
+    return widget;
+}

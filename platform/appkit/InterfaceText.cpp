@@ -1,0 +1,117 @@
+#include "platform/appkit/InterfaceText.h"
+
+#include "platform/foundation/NSBundle.h"
+
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
+namespace {
+
+/// Properties that hold names, which no language changes.
+bool isName(const QString &property)
+{
+    static const QStringList names{QStringLiteral("action"), QStringLiteral("delegate"), QStringLiteral("identifier"),
+        QStringLiteral("tags"), QStringLiteral("styleSheet")};
+    return names.contains(property);
+}
+
+bool isMarkedAsName(const QXmlStreamReader &reader)
+{
+    return reader.attributes().value(QLatin1StringView("notr")) == QLatin1StringView("true");
+}
+
+class Translator
+{
+public:
+    Translator(QIODevice *file, const NSBundle *bundle, const QString &nibName)
+        : reader_(file), writer_(&result_.xml), bundle_(bundle), nibName_(nibName)
+    {
+    }
+
+    InterfaceText run()
+    {
+        while (!reader_.atEnd() && result_.error.isEmpty()) {
+            reader_.readNext();
+            if (reader_.isStartElement())
+                startElement();
+            else if (!reader_.hasError())
+                writer_.writeCurrentToken(reader_);
+        }
+        if (reader_.hasError())
+            result_.error = QStringLiteral("line %1: %2").arg(reader_.lineNumber()).arg(reader_.errorString());
+        return result_;
+    }
+
+private:
+    void startElement();
+    void checkRoot();
+    void translate();
+    void copyClassName(QString *name);
+
+    QXmlStreamReader reader_;
+    InterfaceText result_;
+    QXmlStreamWriter writer_;
+    const NSBundle *bundle_;
+    QString nibName_;
+    QString property_;
+    QString customClass_;
+    bool sawRoot_ = false;
+    bool listIsOfNames_ = false;
+    bool inCustomWidget_ = false;
+};
+
+void Translator::checkRoot()
+{
+    if (!sawRoot_ && reader_.name() != QLatin1StringView("ui"))
+        result_.error = QStringLiteral("is no interface file");
+    sawRoot_ = true;
+}
+
+void Translator::startElement()
+{
+    checkRoot();
+    const QStringView element = reader_.name();
+    if (element == QLatin1StringView("property") || element == QLatin1StringView("attribute")) {
+        property_ = reader_.attributes().value(QLatin1StringView("name")).toString();
+        listIsOfNames_ = false;
+    } else if (element == QLatin1StringView("stringlist")) {
+        listIsOfNames_ = isMarkedAsName(reader_);
+    } else if (element == QLatin1StringView("customwidget")) {
+        inCustomWidget_ = true;
+    }
+    if (element == QLatin1StringView("string")) {
+        translate();
+    } else if (inCustomWidget_ && element == QLatin1StringView("class")) {
+        copyClassName(&customClass_);
+    } else if (inCustomWidget_ && element == QLatin1StringView("extends")) {
+        copyClassName(&result_.baseClasses[customClass_]);
+        inCustomWidget_ = false;
+    } else {
+        writer_.writeCurrentToken(reader_);
+    }
+}
+
+void Translator::translate()
+{
+    const bool isText = !isMarkedAsName(reader_) && !listIsOfNames_ && !isName(property_);
+    writer_.writeCurrentToken(reader_);
+    const QString text = reader_.readElementText();
+    writer_.writeCharacters(
+        isText && !text.isEmpty() ? bundle_->localizedStringForKeyValueTable(text, text, nibName_) : text);
+    writer_.writeEndElement();
+}
+
+void Translator::copyClassName(QString *name)
+{
+    writer_.writeCurrentToken(reader_);
+    *name = reader_.readElementText();
+    writer_.writeCharacters(*name);
+    writer_.writeEndElement();
+}
+
+} // namespace
+
+InterfaceText readInterfaceText(QIODevice *file, const NSBundle *bundle, const QString &nibName)
+{
+    return Translator(file, bundle, nibName).run();
+}
