@@ -1,0 +1,4 @@
+#pragma once
+
+/// Whether the desktop wants light or dark windows.
+enum class ColorScheme { Light, Dark };

@@ -1,0 +1,43 @@
+#include "host/HostState.h"
+
+#include "platform/foundation/CFPreferences.h"
+
+namespace {
+
+const QString widthKey = QStringLiteral("WindowWidth");
+const QString heightKey = QStringLiteral("WindowHeight");
+const QString lastPaneKey = QStringLiteral("LastPane");
+
+} // namespace
+
+const QString HostState::domain = QStringLiteral("com.apple.systempreferences");
+
+QSize HostState::windowSize() const
+{
+    bool hasWidth = false;
+    bool hasHeight = false;
+    const int width = CFPreferencesGetAppIntegerValue(widthKey, domain, &hasWidth);
+    const int height = CFPreferencesGetAppIntegerValue(heightKey, domain, &hasHeight);
+    return hasWidth && hasHeight && width > 0 && height > 0 ? QSize(width, height) : QSize();
+}
+
+void HostState::setWindowSize(QSize size)
+{
+    CFPreferencesSetAppValue(widthKey, qlonglong(size.width()), domain);
+    CFPreferencesSetAppValue(heightKey, qlonglong(size.height()), domain);
+}
+
+QString HostState::lastPane() const
+{
+    return CFPreferencesCopyAppValue(lastPaneKey, domain).toString();
+}
+
+void HostState::setLastPane(const QString &identifier)
+{
+    CFPreferencesSetAppValue(lastPaneKey, identifier, domain);
+}
+
+void HostState::flush()
+{
+    CFPreferencesAppSynchronize(domain);
+}

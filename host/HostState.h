@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QSize>
+#include <QString>
+
+/// What the host remembers from one run to the next, in its own settings domain. Written to disk by flush.
+class HostState
+{
+public:
+    static const QString domain;
+
+    /// The window's size, or an invalid one when none was remembered.
+    QSize windowSize() const;
+    void setWindowSize(QSize size);
+
+    /// The identifier of the pane that was shown last, or empty.
+    QString lastPane() const;
+    void setLastPane(const QString &identifier);
+
+    void flush();
+};

@@ -1,0 +1,8 @@
+#include "host/HostText.h"
+
+#include "platform/foundation/NSBundle.h"
+
+QString hostText(const QString &english)
+{
+    return NSBundle::mainBundle()->localizedStringForKeyValueTable(english, QString(), QStringLiteral("Settings"));
+}

@@ -1,0 +1,257 @@
+#include "host/HostWindow.h"
+
+#include "host/ErrorPage.h"
+#include "host/HostText.h"
+#include "host/LetterTile.h"
+#include "host/Overview.h"
+#include "host/linux/WindowActivation.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QScreen>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QWindow>
+#include <utility>
+
+namespace {
+
+constexpr QSize defaultSize(820, 640);
+constexpr QSize smallestSize(480, 360);
+
+QString windowName()
+{
+    return hostText(QStringLiteral("Settings"));
+}
+
+QIcon hostIcon()
+{
+    const QIcon icon =
+        QIcon::fromTheme(QStringLiteral("lumaroo-settings"), QIcon::fromTheme(QStringLiteral("preferences-system")));
+    return icon.isNull() ? letterTile(windowName()) : icon;
+}
+
+QSize largestSize(const QWidget *window)
+{
+    return window->screen()->availableSize() - QSize(16, 48);
+}
+
+QWidget *pageAround(const QWidget *view)
+{
+    QWidget *around = view->parentWidget();
+    while (around && !qobject_cast<QScrollArea *>(around))
+        around = around->parentWidget();
+    return around;
+}
+
+QWidget *makePage(QWidget *view)
+{
+    auto *page = new QScrollArea;
+    page->setObjectName(QStringLiteral("panePage"));
+    page->setFrameShape(QFrame::NoFrame);
+    page->setWidgetResizable(true);
+    page->setFocusPolicy(Qt::NoFocus);
+    page->setWidget(view);
+    // The pane owns its view and takes it away with itself.
+    QObject::connect(view, &QObject::destroyed, page, &QObject::deleteLater);
+    return page;
+}
+
+bool isWithin(const QWidget *inner, const QWidget *outer)
+{
+    return inner && (inner == outer || outer->isAncestorOf(inner));
+}
+
+} // namespace
+
+HostWindow::HostWindow(QSize rememberedSize)
+    : stack_(new QStackedWidget(this)), header_(makeHeader()), sizeChosen_(rememberedSize.isValid())
+{
+    setObjectName(QStringLiteral("settingsWindow"));
+    stack_->setObjectName(QStringLiteral("pages"));
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(header_);
+    layout->addWidget(stack_, 1);
+    setMinimumSize(smallestSize);
+    resize((sizeChosen_ ? rememberedSize : defaultSize).boundedTo(largestSize(this)).expandedTo(smallestSize));
+    addShortcuts();
+    // The mouse's own back button counts wherever in the window it is pressed.
+    qApp->installEventFilter(this);
+}
+
+QWidget *HostWindow::makeHeader()
+{
+    auto *header = new QWidget(this);
+    header->setObjectName(QStringLiteral("header"));
+    backButton_ = new QToolButton(header);
+    backButton_->setObjectName(QStringLiteral("backButton"));
+    backButton_->setAutoRaise(true);
+    backButton_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    backButton_->setArrowType(isRightToLeft() ? Qt::RightArrow : Qt::LeftArrow);
+    backButton_->setText(hostText(QStringLiteral("&All settings")));
+    backButton_->setFocusPolicy(Qt::StrongFocus);
+    backButton_->setToolTip(QKeySequence(Qt::ALT | Qt::Key_Left).toString(QKeySequence::NativeText));
+    connect(backButton_, &QToolButton::clicked, this, &HostWindow::backRequested);
+    paneTitle_ = new QLabel(header);
+    paneTitle_->setObjectName(QStringLiteral("paneTitle"));
+    paneTitle_->setTextFormat(Qt::PlainText);
+    QFont font = paneTitle_->font();
+    font.setBold(true);
+    paneTitle_->setFont(font);
+
+    auto *layout = new QHBoxLayout(header);
+    layout->setContentsMargins(12, 6, 12, 6);
+    layout->addWidget(backButton_);
+    layout->addWidget(paneTitle_, 1, Qt::AlignCenter);
+    auto *balance = new QWidget(header);
+    balance->setFixedWidth(backButton_->sizeHint().width());
+    layout->addWidget(balance);
+    return header;
+}
+
+void HostWindow::addShortcuts()
+{
+    const auto add = [this](const QKeySequence &keys, void (HostWindow::*wish)()) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, wish);
+    };
+    add(Qt::ALT | Qt::Key_Left, &HostWindow::backRequested);
+    add(Qt::Key_Back, &HostWindow::backRequested);
+    add(Qt::CTRL | Qt::Key_F, &HostWindow::searchRequested);
+    add(Qt::CTRL | Qt::Key_Q, &HostWindow::closeRequested);
+    add(Qt::CTRL | Qt::Key_W, &HostWindow::closeRequested);
+}
+
+void HostWindow::showPage(QWidget *page, bool withHeader)
+{
+    if (stack_->indexOf(page) < 0)
+        stack_->addWidget(page);
+    header_->setVisible(withHeader);
+    stack_->setCurrentWidget(page);
+}
+
+void HostWindow::showOverview(const QList<InstalledPane> &panes, const QString &currentPath)
+{
+    if (!overview_) {
+        overview_ = new Overview;
+        connect(overview_, &Overview::paneOpened, this, &HostWindow::paneOpened);
+    }
+    overview_->setPanes(panes);
+    overview_->setCurrentPane(currentPath);
+    setWindowTitle(windowName());
+    setWindowIcon(hostIcon());
+    showPage(overview_, false);
+    overview_->focusPanes();
+}
+
+void HostWindow::focusSearch()
+{
+    if (overview_)
+        overview_->focusSearch();
+}
+
+void HostWindow::setTitle(const InstalledPane &pane)
+{
+    setWindowTitle(pane.name);
+    setWindowIcon(paneIcon(pane));
+    paneTitle_->setText(pane.name);
+}
+
+void HostWindow::showError(const InstalledPane &pane, const PaneFailureReport &report)
+{
+    if (!errorPage_)
+        errorPage_ = new ErrorPage;
+    setTitle(pane);
+    errorPage_->setReport(pane.name, report);
+    showPage(errorPage_, true);
+    backButton_->setFocus(Qt::OtherFocusReason);
+}
+
+void HostWindow::growFor(QWidget *view)
+{
+    if (std::exchange(sizeChosen_, true))
+        return;
+    const QSize wanted = view->sizeHint().expandedTo(view->minimumSizeHint()) + QSize(0, header_->sizeHint().height());
+    resize(size().expandedTo(wanted).boundedTo(largestSize(this)));
+}
+
+void HostWindow::showView(QWidget *view, std::function<void()> onScreen)
+{
+    QWidget *page = pageAround(view);
+    if (!page)
+        page = makePage(view);
+    growFor(view);
+    showPage(page, true);
+    QWidget *focus = lastFocus_.value(view);
+    if (!focus)
+        focus = view->nextInFocusChain();
+    if (isWithin(focus, view))
+        focus->setFocus(Qt::OtherFocusReason);
+    onScreen_ = std::move(onScreen);
+    show();
+    tellWhenOnScreen();
+}
+
+void HostWindow::hideView(QWidget *view)
+{
+    onScreen_ = {};
+    QWidget *focus = focusWidget();
+    lastFocus_[view] = isWithin(focus, view) ? focus : nullptr;
+    stack_->removeWidget(pageAround(view));
+    pageAround(view)->hide();
+}
+
+void HostWindow::tellWhenOnScreen()
+{
+    // A window manager frames and places the window before it first shows; only then is its frame known.
+    if (onScreen_ && windowHandle() && windowHandle()->isExposed())
+        std::exchange(onScreen_, {})();
+}
+
+void HostWindow::bringToFront(const QString &activationToken)
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindowWithToken(this, activationToken);
+}
+
+bool HostWindow::event(QEvent *event)
+{
+    if (event->type() == QEvent::WindowUnblocked)
+        Q_EMIT unblocked();
+    return QWidget::event(event);
+}
+
+bool HostWindow::eventFilter(QObject *object, QEvent *event)
+{
+    if (event->type() == QEvent::Expose && object == windowHandle())
+        QMetaObject::invokeMethod(this, &HostWindow::tellWhenOnScreen, Qt::QueuedConnection);
+    if (event->type() != QEvent::MouseButtonPress || static_cast<QMouseEvent *>(event)->button() != Qt::BackButton)
+        return QWidget::eventFilter(object, event);
+    const auto *widget = qobject_cast<QWidget *>(object);
+    if (!widget || widget->window() != this)
+        return QWidget::eventFilter(object, event);
+    Q_EMIT backRequested();
+    return true;
+}
+
+void HostWindow::closeEvent(QCloseEvent *event)
+{
+    event->setAccepted(mayClose_);
+    if (!mayClose_)
+        Q_EMIT closeRequested();
+}
+
+void HostWindow::resizeEvent(QResizeEvent *event)
+{
+    if (!(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)))
+        normalSize_ = event->size();
+    QWidget::resizeEvent(event);
+}

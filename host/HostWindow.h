@@ -1,0 +1,73 @@
+#pragma once
+
+#include "host/PaneCatalogue.h"
+#include "host/PaneFailure.h"
+#include "host/PaneStage.h"
+
+#include <QHash>
+#include <QPointer>
+#include <QWidget>
+
+class ErrorPage;
+class Overview;
+class QLabel;
+class QStackedWidget;
+class QToolButton;
+
+/// The host's one window: a header with the way back, and below it the overview, a pane or the error page. It keeps its
+/// size between them.
+class HostWindow : public QWidget, public PaneStage
+{
+    Q_OBJECT
+
+public:
+    explicit HostWindow(QSize rememberedSize);
+
+    void showOverview(const QList<InstalledPane> &panes, const QString &currentPath);
+    void showError(const InstalledPane &pane, const PaneFailureReport &report);
+    void setTitle(const InstalledPane &pane);
+    void focusSearch();
+    /// Shows the window, before all others; `activationToken` is what the starting desktop gave for that, or empty.
+    void bringToFront(const QString &activationToken);
+
+    void showView(QWidget *view, std::function<void()> onScreen) override;
+    void hideView(QWidget *view) override;
+
+    /// The size it has or had before it was maximised, for the next run.
+    QSize sizeToRemember() const { return normalSize_; }
+    /// From now on closing it is nobody's question.
+    void allowClosing() { mayClose_ = true; }
+
+Q_SIGNALS:
+    void paneOpened(const QString &path);
+    void backRequested();
+    void searchRequested();
+    void closeRequested();
+    /// A modal window that blocked this one is gone.
+    void unblocked();
+
+protected:
+    bool event(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+private:
+    QWidget *makeHeader();
+    void addShortcuts();
+    void showPage(QWidget *page, bool withHeader);
+    void growFor(QWidget *view);
+    void tellWhenOnScreen();
+
+    QStackedWidget *stack_;
+    QWidget *header_;
+    QToolButton *backButton_;
+    QLabel *paneTitle_;
+    Overview *overview_ = nullptr;
+    ErrorPage *errorPage_ = nullptr;
+    QHash<QWidget *, QPointer<QWidget>> lastFocus_;
+    QSize normalSize_;
+    bool sizeChosen_;
+    bool mayClose_ = false;
+    std::function<void()> onScreen_;
+};

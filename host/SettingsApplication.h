@@ -1,0 +1,65 @@
+#pragma once
+
+#include "host/HostState.h"
+#include "host/HostWindow.h"
+#include "host/PaneController.h"
+
+#include <QObject>
+#include <QStringList>
+#include <optional>
+
+/// The settings application: its window, the panes it drives, and the ways between them.
+class SettingsApplication : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Looks for panes in these folders.
+    explicit SettingsApplication(const QStringList &folders);
+    ~SettingsApplication() override;
+
+    /// Shows the window: with a pane (path or identifier), or with the overview when the request is empty.
+    void start(const QString &request);
+    /// What a second start asks for: an empty request only brings the window to the front.
+    void open(const QString &request, const QString &activationToken);
+    void showOverview();
+    void search();
+
+    /// Asks the shown pane whether it may be left, then ends. Until then, or until the pane is kept, requests of other
+    /// starts are not taken.
+    void terminate();
+    /// Ends without asking: the user's session or a signal ends the program.
+    void terminateAtOnce();
+    /// Leaves and releases what is left and remembers the host's own state. Called when the event loop has ended.
+    void finish();
+
+    HostWindow *window() { return &window_; }
+
+Q_SIGNALS:
+    void takesRequestsChanged(bool takes);
+
+private:
+    struct Destination
+    {
+        enum class Kind { Overview, Search, Pane, End };
+        Kind kind;
+        QString request;
+    };
+
+    void go(const Destination &destination);
+    void arrive(const Destination &destination);
+    void arriveAtOverview();
+    void openPane(const QString &request);
+    void goOnWhenPossible();
+    void keepPane();
+    void setTerminating(bool terminating);
+
+    QStringList folders_;
+    HostState state_;
+    HostWindow window_;
+    PaneController controller_;
+    QString lastPath_;
+    std::optional<Destination> waiting_;
+    bool terminating_ = false;
+    bool finished_ = false;
+};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QObject>
+
+/// Turns the signals that end a program (SIGTERM, SIGINT, SIGHUP) into one emitted in the event loop. One object per
+/// process.
+class EndingSignals : public QObject
+{
+    Q_OBJECT
+
+public:
+    EndingSignals();
+    ~EndingSignals() override;
+
+Q_SIGNALS:
+    void received();
+};

@@ -1,0 +1,92 @@
+#include "host/linux/SingleInstance.h"
+
+#include "platform/foundation/NSLog.h"
+
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <utility>
+
+namespace {
+
+const QString service = QStringLiteral("com.quorvane.LumarooSettings");
+const QString path = QStringLiteral("/com/quorvane/LumarooSettings");
+const QString method = QStringLiteral("Open");
+constexpr int answerTimeout = 25000;
+constexpr int mostWaiting = 64;
+// The owner may end between two of our steps, and the next one of several that waited may be faster.
+constexpr int attempts = 16;
+
+bool ownerEnded(const QDBusMessage &answer)
+{
+    const QDBusError::ErrorType error = QDBusError(answer).type();
+    return error == QDBusError::ServiceUnknown || error == QDBusError::NoReply || error == QDBusError::UnknownObject;
+}
+
+QDBusMessage handOver(const QString &request, const QString &activationToken)
+{
+    QDBusMessage message = QDBusMessage::createMethodCall(service, path, service, method);
+    message << request << activationToken;
+    return QDBusConnection::sessionBus().call(message, QDBus::Block, answerTimeout);
+}
+
+bool nameIsOwned()
+{
+    return QDBusConnection::sessionBus().interface()->isServiceRegistered(service);
+}
+
+} // namespace
+
+bool SingleInstance::becomeFirst()
+{
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    // The object first: whoever sees the name must find it.
+    bus.registerObject(path, this, QDBusConnection::ExportScriptableSlots);
+    const auto reply = bus.interface()->registerService(service);
+    const bool first = reply.isValid() && reply.value() == QDBusConnectionInterface::ServiceRegistered;
+    if (!first)
+        bus.unregisterObject(path);
+    return first;
+}
+
+SingleInstance::Outcome SingleInstance::start(const QString &request, const QString &activationToken)
+{
+    if (!QDBusConnection::sessionBus().isConnected())
+        return Outcome::First;
+    for (int attempt = 0; attempt < attempts; ++attempt) {
+        if (becomeFirst())
+            return Outcome::First;
+        const QDBusMessage answer = handOver(request, activationToken);
+        if (answer.type() == QDBusMessage::ReplyMessage)
+            return Outcome::HandedOver;
+        if (!ownerEnded(answer) || nameIsOwned()) {
+            NSLog(QStringLiteral("lumaroo: settings: the running settings application does not answer: %1")
+                      .arg(answer.errorMessage()));
+            return Outcome::NoAnswer;
+        }
+    }
+    return Outcome::NoAnswer;
+}
+
+void SingleInstance::setTakesRequests(bool takes)
+{
+    takesRequests_ = takes;
+    if (!takes)
+        return;
+    for (const QDBusMessage &message : std::exchange(waiting_, {})) {
+        QDBusConnection::sessionBus().send(message.createReply());
+        Q_EMIT requested(message.arguments().value(0).toString(), message.arguments().value(1).toString());
+    }
+}
+
+void SingleInstance::Open(const QString &request, const QString &activationToken)
+{
+    if (takesRequests_) {
+        Q_EMIT requested(request, activationToken);
+        return;
+    }
+    setDelayedReply(true);
+    if (waiting_.size() < mostWaiting)
+        waiting_ += message();
+    else
+        sendErrorReply(QDBusError::LimitsExceeded, QStringLiteral("too many requests wait"));
+}

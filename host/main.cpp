@@ -1,0 +1,88 @@
+// The settings application.
+
+#include "host/Appearance.h"
+#include "host/HostText.h"
+#include "host/SettingsApplication.h"
+#include "host/linux/EndingSignals.h"
+#include "host/linux/SingleInstance.h"
+#include "host/linux/WindowActivation.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+struct Arguments
+{
+    QString request;
+    std::optional<ColorScheme> scheme;
+};
+
+/// A path is made whole here, since the instance that takes the request may run in another folder.
+QString wholeRequest(const QString &argument)
+{
+    const bool isPath = argument.contains(u'/') || QFileInfo(argument).isDir();
+    return isPath ? QDir::cleanPath(QDir::current().absoluteFilePath(argument)) : argument;
+}
+
+Arguments readArguments()
+{
+    QCommandLineParser parser;
+    const QCommandLineOption theme(
+        QStringLiteral("theme"), QStringLiteral("Use this colour scheme: light or dark."), QStringLiteral("scheme"));
+    parser.addOption(theme);
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addPositionalArgument(QStringLiteral("pane"), QStringLiteral("The pane to open, by its path or identifier."),
+        QStringLiteral("[pane]"));
+    parser.process(*qApp);
+    const QString scheme = parser.value(theme);
+    if (parser.positionalArguments().size() > 1
+        || (parser.isSet(theme) && scheme != QStringLiteral("light") && scheme != QStringLiteral("dark")))
+        parser.showHelp(2);
+    Arguments arguments;
+    if (!parser.positionalArguments().isEmpty())
+        arguments.request = wholeRequest(parser.positionalArguments().first());
+    if (parser.isSet(theme))
+        arguments.scheme = scheme == QStringLiteral("dark") ? ColorScheme::Dark : ColorScheme::Light;
+    return arguments;
+}
+
+int run(SettingsApplication &settings, SingleInstance &instance, const QString &request)
+{
+    EndingSignals endingSignals;
+    QObject::connect(&endingSignals, &EndingSignals::received, &settings, &SettingsApplication::terminateAtOnce);
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &settings, &SettingsApplication::terminateAtOnce);
+    // Queued: whoever asked shall not wait for a pane's question to the user.
+    QObject::connect(
+        &instance, &SingleInstance::requested, &settings, &SettingsApplication::open, Qt::QueuedConnection);
+    QObject::connect(
+        &settings, &SettingsApplication::takesRequestsChanged, &instance, &SingleInstance::setTakesRequests);
+    settings.start(request);
+    const int status = QCoreApplication::exec();
+    settings.finish();
+    return status;
+}
+
+} // namespace
+
+int main(int argumentCount, char **argumentValues)
+{
+    const QString activationToken = takeActivationToken();
+    QApplication application(argumentCount, argumentValues);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setApplicationVersion(QStringLiteral(LUMAROO_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("com.quorvane.LumarooSettings"));
+    const Arguments arguments = readArguments();
+
+    SingleInstance instance;
+    const SingleInstance::Outcome outcome = instance.start(arguments.request, activationToken);
+    if (outcome != SingleInstance::Outcome::First)
+        return outcome == SingleInstance::Outcome::HandedOver ? 0 : 1;
+
+    const Appearance appearance(arguments.scheme);
+    SettingsApplication settings(paneFolders());
+    return run(settings, instance, arguments.request);
+}
