@@ -4,6 +4,8 @@
 #include "platform/appkit/FloatSlider.h"
 #include "platform/appkit/NSColorWell.h"
 #include "platform/appkit/NSMatrix.h"
+#include "platform/appkit/NSSwitch.h"
+#include "platform/appkit/StyledLabel.h"
 #include "platform/foundation/NSLog.h"
 
 #include <QBuffer>
@@ -26,6 +28,8 @@ WidgetMaker ownClass(const QString &className)
         {QStringLiteral("NSColorWell"), &make<NSColorWell>},
         {QStringLiteral("FloatSlider"), &make<FloatSlider>},
         {QStringLiteral("ConflictMarker"), &make<ConflictMarker>},
+        {QStringLiteral("NSSwitch"), &make<NSSwitch>},
+        {QStringLiteral("StyledLabel"), &make<StyledLabel>},
     };
     return makers.value(className);
 }

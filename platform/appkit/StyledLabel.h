@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/appkit/Export.h"
+
+#include <QLabel>
+
+/// A label in one of the window's text styles, made from the user's own font and palette and following both.
+///
+/// A title is larger, a heading bold; secondary text is smaller and paler, but keeps a contrast of 4.5:1 against its
+/// window.
+class LM_APPKIT StyledLabel : public QLabel
+{
+    Q_OBJECT
+    Q_PROPERTY(TextStyle textStyle READ textStyle WRITE setTextStyle)
+
+public:
+    enum TextStyle { Body, Title, Heading, Secondary };
+    Q_ENUM(TextStyle)
+
+    explicit StyledLabel(QWidget *parent = nullptr);
+
+    TextStyle textStyle() const { return textStyle_; }
+    void setTextStyle(TextStyle textStyle);
+
+protected:
+    bool event(QEvent *event) override;
+
+private:
+    void applyTextStyle();
+    TextStyle textStyle_ = Body;
+    bool applying_ = false;
+};
+
+/// How far two colours stand apart, from 1 (not at all) to 21 (black and white); 4.5 is the least for text.
+LM_APPKIT double contrastRatio(const QColor &one, const QColor &other);
