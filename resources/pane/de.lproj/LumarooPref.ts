@@ -1,0 +1,447 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>LumarooPref</name>
+    <message>
+        <source>&amp;General</source>
+        <translation>All&amp;gemein</translation>
+    </message>
+    <message>
+        <source>Turn Lumaroo on or off</source>
+        <translation>Lumaroo ein- oder ausschalten</translation>
+    </message>
+    <message>
+        <source>&amp;Lumaroo runs in the background. It stays on when you close this window.</source>
+        <translation>&amp;Lumaroo läuft im Hintergrund. Es bleibt eingeschaltet, wenn Sie dieses Fenster schließen.</translation>
+    </message>
+    <message>
+        <source>What to do next</source>
+        <translation>So geht es weiter</translation>
+    </message>
+    <message>
+        <source>Hold the modifier keys and press a movement key. Lumaroo marks a window; each further press moves the mark to the next window.</source>
+        <translation>Halten Sie die Zusatztasten und drücken Sie eine Bewegungstaste. Lumaroo markiert ein Fenster; jeder weitere Druck bewegt die Markierung zum nächsten Fenster.</translation>
+    </message>
+    <message>
+        <source>Then press an action key to act on the marked window.</source>
+        <translation>Drücken Sie dann eine Aktionstaste, um mit dem markierten Fenster etwas zu tun.</translation>
+    </message>
+    <message>
+        <source>You see and choose all these keys on the page “Keys”.</source>
+        <translation>Alle diese Tasten sehen und wählen Sie auf der Seite „Tasten“.</translation>
+    </message>
+    <message>
+        <source>New to Lumaroo</source>
+        <translation>Neu bei Lumaroo</translation>
+    </message>
+    <message>
+        <source>Start the &amp;tutorial</source>
+        <translation>&amp;Einführung starten</translation>
+    </message>
+    <message>
+        <source>The tutorial shows the keys at work. It turns Lumaroo on if it is off.</source>
+        <translation>Die Einführung zeigt die Tasten im Einsatz. Sie schaltet Lumaroo ein, wenn es ausgeschaltet ist.</translation>
+    </message>
+    <message>
+        <source>Help about turning Lumaroo on</source>
+        <translation>Hilfe zum Einschalten von Lumaroo</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>&amp;Tasten</translation>
+    </message>
+    <message>
+        <source>Modifier keys</source>
+        <translation>Zusatztasten</translation>
+    </message>
+    <message>
+        <source>⇧ Sh&amp;ift</source>
+        <translation>⇧ &amp;Umschalt</translation>
+    </message>
+    <message>
+        <source>⌃ &amp;Control</source>
+        <translation>⌃ &amp;Strg</translation>
+    </message>
+    <message>
+        <source>⌥ A&amp;lt</source>
+        <translation>⌥ A&amp;lt</translation>
+    </message>
+    <message>
+        <source>⌘ Sup&amp;er</source>
+        <translation>⌘ Su&amp;per</translation>
+    </message>
+    <message>
+        <source>The modifier keys in use</source>
+        <translation>Die verwendeten Zusatztasten</translation>
+    </message>
+    <message>
+        <source>Hold these while you press one of the keys below.</source>
+        <translation>Halten Sie diese gedrückt, während Sie eine der Tasten unten drücken.</translation>
+    </message>
+    <message>
+        <source>Movement keys</source>
+        <translation>Bewegungstasten</translation>
+    </message>
+    <message>
+        <source>Help about movement keys</source>
+        <translation>Hilfe zu den Bewegungstasten</translation>
+    </message>
+    <message>
+        <source>This key is used more than once.</source>
+        <translation>Diese Taste ist mehrfach belegt.</translation>
+    </message>
+    <message>
+        <source>Click here, then press the new key</source>
+        <translation>Hier klicken, dann die neue Taste drücken</translation>
+    </message>
+    <message>
+        <source>Key to move up</source>
+        <translation>Taste für die Bewegung nach oben</translation>
+    </message>
+    <message>
+        <source>Press a key</source>
+        <translation>Drücken Sie eine Taste</translation>
+    </message>
+    <message>
+        <source>Key to move right</source>
+        <translation>Taste für die Bewegung nach rechts</translation>
+    </message>
+    <message>
+        <source>Key to move down</source>
+        <translation>Taste für die Bewegung nach unten</translation>
+    </message>
+    <message>
+        <source>Key to move left</source>
+        <translation>Taste für die Bewegung nach links</translation>
+    </message>
+    <message>
+        <source>Key to move to the window under the marked one</source>
+        <translation>Taste für die Bewegung zum Fenster unter dem markierten</translation>
+    </message>
+    <message>
+        <source>U&amp;p</source>
+        <translation>&amp;Oben</translation>
+    </message>
+    <message>
+        <source>&amp;Right</source>
+        <translation>&amp;Rechts</translation>
+    </message>
+    <message>
+        <source>&amp;Down</source>
+        <translation>U&amp;nten</translation>
+    </message>
+    <message>
+        <source>Le&amp;ft</source>
+        <translation>Lin&amp;ks</translation>
+    </message>
+    <message>
+        <source>U&amp;nder</source>
+        <translation>&amp;Darunter</translation>
+    </message>
+    <message>
+        <source>Action keys</source>
+        <translation>Aktionstasten</translation>
+    </message>
+    <message>
+        <source>Help about action keys</source>
+        <translation>Hilfe zu den Aktionstasten</translation>
+    </message>
+    <message>
+        <source>Key to open these settings</source>
+        <translation>Taste zum Öffnen dieser Einstellungen</translation>
+    </message>
+    <message>
+        <source>Key to take a screenshot</source>
+        <translation>Taste für ein Bildschirmfoto</translation>
+    </message>
+    <message>
+        <source>Key to close the window</source>
+        <translation>Taste zum Schließen des Fensters</translation>
+    </message>
+    <message>
+        <source>Key to show a preview</source>
+        <translation>Taste zum Zeigen einer Vorschau</translation>
+    </message>
+    <message>
+        <source>Key to cancel the selection</source>
+        <translation>Taste zum Abbrechen der Auswahl</translation>
+    </message>
+    <message>
+        <source>Key to jump to the selection</source>
+        <translation>Taste zum Springen zur Auswahl</translation>
+    </message>
+    <message>
+        <source>&amp;Open these settings</source>
+        <translation>&amp;Einstellungen öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Take a screenshot</source>
+        <translation>B&amp;ildschirmfoto machen</translation>
+    </message>
+    <message>
+        <source>Close the &amp;window</source>
+        <translation>&amp;Fenster schließen</translation>
+    </message>
+    <message>
+        <source>Show a pre&amp;view</source>
+        <translation>Vors&amp;chau zeigen</translation>
+    </message>
+    <message>
+        <source>Cancel the &amp;selection</source>
+        <translation>Aus&amp;wahl abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Jump to the selection</source>
+        <translation>&amp;Zur Auswahl springen</translation>
+    </message>
+    <message>
+        <source>To change a key, click it and press the new one. A warning sign marks a key that is used more than once.</source>
+        <translation>Um eine Taste zu ändern, klicken Sie sie an und drücken Sie die neue. Ein Warnzeichen markiert eine mehrfach belegte Taste.</translation>
+    </message>
+    <message>
+        <source>&amp;Behavior</source>
+        <translation>&amp;Verhalten</translation>
+    </message>
+    <message>
+        <source>Order of windows</source>
+        <translation>Reihenfolge der Fenster</translation>
+    </message>
+    <message>
+        <source>&amp;Left and right, start at:</source>
+        <translation>&amp;Links und rechts, ab:</translation>
+    </message>
+    <message>
+        <source>First selected window</source>
+        <translation>Zuerst gewähltes Fenster</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Linker Rand</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Rechter Rand</translation>
+    </message>
+    <message>
+        <source>Leading edge</source>
+        <translation>Vorderkante</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Up and &amp;down, start at:</source>
+        <translation>&amp;Oben und unten, ab:</translation>
+    </message>
+    <message>
+        <source>Top edge</source>
+        <translation>Oberer Rand</translation>
+    </message>
+    <message>
+        <source>Bottom edge</source>
+        <translation>Unterer Rand</translation>
+    </message>
+    <message>
+        <source>Action key &amp;cycles:</source>
+        <translation>Aktionstaste blätte&amp;rt:</translation>
+    </message>
+    <message>
+        <source>In ascending order</source>
+        <translation>Aufsteigend</translation>
+    </message>
+    <message>
+        <source>In descending order</source>
+        <translation>Absteigend</translation>
+    </message>
+    <message>
+        <source>&amp;Wrap around at the left and right edges of the screen</source>
+        <translation>Am linken und rechten Bildschirmrand &amp;umbrechen</translation>
+    </message>
+    <message>
+        <source>Wrap around at the &amp;top and bottom edges of the screen</source>
+        <translation>Am oberen und u&amp;nteren Bildschirmrand umbrechen</translation>
+    </message>
+    <message>
+        <source>Double click</source>
+        <translation>Doppelklick</translation>
+    </message>
+    <message>
+        <source>Acti&amp;vate with a double click</source>
+        <translation>Mit &amp;Doppelklick aktivieren</translation>
+    </message>
+    <message>
+        <source>Keep Lumaroo active:</source>
+        <translation>Lumaroo aktiv halten:</translation>
+    </message>
+    <message>
+        <source>Keep Lumaroo active</source>
+        <translation>Lumaroo aktiv halten</translation>
+    </message>
+    <message>
+        <source>A&amp;fter a double click</source>
+        <translation>Nach einem Do&amp;ppelklick</translation>
+    </message>
+    <message>
+        <source>With&amp;out a double click</source>
+        <translation>Ohne Doppelkli&amp;ck</translation>
+    </message>
+    <message>
+        <source>Key repeat</source>
+        <translation>Tastenwiederholung</translation>
+    </message>
+    <message>
+        <source>Re&amp;peat while a movement key is held</source>
+        <translation>Bew&amp;egung wiederholen, solange die Taste gehalten wird</translation>
+    </message>
+    <message>
+        <source>D&amp;elay before the first repeat:</source>
+        <translation>Ver&amp;zögerung zu Beginn:</translation>
+    </message>
+    <message>
+        <source>Short</source>
+        <translation>Kurz</translation>
+    </message>
+    <message>
+        <source>Delay before the first repeat</source>
+        <translation>Verzögerung zu Beginn</translation>
+    </message>
+    <message>
+        <source>Long</source>
+        <translation>Lang</translation>
+    </message>
+    <message>
+        <source>Repeat &amp;speed:</source>
+        <translation>Ge&amp;schwindigkeit:</translation>
+    </message>
+    <message>
+        <source>Slow</source>
+        <translation>Langsam</translation>
+    </message>
+    <message>
+        <source>Repeat speed</source>
+        <translation>Geschwindigkeit der Wiederholung</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>Schnell</translation>
+    </message>
+    <message>
+        <source>Overlay</source>
+        <translation>Overlay</translation>
+    </message>
+    <message>
+        <source>Colo&amp;r:</source>
+        <translation>&amp;Farbe:</translation>
+    </message>
+    <message>
+        <source>Overlay color</source>
+        <translation>Farbe des Overlays</translation>
+    </message>
+    <message>
+        <source>Choose the color of the overlay</source>
+        <translation>Farbe des Overlays wählen</translation>
+    </message>
+    <message>
+        <source>Use s&amp;ystem color</source>
+        <translation>S&amp;ystemfarbe verwenden</translation>
+    </message>
+    <message>
+        <source>A&amp;nimate the overlay</source>
+        <translation>Overlay an&amp;imieren</translation>
+    </message>
+    <message>
+        <source>Help about the order of windows</source>
+        <translation>Hilfe zur Reihenfolge der Fenster</translation>
+    </message>
+    <message>
+        <source>&amp;Updates</source>
+        <translation>&amp;Aktualisierung</translation>
+    </message>
+    <message>
+        <source>Automatic check</source>
+        <translation>Automatische Suche</translation>
+    </message>
+    <message>
+        <source>&amp;Check for new versions automatically</source>
+        <translation>Automatisch nach &amp;neuen Versionen suchen</translation>
+    </message>
+    <message>
+        <source>Lumaroo looks once a day and asks before it installs anything.</source>
+        <translation>Lumaroo sucht einmal am Tag und fragt, bevor es etwas installiert.</translation>
+    </message>
+    <message>
+        <source>Check by hand</source>
+        <translation>Suche von Hand</translation>
+    </message>
+    <message>
+        <source>Check &amp;now</source>
+        <translation>&amp;Jetzt suchen</translation>
+    </message>
+    <message>
+        <source>Help about updates</source>
+        <translation>Hilfe zur Aktualisierung</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Lumaroo at a glance&lt;/h3&gt;&lt;p&gt;Lumaroo lets you choose and act on windows with the keyboard.&lt;/p&gt;&lt;ul&gt;&lt;li&gt;&lt;b&gt;General&lt;/b&gt; turns Lumaroo on and off and starts the tutorial.&lt;/li&gt;&lt;li&gt;&lt;b&gt;Keys&lt;/b&gt; holds the modifier keys, the five movement keys and the six action keys.&lt;/li&gt;&lt;li&gt;&lt;b&gt;Behavior&lt;/b&gt; sets the order of windows, key repeat and the look of the overlay.&lt;/li&gt;&lt;li&gt;&lt;b&gt;Updates&lt;/b&gt; looks for new versions.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;The button with the question mark on each page, or F1, opens the help for that page.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Lumaroo auf einen Blick&lt;/h3&gt;&lt;p&gt;Mit Lumaroo wählen und bedienen Sie Fenster über die Tastatur.&lt;/p&gt;&lt;ul&gt;&lt;li&gt;&lt;b&gt;Allgemein&lt;/b&gt; schaltet Lumaroo ein und aus und startet die Einführung.&lt;/li&gt;&lt;li&gt;&lt;b&gt;Tasten&lt;/b&gt; enthält die Zusatztasten, die fünf Bewegungstasten und die sechs Aktionstasten.&lt;/li&gt;&lt;li&gt;&lt;b&gt;Verhalten&lt;/b&gt; bestimmt die Reihenfolge der Fenster, die Tastenwiederholung und das Aussehen des Overlays.&lt;/li&gt;&lt;li&gt;&lt;b&gt;Aktualisierung&lt;/b&gt; sucht nach neuen Versionen.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Die Schaltfläche mit dem Fragezeichen auf jeder Seite, oder F1, öffnet die Hilfe zu dieser Seite.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Visit the &amp;web page</source>
+        <translation>&amp;Webseite besuchen</translation>
+    </message>
+    <message>
+        <source>Send &amp;feedback</source>
+        <translation>&amp;Rückmeldung senden</translation>
+    </message>
+    <message>
+        <source>Help about using Lumaroo without a mouse</source>
+        <translation>Hilfe zur Bedienung ohne Maus</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>Ü&amp;ber</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>Mitwirkende</translation>
+    </message>
+    <message>
+        <source>Copyright © 2026 The Lumaroo developers</source>
+        <translation>Copyright © 2026 The Lumaroo developers</translation>
+    </message>
+    <message>
+        <source>More help</source>
+        <translation>Weitere Hilfe</translation>
+    </message>
+    <message>
+        <source>Lumaroo beta</source>
+        <translation>Lumaroo Beta</translation>
+    </message>
+    <message>
+        <source>This is a beta version of Lumaroo</source>
+        <translation>Dies ist eine Betaversion von Lumaroo</translation>
+    </message>
+    <message>
+        <source>It may have faults that the finished version will not have. Please tell us what you find: choose “Send feedback” on the page “Help”.</source>
+        <translation>Sie kann Fehler haben, die es in der fertigen Version nicht mehr gibt. Bitte sagen Sie uns, was Sie finden: Wählen Sie „Rückmeldung senden“ auf der Seite „Hilfe“.</translation>
+    </message>
+    <message>
+        <source>&amp;Do not show this again for this version</source>
+        <translation>Für diese Version &amp;nicht mehr zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+</context>
+</TS>
