@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+#include <array>
+
+/// One of the agent's actions that a key triggers: where its key is stored, and the key it has when nothing is stored.
+struct KTXActionKey
+{
+    QString preferenceName;
+    quint16 defaultKeyCode;
+};
+
+inline constexpr int KTXActionKeyCount = 11;
+
+/// The actions in the order of the hot key table's rows.
+const std::array<KTXActionKey, KTXActionKeyCount> &KTXActionKeys();
