@@ -13,8 +13,8 @@ class QTabWidget;
 class NSMatrix;
 class NSAttributedString;
 
-// Controls as their owner uses them. On an absent or destroyed control every function does nothing and returns 0,
-// false, null or empty. None of them sends the control's action, except performClick.
+// Controls as their owner uses them, by pointer or by outlet. On an absent or destroyed control every function does
+// nothing and returns 0, false, null or empty. None of them sends the control's action, except performClick.
 
 enum NSControlState { NSMixedState = -1, NSOffState = 0, NSOnState = 1 };
 
@@ -70,114 +70,3 @@ LM_APPKIT void performClick(QObject *control);
 /// The first view with a tag: depth first, `root` included, not into a matrix, tab pages by index, otherwise children
 /// in order. Null without one.
 LM_APPKIT QWidget *viewWithTag(QWidget *root, int viewTag);
-
-template <typename T>
-int tag(const Outlet<T> &outlet)
-{
-    return tag(outlet.get());
-}
-template <typename T>
-int state(const Outlet<T> &outlet)
-{
-    return state(outlet.get());
-}
-template <typename T>
-void setState(const Outlet<T> &outlet, int value)
-{
-    setState(outlet.get(), value);
-}
-template <typename T>
-QString stringValue(const Outlet<T> &outlet)
-{
-    return stringValue(outlet.get());
-}
-template <typename T>
-void setStringValue(const Outlet<T> &outlet, const QString &text)
-{
-    setStringValue(outlet.get(), text);
-}
-template <typename T>
-float floatValue(const Outlet<T> &outlet)
-{
-    return floatValue(outlet.get());
-}
-template <typename T>
-void setFloatValue(const Outlet<T> &outlet, float value)
-{
-    setFloatValue(outlet.get(), value);
-}
-template <typename T>
-bool isEnabled(const Outlet<T> &outlet)
-{
-    return isEnabled(outlet.get());
-}
-template <typename T>
-void setEnabled(const Outlet<T> &outlet, bool enabled)
-{
-    setEnabled(outlet.get(), enabled);
-}
-template <typename T>
-void setHidden(const Outlet<T> &outlet, bool hidden)
-{
-    setHidden(outlet.get(), hidden);
-}
-template <typename T>
-bool isHidden(const Outlet<T> &outlet)
-{
-    return isHidden(outlet.get());
-}
-template <typename T>
-void setBackgroundColor(const Outlet<T> &outlet, const QColor &value)
-{
-    setBackgroundColor(outlet.get(), value);
-}
-template <typename T>
-void performClick(const Outlet<T> &outlet)
-{
-    performClick(outlet.get());
-}
-template <typename T>
-void setTextColor(const Outlet<T> &outlet, const QColor &value)
-{
-    setTextColor(outlet.get(), value);
-}
-template <typename T>
-bool selectItemWithTag(const Outlet<T> &outlet, int itemTag)
-{
-    return selectItemWithTag(outlet.get(), itemTag);
-}
-template <typename T>
-int selectedItemTag(const Outlet<T> &outlet)
-{
-    return selectedItemTag(outlet.get());
-}
-template <typename T>
-NSColorRef color(const Outlet<T> &outlet)
-{
-    return color(outlet.get());
-}
-template <typename T>
-void setColor(const Outlet<T> &outlet, const NSColorRef &value)
-{
-    setColor(outlet.get(), value);
-}
-template <typename T>
-void setAttributedString(const Outlet<T> &outlet, const NSAttributedString &text)
-{
-    setAttributedString(outlet.get(), text);
-}
-template <typename T>
-int selectedTabIndex(const Outlet<T> &outlet)
-{
-    return selectedTabIndex(outlet.get());
-}
-template <typename T>
-void selectTabViewItemAtIndex(const Outlet<T> &outlet, int index)
-{
-    selectTabViewItemAtIndex(outlet.get(), index);
-}
-template <typename T>
-qint64 indexOfTabViewItemWithIdentifier(const Outlet<T> &outlet, const QString &identifier)
-{
-    return indexOfTabViewItemWithIdentifier(outlet.get(), identifier);
-}

@@ -3,7 +3,6 @@
 #include "platform/appkit/Export.h"
 
 #include <QString>
-#include <QStringList>
 #include <memory>
 
 class NSBundle;
@@ -27,8 +26,11 @@ public:
     void setInformativeText(const QString &text);
     /// The image file to show beside the text; a file that is missing or unreadable gives no icon and no error.
     void setIconFile(const QString &path);
-    /// Adds a button. The focus starts on the button titled as Cancel if there is one, else on the first; Escape
-    /// presses the Cancel button.
+    /// Adds a button; an alert without any gets "OK".
+    ///
+    /// The Cancel button is the one titled "Cancel", or as the main bundle or the help anchor's bundle has that word in
+    /// the user's language. The focus starts on it if there is one, else on the first button; Escape and closing the
+    /// window press it, or else the only button.
     void addButtonWithTitle(const QString &title);
     /// The plain key that presses a button, such as "q"; no modifier needed.
     void setKeyEquivalent(int buttonIndex, const QString &key);
@@ -37,7 +39,8 @@ public:
     void setShowsHelp(bool shows);
     void setHelpAnchor(const QString &anchor, NSBundle *bundle);
 
-    /// Runs application-modally and returns the button that ended it, NSAlertFirstButtonReturn + its index.
+    /// Runs application-modally and returns the button that ended it, NSAlertFirstButtonReturn + its index. When the
+    /// application ends meanwhile, it is the button that Escape presses, or else the last.
     int runModal();
 
 private:

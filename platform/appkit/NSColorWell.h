@@ -4,6 +4,7 @@
 #include "platform/foundation/NSColor.h"
 
 #include <QAbstractButton>
+#include <QColor>
 
 /// A field that shows a colour and, when clicked, edits it in the shared colour panel.
 ///
@@ -15,6 +16,7 @@ class LM_APPKIT NSColorWell : public QAbstractButton
 
 public:
     explicit NSColorWell(QWidget *parent = nullptr);
+    ~NSColorWell() override;
 
     NSColorRef color() const { return color_; }
     void setColor(const NSColorRef &color);
@@ -23,6 +25,9 @@ public:
     QColor initialColor() const;
     void setInitialColor(const QColor &color);
 
+    /// Called by the colour panel with each colour the user picks for this well.
+    void takeColorFromPanel(const NSColorRef &color);
+
     QSize sizeHint() const override;
 
 Q_SIGNALS:
@@ -30,8 +35,12 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     void activate();
+    void describeColor();
+    void paintBorder(QPainter *painter) const;
     NSColorRef color_;
 };

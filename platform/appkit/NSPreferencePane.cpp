@@ -7,6 +7,8 @@ NSPreferencePane::NSPreferencePane() = default;
 
 NSPreferencePane::~NSPreferencePane()
 {
+    // What the pane's own class answered with is gone already: the view's end must not call on it.
+    actionsEndWith_.reset();
     delete mainView_;
 }
 
@@ -18,13 +20,17 @@ bool NSPreferencePane::initWithBundle(NSBundle *bundle)
 
 QString NSPreferencePane::mainNibName() const
 {
-    const QString name = bundle_->infoDictionary().value(QStringLiteral("NSMainNibFile")).toString();
+    const QVariantMap info = bundle_ ? bundle_->infoDictionary() : QVariantMap();
+    const QString name = info.value(QStringLiteral("NSMainNibFile")).toString();
     return name.isEmpty() ? QStringLiteral("Main") : name;
 }
 
 QWidget *NSPreferencePane::loadMainView()
 {
-    mainView_ = loadInterfaceFile(bundle_, mainNibName(), interfaceOwner());
+    actionsEndWith_ = std::make_unique<QObject>();
+    InterfaceOwner owner = interfaceOwner();
+    owner.object = actionsEndWith_.get();
+    mainView_ = loadInterfaceFile(bundle_, mainNibName(), owner);
     if (mainView_)
         mainViewDidLoad();
     return mainView_;

@@ -61,6 +61,7 @@ protected:
 
 private:
     NSBundle *bundle_ = nullptr;
+    std::unique_ptr<QObject> actionsEndWith_;
     QPointer<QWidget> mainView_;
 };
 

@@ -14,6 +14,8 @@ public:
     Outlet(T *object) : object_(object) { }
 
     T *get() const { return object_.data(); }
+    /// What the functions of Controls.h take.
+    operator QObject *() const { return object_.data(); }
     explicit operator bool() const { return !object_.isNull(); }
 
 private:
