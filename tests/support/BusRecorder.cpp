@@ -2,6 +2,7 @@
 
 #include "Wait.h"
 
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QUuid>
 
@@ -21,8 +22,8 @@ QDBusMessage notificationMessage(const QString &name, const QString &object, con
 
 } // namespace
 
-BusRecorder::BusRecorder() :
-    connection_(QDBusConnection::connectToBus(QDBusConnection::SessionBus, QUuid::createUuid().toString()))
+BusRecorder::BusRecorder()
+    : connection_(QDBusConnection::connectToBus(QDBusConnection::SessionBus, QUuid::createUuid().toString()))
 {
     connection_.connect({}, path, interface, member, this, SLOT(record(QString, QString, QVariantMap, bool)));
 }
@@ -32,17 +33,28 @@ BusRecorder::~BusRecorder()
     QDBusConnection::disconnectFromBus(connection_.name());
 }
 
-void BusRecorder::record(const QString &name, const QString &object, const QVariantMap &userInfo, bool deliverImmediately)
+void BusRecorder::record(
+    const QString &name, const QString &object, const QVariantMap &userInfo, bool deliverImmediately)
 {
     recorded_.append({name, object, userInfo, deliverImmediately});
 }
 
+void BusRecorder::waitForRegistrations()
+{
+    // The bus reads each connection in order: with this answer it has also read which notifications the program
+    // observes.
+    QDBusConnection::sessionBus().interface()->isServiceRegistered(connection_.baseService());
+}
+
 void BusRecorder::waitForTheBus()
 {
-    // The bus keeps one order for all: a marker posted on the program's own connection follows all that the program posted before.
+    // The bus keeps one order for all: a marker posted on the program's own connection follows all that the program
+    // posted before.
     const QString id = QUuid::createUuid().toString();
     QDBusConnection::sessionBus().send(notificationMessage(marker, id, {}));
-    const auto isOurs = [&id](const BusNotification &notification) { return notification.name == marker && notification.object == id; };
+    const auto isOurs = [&id](const BusNotification &notification) {
+        return notification.name == marker && notification.object == id;
+    };
     waitUntil([&] { return std::any_of(recorded_.cbegin(), recorded_.cend(), isOurs); });
     recorded_.removeIf([](const BusNotification &notification) { return notification.name == marker; });
 }
@@ -69,5 +81,11 @@ void BusRecorder::clear()
 
 void BusRecorder::post(const QString &name, const QString &object, const QVariantMap &userInfo)
 {
-    connection_.send(notificationMessage(name, object, userInfo));
+    post(notificationMessage(name, object, userInfo));
+}
+
+void BusRecorder::post(const QDBusMessage &message)
+{
+    waitForRegistrations();
+    connection_.send(message);
 }

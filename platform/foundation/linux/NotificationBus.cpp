@@ -3,15 +3,23 @@
 #include "platform/foundation/NSLog.h"
 #include "platform/foundation/linux/NotificationMessage.h"
 
+#include <algorithm>
+
 namespace {
 
-constexpr qsizetype longestMatchValue = 255; // in bytes; the bus takes rules of up to 1024
+constexpr qsizetype longestMatchValue = 255; // the bus takes rules of up to 1024 bytes
+
+/// QtDBus puts match values into its rule unquoted and in Latin-1, which the bus library answers by ending the process.
+bool canStandInARule(QChar character)
+{
+    return character.unicode() >= 0x20 && character.unicode() < 0x7f && character != u'\'';
+}
 
 QString matchValue(const QString &text)
 {
-    const bool matchable =
-        !text.contains(u'\'') && !text.contains(QChar::Null) && text.toUtf8().size() <= longestMatchValue;
-    return matchable ? text : QString();
+    const bool isMatchable =
+        text.size() <= longestMatchValue && std::all_of(text.cbegin(), text.cend(), canStandInARule);
+    return isMatchable ? text : QString();
 }
 
 } // namespace

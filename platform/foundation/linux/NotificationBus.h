@@ -23,8 +23,8 @@ struct NotificationFilter
 };
 
 /// What the session bus itself compares for a filter, an entry for each argument. A null entry is left to this process:
-/// QtDBus does not quote match values, so those with an apostrophe would make a rule that matches nothing, and the bus
-/// refuses rules that are too long.
+/// a text that QtDBus could not put into a match rule (with an apostrophe, say), or that would make the rule too long
+/// for the bus.
 QStringList busMatch(const NotificationFilter &filter);
 
 using NotificationReceiver = std::function<void(const NotificationFilter &filter, const NSNotification &notification)>;
