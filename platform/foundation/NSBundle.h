@@ -9,8 +9,18 @@
 
 /// A folder with an Info dictionary, code and resources: Contents/{Info.plist, Linux/, Resources/, Frameworks/}.
 ///
-/// Bundles live as long as the process; one object for each path. The Info dictionary is read once, at the first request, and kept: a bundle that is
-/// exchanged on disk keeps answering with what was loaded. An unreadable Info.plist is an empty dictionary and one logged line.
+/// Bundles live as long as the process; one object for each path. The Info dictionary is read once, at the first
+/// request, and kept: a bundle that is exchanged on disk keeps answering with what was loaded. An unreadable Info.plist
+/// is an empty dictionary and one logged line; a missing one is just an empty dictionary.
+///
+/// A string table is a Qt translation file, Resources/<language>.lproj/<table>.qm. The context of all its texts is the
+/// table's name and their source text is the key: that is what a .ts file holds whose <context> is named after the
+/// file, and for an interface file what Qt's tools extract when its class is named after the file. An empty translation
+/// counts as missing, an unreadable table too (one logged line).
+///
+/// The user's languages are those of QLocale's default (LANGUAGE, LC_ALL, LC_MESSAGES, LANG), taken at the first use of
+/// each bundle's resources; each region falls back to its language (de_AT, de), then to "en". Nothing comes after "en",
+/// since the keys themselves are English.
 class LM_FOUNDATION NSBundle
 {
 public:
@@ -18,7 +28,8 @@ public:
     NSBundle(const NSBundle &) = delete;
     NSBundle &operator=(const NSBundle &) = delete;
 
-    /// The bundle around the running executable (Contents/Linux/<executable>); for a bare executable, the folder it stands in.
+    /// The bundle around the running executable (Contents/Linux/<executable>); for a bare executable, the folder it
+    /// stands in.
     static NSBundle *mainBundle();
     /// The bundle at a folder, or null when there is no such folder.
     static NSBundle *bundleWithPath(const QString &path);
@@ -37,14 +48,16 @@ public:
     /// A value of the localised Info dictionary, or no value.
     QVariant objectForInfoDictionaryKey(const QString &key) const;
 
-    /// The path of a resource: the folder of the user's language first, then Resources itself. An empty `extension` asks for the bare name.
-    /// Empty when there is none.
+    /// The path of a resource: the folder of the user's language first, then Resources itself. An empty `extension`
+    /// asks for the bare name. Empty when there is none.
     QString pathForResourceOfType(const QString &name, const QString &extension) const;
 
-    /// The text for `key` in a string table ("" stands for "Localizable") in the user's language; without one, `value`, and with an empty `value`, `key`.
-    QString localizedStringForKeyValueTable(const QString &key, const QString &value = {}, const QString &table = {}) const;
+    /// The text for `key` in a string table ("" stands for "Localizable") in the user's language; without one, `value`,
+    /// and with an empty `value`, `key`.
+    QString localizedStringForKeyValueTable(
+        const QString &key, const QString &value = {}, const QString &table = {}) const;
 
-    /// The languages the bundle has string tables for, and of these the ones to use now, best first ("en" last if it exists).
+    /// The languages the bundle has folders for, and of these the ones to use now, best first ("en" last if it exists).
     QStringList localizations() const;
     QStringList preferredLocalizations() const;
 

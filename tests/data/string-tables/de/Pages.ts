@@ -1,0 +1,11 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Pages</name>
+    <message>
+        <source>Quit</source>
+        <translation>Seiten beenden</translation>
+    </message>
+</context>
+</TS>
