@@ -22,16 +22,24 @@ QStringList languagesWithAFolder(const QString &resourcePath)
     return languages;
 }
 
-/// The user's languages as folders are named, each followed by its more general forms: "de-Latn-AT" gives de_Latn_AT,
-/// de_Latn, de.
+/// A language as folders are named, and its more general forms: "de-Latn-AT" gives de_Latn_AT, de_AT, de_Latn, de.
+QStringList formsOf(const QString &language)
+{
+    const QStringList parts = language.split(u'-');
+    QStringList forms{parts.join(u'_')};
+    if (parts.size() > 2)
+        forms += parts.constFirst() + u'_' + parts.constLast();
+    for (qsizetype count = parts.size() - 1; count > 0; --count)
+        forms += parts.first(count).join(u'_');
+    return forms;
+}
+
+/// The user's languages as folders are named, best first, up to English.
 QStringList userLanguages()
 {
     QStringList languages;
-    for (QString language : QLocale().uiLanguages()) {
-        language.replace(u'-', u'_');
-        for (; !language.isEmpty(); language = language.section(u'_', 0, -2))
-            languages += language;
-    }
+    for (const QString &language : QLocale().uiLanguages())
+        languages += formsOf(language);
     languages += english;
     languages.removeDuplicates();
     return languages.first(languages.indexOf(english) + 1);
