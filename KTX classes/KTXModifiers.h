@@ -11,3 +11,5 @@ inline constexpr quint32 KTXControlModifier = 0x1000;
 /// The only bits that a mask keeps.
 inline constexpr quint32 KTXAllModifiers =
     KTXCommandModifier | KTXShiftModifier | KTXOptionModifier | KTXControlModifier;
+/// What activates Lumaroo until the user chooses otherwise.
+inline constexpr quint32 DEFAULT_MODIFIER_MASK = KTXControlModifier | KTXOptionModifier;

@@ -1,1 +1,149 @@
 #pragma once
+
+#include "pane/Controls.h"
+#include "platform/appkit/NSControlTextEditingDelegate.h"
+#include "platform/appkit/NSPreferencePane.h"
+#include "platform/appkit/NSTabViewDelegate.h"
+#include "platform/appkit/NSWindowDelegate.h"
+#include "platform/foundation/NSNotification.h"
+#include "platform/foundation/ProcessSerialNumber.h"
+
+class NSAlert;
+class QUrl;
+class SUUpdater;
+
+/// Key codes by row: one object, which several names may denote.
+using KeyCodeTable = std::shared_ptr<QList<int>>;
+
+/// The settings pane. Each control edits one key of the agent's settings domain, which is then flushed and announced.
+class KTXLumarooPreferencePane : public NSPreferencePane,
+                                 public NSTabViewDelegate,
+                                 public NSControlTextEditingDelegate,
+                                 public NSWindowDelegate
+{
+    Q_OBJECT
+
+public:
+    // Life cycle, settings
+    static void initialize();
+    bool initWithBundle(NSBundle *bundle) override;
+    void mainViewDidLoad() override;
+    void willSelect() override;
+    void didSelect() override;
+    NSPreferencePaneUnselectReply shouldUnselect() override;
+    void didUnselect() override;
+    ~KTXLumarooPreferencePane() override;
+    int loadedVersion() const { return loadedVersion_; }
+    void setLoadedVersion(int version) { loadedVersion_ = version; }
+    const QStringList &helpAnchors() const { return helpAnchors_; }
+    void readUserPrefs();
+
+    // Hot key table
+    QStringList keyCodePrefNames() const { return keyCodePrefNames_; }
+    void setKeyCodePrefNames(const QStringList &names) { keyCodePrefNames_ = names; }
+    KeyCodeTable defaultKeyCodes() const { return defaultKeyCodes_; }
+    void setDefaultKeyCodes(const KeyCodeTable &keyCodes) { defaultKeyCodes_ = keyCodes; }
+    KeyCodeTable keyCodes() const { return keyCodes_; }
+    void setKeyCodes(const KeyCodeTable &keyCodes) { keyCodes_ = keyCodes; }
+    bool hotKeyIsDuplicateAtIndex(int index) const;
+    void updateHotKeyFields();
+    bool controlTextShouldBeginEditing(QWidget *control, FieldEditor *fieldEditor) override;
+    bool controlTextViewDoCommandBySelector(QWidget *control, FieldEditor *textView, const QString &command) override;
+    FieldEditor *windowWillReturnFieldEditorToObject(QWidget *window, QWidget *client) override;
+
+    // Activation modifiers
+    QString modifierGlyphs() const;
+    void updateModifierStates(QObject *sender);
+    void updateButtonStates(QObject *sender);
+
+    // Alerts
+    void displayAlertwitheMessageAndInformationSuppressionPrefValueAndHelpAnchor(const QString &message,
+        const QString &information, const QString &suppressionPrefValue, const QString &helpAnchor);
+    void alertDidEndReturnCodeContextInfo(NSAlert *alert, int returnCode, const QString &contextInfo);
+
+    // Agent, behaviour options, key repeat, overlay colour
+    void toggleAgent(QObject *sender);
+    void enableChecked(QObject *sender);
+    void updatePersistentState(QObject *sender);
+    void changeSlider(QObject *sender);
+    void updateColorInfo(QObject *sender);
+    void useSystemColor(QObject *sender);
+
+    // Tabs and tutorial
+    void tabViewDidSelectTabViewItem(QTabWidget *tabView, QWidget *tabViewItem) override;
+    virtual void switchToTab(const NSNotification &notification);
+    void runTutorial(QObject *sender);
+
+    // Updates, help, web pages
+    void checkForUpdates(QObject *sender);
+    void autoUpdateChecked(QObject *sender);
+    void hideBetaNotes(QObject *sender);
+    void displayHelp(QObject *sender);
+    void launchURL(const QUrl &url);
+    void visit(QObject *sender);
+    void feedback(QObject *sender);
+    void webViewDidStartProvisionalLoadForFrame(QObject *webView, QObject *frame);
+
+protected: // privateMethods
+    InterfaceOwner interfaceOwner() override;
+    QList<OutletEntry> outlets();
+    QList<ActionEntry> actions();
+    void syncPrefsAndNotifyAgent();
+    virtual void updatePreferences(const NSNotification &notification);
+    virtual void updateAgentVisuals();
+    virtual void setAgentVisualsOn(const NSNotification &notification);
+    virtual void setAgentVisualsOff();
+    virtual void relaunch();
+    virtual void stopAgent();
+    virtual bool startAgent();
+    ProcessSerialNumber agentPSN() const;
+    SUUpdater *updater() const;
+
+private:
+    // Steps of the life cycle
+    void registerObservers();
+    void buildKeyTables();
+    void buildHelpAnchors();
+    void setUpUpdater();
+    void startAgentOnFirstRun();
+    void relaunchIfNewerCodeIsInstalled();
+    void showVersion();
+    void showCredits();
+    bool userQuitsDespiteConflicts();
+    void performAfterDelayZero(const char *operation, std::function<void()> perform);
+    static void logIfDebugging(const QString &text);
+    QString localized(const QString &text) const;
+    // Steps of readUserPrefs
+    void readKeyRepeatAndAnimation();
+    void readSortOrdersAndWrapping();
+    void readModifiers();
+    void readHotKeys();
+    void readOverlayColor();
+
+    quint32 modifierStateMask_ = 0;
+    quint32 toggleStateMask_ = 0;
+    int loadedVersion_ = 0;
+    QStringList helpAnchors_;
+    QVariantMap infoDictionary_;
+    QStringList keyCodePrefNames_;
+    KeyCodeTable defaultKeyCodes_, keyCodes_;
+    Outlet<QTextEdit> helpFileView_;
+    Outlet<QLabel> modifiersField_;
+    Outlet<NSMatrix> modifierCheckboxMatrix_, persistentModeMatrix_;
+    Outlet<QAbstractButton> shiftCheckBox_, controlCheckBox_, optionCheckBox_, commandCheckBox_, doubleTapCheckBox_;
+    Outlet<QLabel> appNameField_, versionField_;
+    Outlet<QTextEdit> creditsField_;
+    Outlet<QAbstractButton> toggleStateButton_, enableHorizontalWrapButton_, enableVerticalWrapButton_;
+    Outlet<QComboBox> HorizontalPopup_, VerticalPopup_;
+    Outlet<QAbstractButton> keyRepeatButton_, animateButton_;
+    Outlet<QSlider> repeatDelaySlider_, repeatRateSlider_;
+    Outlet<QWidget> keyRepeatBox_;
+    Outlet<QLabel> delayTextField_, repeatTextField_;
+    Outlet<QAbstractButton> defaultColorButton_, autoUpdateButton_;
+    Outlet<NSColorWell> overlayColorWell_;
+    Outlet<QWidget> movementBox_, cancelBox_;
+    Outlet<QTabWidget> tabbedView_;
+    Outlet<QLabel> enabledState_, copyrightField_;
+    Outlet<QDialog> betaWindow_;
+    ProcessSerialNumber agentPSN_;
+};

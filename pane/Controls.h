@@ -1,0 +1,15 @@
+#pragma once
+
+// The kinds of control the pane's outlets are, and the functions to use them with.
+
+#include "platform/appkit/Controls.h"
+#include "platform/appkit/NSColorWell.h"
+#include "platform/appkit/NSMatrix.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QSlider>
+#include <QTabWidget>
+#include <QTextEdit>

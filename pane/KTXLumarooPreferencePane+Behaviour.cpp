@@ -1,0 +1,5 @@
+#include "pane/KTXLumarooPreferencePane.h"
+
+void KTXLumarooPreferencePane::enableChecked(QObject *sender) { }
+
+void KTXLumarooPreferencePane::updatePersistentState(QObject *sender) { }

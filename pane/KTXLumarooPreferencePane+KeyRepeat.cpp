@@ -1,0 +1,3 @@
+#include "pane/KTXLumarooPreferencePane.h"
+
+void KTXLumarooPreferencePane::changeSlider(QObject *sender) { }

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/foundation/Export.h"
+
+#include <QVariant>
+
+/// The truth of a property-list value as it comes: a boolean, a number that is not 0, or a text that begins with a
+/// digit from 1 to 9 or a letter of Y and T in either case (after blanks, a sign and zeros). False for anything else
+/// and for no value.
+LM_FOUNDATION bool boolValue(const QVariant &value);
+
+/// The 32-bit float of a number or boolean, or the leading number of a text. 0 for anything else and for no value.
+LM_FOUNDATION float floatValue(const QVariant &value);

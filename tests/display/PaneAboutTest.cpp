@@ -1,0 +1,111 @@
+#include "PaneOnRealStore.h"
+
+#include "platform/foundation/NSBundle.h"
+
+namespace {
+
+const QString copyright = QStringLiteral("NSHumanReadableCopyright");
+
+class PaneAbout : public PaneOnRealStore
+{
+protected:
+    /// Credits of our own, in which the marker stands twice.
+    void writeCredits() const
+    {
+        bundle().writeFile(QStringLiteral("Contents/Resources/Credits.rtfd/TXT.rtf"),
+            "{\\rtf1\\ansi{\\fonttbl\\f0 Sans;}\\f0 Lumaroo\\par <<copyright>>\\par \\b again: <<copyright>>.\\b0}");
+    }
+    QString credits() { return control<QTextEdit>("creditsField")->toPlainText(); }
+};
+
+} // namespace
+
+TEST_F(PaneAbout, theVersionLineNamesBothVersions)
+{
+    changeInfo({{QStringLiteral("CFBundleShortVersionString"), QStringLiteral("1.2")},
+        {QStringLiteral("CFBundleVersion"), QStringLiteral("120")}});
+    EXPECT_EQ(text("versionField"), QStringLiteral("Version 1.2 (120)"));
+}
+
+TEST_F(PaneAbout, aVersionThatIsMissingIsShownAsNone)
+{
+    changeInfo({{QStringLiteral("CFBundleShortVersionString"), QVariant()},
+        {QStringLiteral("CFBundleVersion"), qlonglong(7)}});
+    EXPECT_EQ(text("versionField"), QStringLiteral("Version (null) (7)"));
+}
+
+TEST_F(PaneAbout, aVersionThatLooksLikeAPlaceholderIsShownAsItIs)
+{
+    changeInfo({{QStringLiteral("CFBundleShortVersionString"), QStringLiteral("%@")},
+        {QStringLiteral("CFBundleVersion"), QStringLiteral("%2")}});
+    EXPECT_EQ(text("versionField"), QStringLiteral("Version %@ (%2)"));
+}
+
+TEST_F(PaneAbout, theNameIsThatOfTheExecutable)
+{
+    changeInfo({{QStringLiteral("CFBundleExecutable"), QStringLiteral("Sample")}});
+    EXPECT_EQ(text("appNameField"), QStringLiteral("Sample"));
+}
+
+TEST_F(PaneAbout, ofACopyrightWithCommasOnlyTheTextBeforeTheFirstIsShown)
+{
+    writeCredits();
+    changeInfo({{copyright, QStringLiteral("Copyright 2011, The holder, Somewhere")}});
+    EXPECT_EQ(credits(), QStringLiteral("Lumaroo\nCopyright 2011\nagain: Copyright 2011."));
+}
+
+TEST_F(PaneAbout, aCopyrightWithoutACommaIsShownWhole)
+{
+    writeCredits();
+    changeInfo({{copyright, QStringLiteral("Copyright 2011 The holder")}});
+    EXPECT_EQ(credits(), QStringLiteral("Lumaroo\nCopyright 2011 The holder\nagain: Copyright 2011 The holder."));
+}
+
+TEST_F(PaneAbout, theShippedCreditsShowTheCopyrightInPlaceOfTheMarker)
+{
+    changeInfo({{copyright, QStringLiteral("Rights of 1999, reserved")}});
+    EXPECT_TRUE(credits().contains(QStringLiteral("Rights of 1999"))) << credits().toStdString();
+    EXPECT_FALSE(credits().contains(QStringLiteral("<<copyright>>")));
+    EXPECT_FALSE(credits().contains(QStringLiteral("reserved")));
+}
+
+TEST_F(PaneAbout, theCreditsReplaceWhateverStoodInTheField)
+{
+    writeCredits();
+    changeInfo({{copyright, QStringLiteral("C")}});
+    control<QTextEdit>("creditsField")->setPlainText(QStringLiteral("before"));
+    pane().mainViewDidLoad();
+    EXPECT_EQ(credits(), QStringLiteral("Lumaroo\nC\nagain: C."));
+}
+
+TEST_F(PaneAbout, withoutACreditsDocumentTheFieldStaysEmpty)
+{
+    const CapturedLog log;
+    QDir(bundle().resourcePath() + QStringLiteral("/Credits.rtfd")).removeRecursively();
+    EXPECT_EQ(credits(), QString());
+    EXPECT_TRUE(log.lines().isEmpty()) << log.lines().join(u'\n').toStdString();
+}
+
+TEST_F(PaneAbout, withoutACopyrightTheFieldStaysEmpty)
+{
+    const CapturedLog log;
+    writeCredits();
+    changeInfo({{copyright, QVariant()}});
+    EXPECT_EQ(credits(), QString());
+    EXPECT_TRUE(log.lines().isEmpty()) << log.lines().join(u'\n').toStdString();
+}
+
+TEST_F(PaneAbout, withAnUnreadableInfoDictionaryTheFieldsStayEmpty)
+{
+    CapturedLog log;
+    const QString nib =
+        NSBundle::infoDictionaryOnDisk(bundle().path()).value(QStringLiteral("NSMainNibFile")).toString();
+    bundle().writeFile(QStringLiteral("Contents/Info.plist"), "torn");
+    // The dictionary also names the interface file.
+    QFile::copy(bundle().resourcePath() + u'/' + nib + QStringLiteral(".ui"),
+        bundle().resourcePath() + QStringLiteral("/Main.ui"));
+    EXPECT_EQ(text("appNameField"), QString());
+    EXPECT_EQ(text("versionField"), QString());
+    EXPECT_EQ(credits(), QString());
+    EXPECT_EQ(pane().loadedVersion(), 0);
+}

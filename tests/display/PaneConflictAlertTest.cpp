@@ -1,0 +1,157 @@
+#include "KeyPress.h"
+#include "PaneOnRealStore.h"
+#include "Wait.h"
+
+#include "KTXConstants.h"
+#include "platform/appkit/NSHelpManager.h"
+
+#include <linux/input-event-codes.h>
+
+namespace {
+
+class PaneConflictAlert : public PaneOnRealStore
+{
+protected:
+    void storeKey(const QString &name, int keyCode) const
+    {
+        store().set(name, QVariantMap{{KTXKeycode, QString::number(keyCode)}});
+    }
+    /// A showing in which the keys for up and for right are the same.
+    void showConflict()
+    {
+        storeKey(KTXUpPref, 124);
+        showPane();
+        selectTabViewItemAtIndex(control("tabbedView"), 0);
+    }
+    /// Leaves the pane and does something with the alert once it is up; without an alert that is a failure.
+    NSPreferencePaneUnselectReply leaveAnd(const std::function<void(QWidget *alert)> &answer)
+    {
+        bool isAnswered = false;
+        QTimer::singleShot(0, pane().mainView(), [&] {
+            ASSERT_TRUE(waitUntil([] { return alert() && alert()->isActiveWindow(); }));
+            answer(alert());
+            isAnswered = true;
+        });
+        const NSPreferencePaneUnselectReply reply = pane().shouldUnselect();
+        EXPECT_TRUE(isAnswered) << "there was no alert";
+        return reply;
+    }
+    NSPreferencePaneUnselectReply leaveAndPress(int key)
+    {
+        return leaveAnd([key](QWidget *) { pressKey(key); });
+    }
+    int shownPage() { return selectedTabIndex(control("tabbedView")); }
+
+    static QWidget *alert() { return QApplication::activeModalWidget(); }
+    static QStringList textsOf(QWidget *window)
+    {
+        QStringList texts;
+        for (const QLabel *label : window->findChildren<QLabel *>())
+            texts += label->text();
+        return texts;
+    }
+};
+
+} // namespace
+
+TEST_F(PaneConflictAlert, withoutAConflictThePaneIsLeftWithoutADialog)
+{
+    showPane();
+    EXPECT_EQ(pane().shouldUnselect(), NSUnselectNow);
+}
+
+TEST_F(PaneConflictAlert, beforeTheFirstReadingThePaneIsLeftWithoutADialog)
+{
+    storeKey(KTXUpPref, 124);
+    EXPECT_EQ(pane().shouldUnselect(), NSUnselectNow);
+}
+
+TEST_F(PaneConflictAlert, aConflictAmongTheOtherKeysAloneIsNotAskedAbout)
+{
+    storeKey(KTXOpenPrefPanePref, 36);
+    storeKey(KTXPreviewPref, 53);
+    showPane();
+    EXPECT_TRUE(pane().hotKeyIsDuplicateAtIndex(5));
+    EXPECT_TRUE(pane().hotKeyIsDuplicateAtIndex(9));
+    EXPECT_EQ(pane().shouldUnselect(), NSUnselectNow);
+}
+
+TEST_F(PaneConflictAlert, aMovementKeyThatAnotherActionUsesIsAskedAbout)
+{
+    storeKey(KTXUnderPref, 36);
+    showPane();
+    EXPECT_EQ(leaveAndPress(KEY_ESC), NSUnselectCancel);
+}
+
+TEST_F(PaneConflictAlert, itSaysWhatIsWrong)
+{
+    showConflict();
+    leaveAnd([](QWidget *window) {
+        EXPECT_TRUE(textsOf(window).contains(QStringLiteral("Quit while key conflicts exist?")));
+        EXPECT_TRUE(textsOf(window).contains(QStringLiteral("The marked keys have multiple actions assigned to them. "
+                                                            "Quitting may cause unpredictable Lumaroo behavior.")));
+        pressKey(KEY_ESC);
+    });
+}
+
+TEST_F(PaneConflictAlert, qLeaves)
+{
+    showConflict();
+    EXPECT_EQ(leaveAndPress(KEY_Q), NSUnselectNow);
+    EXPECT_EQ(shownPage(), 0);
+}
+
+TEST_F(PaneConflictAlert, escapeStaysAndShowsTheHotKeys)
+{
+    showConflict();
+    EXPECT_EQ(leaveAndPress(KEY_ESC), NSUnselectCancel);
+    EXPECT_EQ(shownPage(), 1);
+}
+
+TEST_F(PaneConflictAlert, theFocusStartsOnCancel)
+{
+    showConflict();
+    EXPECT_EQ(leaveAndPress(KEY_SPACE), NSUnselectCancel);
+    EXPECT_EQ(shownPage(), 1);
+}
+
+TEST_F(PaneConflictAlert, aClickOnQuitLeaves)
+{
+    showConflict();
+    const NSPreferencePaneUnselectReply reply = leaveAnd([](QWidget *window) {
+        for (QAbstractButton *button : window->findChildren<QAbstractButton *>()) {
+            if (button->text().remove(u'&') == QStringLiteral("Quit"))
+                clickAt(button->mapToGlobal(button->rect().center()));
+        }
+    });
+    EXPECT_EQ(reply, NSUnselectNow);
+}
+
+TEST_F(PaneConflictAlert, itsHelpButtonOpensThePanesHelpAboutIt)
+{
+    const QString book = QStringLiteral("Sample Help");
+    changeInfo({{QStringLiteral("CFBundleHelpBookName"), book}});
+    showConflict();
+    QStringList requests;
+    NSHelpManager::sharedHelpManager()->setRequestObserver([&](const QString &anchor, const QString &in) {
+        requests += {anchor, in};
+    });
+    leaveAnd([](QWidget *window) {
+        for (QAbstractButton *button : window->findChildren<QAbstractButton *>()) {
+            const QString title = button->text().remove(u'&');
+            if (title != QStringLiteral("Quit") && title != QStringLiteral("Cancel"))
+                clickAt(button->mapToGlobal(button->rect().center()));
+        }
+        runPendingEvents();
+        pressKey(KEY_ESC);
+    });
+    NSHelpManager::sharedHelpManager()->setRequestObserver({});
+    EXPECT_EQ(requests, (QStringList{QStringLiteral("closeDialog"), book}));
+}
+
+TEST_F(PaneConflictAlert, withoutItsIconItIsShownAllTheSame)
+{
+    QFile::remove(bundle().resourcePath() + QStringLiteral("/Lumaroo.icns"));
+    showConflict();
+    EXPECT_EQ(leaveAndPress(KEY_Q), NSUnselectNow);
+}

@@ -1,0 +1,181 @@
+#include "PaneOnRealStore.h"
+
+#include "Wait.h"
+
+#include "KTXConstants.h"
+#include "platform/foundation/CFPreferences.h"
+#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/NSUserDefaults.h"
+#include "platform/foundation/PropertyList.h"
+
+#include <QDirIterator>
+
+namespace {
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString productBundle()
+{
+    return qEnvironmentVariable("LUMAROO_BUILD") + QStringLiteral("/Lumaroo.prefPane");
+}
+
+void copyIntoBundle(const TestBundle &bundle, const QString &folder)
+{
+    QDirIterator files(productBundle() + u'/' + folder, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        bundle.writeFile(path.mid(productBundle().size() + 1), contentOf(path));
+    }
+}
+
+} // namespace
+
+void RecordingPane::switchToTab(const NSNotification &notification)
+{
+    *calls_ += QStringLiteral("switchToTab: ") + notification.object.toString();
+    KTXLumarooPreferencePane::switchToTab(notification);
+}
+
+QStringList RecordingPane::outletNames()
+{
+    QStringList names;
+    for (const OutletEntry &outlet : outlets())
+        names += outlet.name;
+    return names;
+}
+
+void RecordingPane::updatePreferences(const NSNotification &notification)
+{
+    *calls_ += QStringLiteral("updatePreferences:");
+    KTXLumarooPreferencePane::updatePreferences(notification);
+}
+
+void RecordingPane::updateAgentVisuals()
+{
+    *calls_ += QStringLiteral("updateAgentVisuals");
+}
+
+void RecordingPane::setAgentVisualsOn(const NSNotification &)
+{
+    *calls_ += QStringLiteral("setAgentVisualsOn:");
+}
+
+void RecordingPane::setAgentVisualsOff()
+{
+    *calls_ += QStringLiteral("setAgentVisualsOff");
+}
+
+void RecordingPane::relaunch()
+{
+    *calls_ += QStringLiteral("relaunch");
+}
+
+void RecordingPane::stopAgent()
+{
+    *calls_ += QStringLiteral("stopAgent");
+}
+
+bool RecordingPane::startAgent()
+{
+    *calls_ += QStringLiteral("startAgent");
+    return true;
+}
+
+QString StoreOnDisk::path()
+{
+    return qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/lumaroo/com.quorvane.Lumaroo.plist");
+}
+
+void StoreOnDisk::clear() const
+{
+    set(QVariantMap());
+    QFile::remove(path());
+}
+
+void StoreOnDisk::set(const QString &key, const QVariant &value) const
+{
+    CFPreferencesSetAppValue(key, value, KTXLMAppID);
+    CFPreferencesAppSynchronize(KTXLMAppID);
+}
+
+void StoreOnDisk::set(const QVariantMap &domain) const
+{
+    NSUserDefaults::standardUserDefaults()->setPersistentDomainForName(domain, KTXLMAppID);
+}
+
+QVariantMap StoreOnDisk::domain() const
+{
+    return readPropertyList(contentOf(path())).value.toMap();
+}
+
+PaneOnRealStore::PaneOnRealStore() : bundle_(QStringLiteral("Lumaroo.prefPane"))
+{
+    store_.clear();
+    bundle_.writeFile(
+        QStringLiteral("Contents/Info.plist"), contentOf(productBundle() + QStringLiteral("/Contents/Info.plist")));
+    copyIntoBundle(bundle_, QStringLiteral("Contents/Resources"));
+}
+
+PaneOnRealStore::~PaneOnRealStore()
+{
+    pane_.reset();
+    store_.clear();
+}
+
+void PaneOnRealStore::changeInfo(const QVariantMap &changes) const
+{
+    QVariantMap info = NSBundle::infoDictionaryOnDisk(bundle_.path());
+    for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
+        if (change.value().isValid())
+            info.insert(change.key(), change.value());
+        else
+            info.remove(change.key());
+    }
+    bundle_.writeInfo(info);
+}
+
+RecordingPane &PaneOnRealStore::paneWithoutView()
+{
+    if (!pane_) {
+        pane_ = std::make_unique<RecordingPane>(&calls);
+        EXPECT_TRUE(pane_->initWithBundle(NSBundle::bundleWithPath(bundle_.path())));
+    }
+    return *pane_;
+}
+
+RecordingPane &PaneOnRealStore::pane()
+{
+    if (!paneWithoutView().mainView()) {
+        EXPECT_NE(pane_->loadMainView(), nullptr);
+        if (!pane_->mainView())
+            qFatal("the pane's interface file cannot be loaded");
+    }
+    return *pane_;
+}
+
+void PaneOnRealStore::showWindow()
+{
+    pane().mainView()->show();
+    EXPECT_TRUE(waitUntil([this] { return pane().mainView()->isActiveWindow(); }));
+}
+
+void PaneOnRealStore::showPane()
+{
+    pane().willSelect();
+    showWindow();
+    pane().didSelect();
+    runPendingEvents();
+}
+
+QWidget *PaneOnRealStore::keyField(int row)
+{
+    for (QLineEdit *field : pane().mainView()->findChildren<QLineEdit *>()) {
+        if (tag(field) == row)
+            return field;
+    }
+    return nullptr;
+}

@@ -1,0 +1,42 @@
+#include "platform/appkit/NSPreferencePane.h"
+#include "platform/foundation/NSBundle.h"
+
+#include <QPluginLoader>
+#include <gtest/gtest.h>
+
+namespace {
+
+QString productBundle()
+{
+    return qEnvironmentVariable("LUMAROO_BUILD") + QStringLiteral("/Lumaroo.prefPane");
+}
+
+} // namespace
+
+TEST(PlugIn, theBundlesExecutableYieldsAPaneThatLoadsItsView)
+{
+    NSBundle *bundle = NSBundle::bundleWithPath(productBundle());
+    ASSERT_NE(bundle, nullptr);
+    QPluginLoader loader(bundle->executablePath());
+    auto *principalClass = qobject_cast<NSPrincipalClass *>(loader.instance());
+    ASSERT_NE(principalClass, nullptr) << loader.errorString().toStdString();
+    principalClass->initialize();
+    const std::unique_ptr<NSPreferencePane> pane(principalClass->alloc());
+    EXPECT_TRUE(pane->initWithBundle(bundle));
+    EXPECT_NE(pane->loadMainView(), nullptr);
+}
+
+TEST(PlugIn, itSharesThePlatformLibrariesWithItsHost)
+{
+    QPluginLoader loader(productBundle() + QStringLiteral("/Contents/Linux/Lumaroo"));
+    ASSERT_NE(loader.instance(), nullptr) << loader.errorString().toStdString();
+    QFile maps(QStringLiteral("/proc/self/maps"));
+    ASSERT_TRUE(maps.open(QIODevice::ReadOnly));
+    QSet<QByteArray> libraries;
+    for (const QByteArray &line : maps.readAll().split('\n')) {
+        const QByteArray path = line.mid(line.indexOf('/'));
+        if (path.contains("liblumaroo-"))
+            libraries += path;
+    }
+    EXPECT_EQ(libraries.size(), 2) << "one foundation and one appkit";
+}
