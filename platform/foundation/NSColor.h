@@ -2,6 +2,7 @@
 
 #include "platform/foundation/Export.h"
 
+#include <QByteArray>
 #include <QString>
 #include <array>
 #include <memory>
@@ -12,7 +13,12 @@ using NSColorRef = std::shared_ptr<const NSColor>;
 
 /// The kinds of colour, numbered as archives tag them.
 enum class NSColorSpace : quint8 {
-    CalibratedRGB = 1, DeviceRGB = 2, CalibratedWhite = 3, DeviceWhite = 4, DeviceCMYK = 5, Catalog = 6
+    CalibratedRGB = 1,
+    DeviceRGB = 2,
+    CalibratedWhite = 3,
+    DeviceWhite = 4,
+    DeviceCMYK = 5,
+    Catalog = 6
 };
 
 enum class ByteOrder : quint8 { LittleEndian, BigEndian };
@@ -26,10 +32,12 @@ public:
     static NSColorRef colorWithCalibratedWhiteAlpha(float white, float alpha);
     static NSColorRef colorWithDeviceWhiteAlpha(float white, float alpha);
     static NSColorRef colorWithDeviceCMYKA(float cyan, float magenta, float yellow, float black, float alpha);
-    /// A named colour of a catalogue; always a new object, also for names that the system knows.
+    /// A named colour of a catalogue; always a new object, also for names that the system knows. Null without a
+    /// fallback.
     static NSColorRef colorWithCatalogNameFallback(const QString &catalog, const QString &name, NSColorRef fallback);
 
-    /// The system's own colours: one object each for the life of the process. Their look is SystemColors' business (appkit).
+    /// The system's own colours: one object each for the life of the process. Their look is SystemColors' business
+    /// (appkit).
     static NSColorRef selectedTextBackgroundColor();
     static NSColorRef selectedControlColor();
     static NSColorRef blackColor();
@@ -45,16 +53,21 @@ public:
     NSColorRef fallback() const { return fallback_; }
     /// The byte order of the archive it was read from; little-endian for colours made here.
     ByteOrder byteOrder() const { return byteOrder_; }
-    /// Red, green, blue and alpha for drawing; a catalogue colour answers for its fallback.
+    /// Red, green, blue and alpha for drawing, each from 0 to 1; a catalogue colour answers for its fallback.
     std::array<float, 4> rgba() const;
 
 private:
     friend class ColorArchiveReader;
+    friend class NSArchiver;
     NSColor() = default;
+    static std::shared_ptr<NSColor> make(NSColorSpace colorSpace, const std::array<float, 5> &components);
+    static std::shared_ptr<NSColor> makeNamed(const QString &catalog, const QString &name, NSColorRef fallback);
+
     NSColorSpace colorSpace_ = NSColorSpace::CalibratedWhite;
-    std::array<float, 5> components_ {};
+    std::array<float, 5> components_{};
     QString catalog_;
     QString name_;
     NSColorRef fallback_;
     ByteOrder byteOrder_ = ByteOrder::LittleEndian;
+    QByteArray archive_; // what it was read from, where our own writing would differ
 };

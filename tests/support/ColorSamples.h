@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/foundation/NSColor.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+/// A colour archive as it was found in the wild, with what it holds.
+struct ColorSample
+{
+    QByteArray id;
+    QByteArray archive;
+    NSColorSpace colorSpace;
+    ByteOrder byteOrder;
+    QString catalog;
+    QString name;
+    QList<float> components; ///< of a named colour: of its fallback, a calibrated white
+};
+
+/// The samples of tests/data/color_samples.tsv.
+const QList<ColorSample> &colorSamples();
+/// The archive of a sample; empty for an unknown one.
+QByteArray colorSample(const QByteArray &id);
