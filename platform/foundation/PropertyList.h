@@ -6,8 +6,9 @@
 #include <QString>
 #include <QVariant>
 
-// Property-list values are QVariants: bool, qlonglong, float (a 4-byte real), double (an 8-byte real), QString, QByteArray, QDateTime,
-// QVariantList, QVariantMap. An invalid QVariant is "no value" and cannot stand inside a property list.
+// Property-list values are QVariants: bool, qlonglong, float (a 4-byte real), double (an 8-byte real), QString,
+// QByteArray, QDateTime, QVariantList, QVariantMap. An invalid QVariant is "no value" and cannot stand inside a
+// property list.
 
 /// What came of reading a property list: the value, or why there is none.
 struct PropertyListReading
@@ -21,7 +22,8 @@ struct PropertyListReading
 
 /// Reads a binary or an XML property list.
 ///
-/// Bounds: 64 MiB, depth 128, 1,000,000 objects counted after expansion; self-referring data is refused. Never throws, never crashes on any input.
+/// Bounds: 64 MiB, depth 128, 1,000,000 objects counted after expansion; self-referring data is refused. Never throws,
+/// never crashes on any input.
 LM_FOUNDATION PropertyListReading readPropertyList(const QByteArray &data);
 
 /// Writes the binary form. The value must be a property-list value throughout; anything else gives empty data.

@@ -1,6 +1,6 @@
 #include "platform/foundation/Boundary.h"
-#include "platform/foundation/NSException.h"
 #include "CapturedLog.h"
+#include "platform/foundation/NSException.h"
 
 #include <gtest/gtest.h>
 
@@ -25,7 +25,8 @@ TEST(Boundary, anAssertionFailureHoldsWhereItFailedAndIsLogged)
     CapturedLog log;
     int object = 0;
     try {
-        handleFailureInMethodObjectFileLineNumberDescription("startAgent", &object, "KTXLumarooPreferencePane", 47, "No path");
+        handleFailureInMethodObjectFileLineNumberDescription(
+            "startAgent", &object, "KTXLumarooPreferencePane", 47, "No path");
     } catch (const AssertionFailure &failure) {
         EXPECT_EQ(failure.method(), "startAgent");
         EXPECT_EQ(failure.object(), &object);

@@ -1,0 +1,100 @@
+#include "platform/foundation/CFPreferences.h"
+
+#include "platform/foundation/PreferencesDomain.h"
+
+#include <limits>
+
+namespace {
+
+/// The integer a number stands for, where it is within 32 bits; a real counts by its whole part.
+std::optional<int> integerWithin32Bits(const QVariant &value)
+{
+    constexpr double Least = std::numeric_limits<int>::min();
+    constexpr double Most = std::numeric_limits<int>::max();
+    if (CFGetTypeID(value) != CFTypeID::Number)
+        return {};
+    const double number = value.toDouble();
+    if (!(number > Least - 1 && number < Most + 1))
+        return {};
+    return int(number);
+}
+
+void report(bool *keyExistsAndHasValidFormat, bool valid)
+{
+    if (keyExistsAndHasValidFormat)
+        *keyExistsAndHasValidFormat = valid;
+}
+
+} // namespace
+
+QVariant CFPreferencesCopyAppValue(const QString &key, const QString &applicationID)
+{
+    PreferencesDomain *domain = PreferencesDomain::named(applicationID);
+    return domain ? domain->value(key) : QVariant();
+}
+
+bool CFPreferencesGetAppBooleanValue(const QString &key, const QString &applicationID, bool *keyExistsAndHasValidFormat)
+{
+    const QVariant value = CFPreferencesCopyAppValue(key, applicationID);
+    report(keyExistsAndHasValidFormat, CFGetTypeID(value) == CFBooleanGetTypeID());
+    return CFBooleanGetValue(value);
+}
+
+int CFPreferencesGetAppIntegerValue(const QString &key, const QString &applicationID, bool *keyExistsAndHasValidFormat)
+{
+    const std::optional<int> integer = integerWithin32Bits(CFPreferencesCopyAppValue(key, applicationID));
+    report(keyExistsAndHasValidFormat, integer.has_value());
+    return integer.value_or(0);
+}
+
+void CFPreferencesSetAppValue(const QString &key, const QVariant &value, const QString &applicationID)
+{
+    if (PreferencesDomain *domain = PreferencesDomain::named(applicationID))
+        domain->setValue(key, value);
+}
+
+bool CFPreferencesAppSynchronize(const QString &applicationID)
+{
+    PreferencesDomain *domain = PreferencesDomain::named(applicationID);
+    return domain && domain->flush();
+}
+
+CFTypeID CFGetTypeID(const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+        return CFTypeID::Boolean;
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::Long:
+    case QMetaType::ULong:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Float:
+    case QMetaType::Double:
+        return CFTypeID::Number;
+    case QMetaType::QString:
+        return CFTypeID::String;
+    case QMetaType::QByteArray:
+        return CFTypeID::Data;
+    case QMetaType::QDateTime:
+        return CFTypeID::Date;
+    case QMetaType::QStringList:
+    case QMetaType::QVariantList:
+        return CFTypeID::Array;
+    case QMetaType::QVariantMap:
+        return CFTypeID::Dictionary;
+    default:
+        return CFTypeID::None;
+    }
+}
+
+CFTypeID CFBooleanGetTypeID()
+{
+    return CFTypeID::Boolean;
+}
+
+bool CFBooleanGetValue(const QVariant &value)
+{
+    return CFGetTypeID(value) == CFTypeID::Boolean && value.toBool();
+}

@@ -1,0 +1,106 @@
+#include "platform/foundation/PreferencesDomain.h"
+
+#include "platform/foundation/NSLog.h"
+#include "platform/foundation/PropertyListValue.h"
+
+#include <QDir>
+#include <QFile>
+#include <memory>
+#include <unordered_map>
+
+namespace {
+
+constexpr qsizetype LongestName = 200; // in bytes; the file's name has a suffix, and so have its side files
+
+bool canNameADomain(const QString &name)
+{
+    const auto isAllowed = [](QChar character) {
+        return character != u'/' && character.category() != QChar::Other_Control;
+    };
+    return !name.isEmpty() && !name.startsWith(u'.') && QFile::encodeName(name).size() <= LongestName
+        && std::all_of(name.begin(), name.end(), isAllowed);
+}
+
+/// A relative path in the variable counts as none.
+QString settingsFolder()
+{
+    QString folder = qEnvironmentVariable("XDG_CONFIG_HOME");
+    if (!folder.startsWith(u'/'))
+        folder = QDir::homePath() + QStringLiteral("/.config");
+    return folder + QStringLiteral("/lumaroo");
+}
+
+} // namespace
+
+PreferencesDomain *PreferencesDomain::named(const QString &name)
+{
+    if (!canNameADomain(name)) {
+        NSLog(QStringLiteral("lumaroo: settings: \"%1\" cannot name a domain; nothing is read or written").arg(name));
+        return nullptr;
+    }
+    static std::unordered_map<QString, std::unique_ptr<PreferencesDomain>> domains;
+    const QString path = settingsFolder() + u'/' + name + QStringLiteral(".plist");
+    std::unique_ptr<PreferencesDomain> &domain = domains[path];
+    if (!domain)
+        domain.reset(new PreferencesDomain(QFile::encodeName(path)));
+    return domain.get();
+}
+
+PreferencesDomain::PreferencesDomain(const QByteArray &path) : file_(path) { }
+
+QVariant PreferencesDomain::value(const QString &key)
+{
+    if (const auto pending = pending_.constFind(key); pending != pending_.constEnd())
+        return *pending;
+    return replacement_ ? replacement_->value(key) : file_.values().value(key);
+}
+
+QVariantMap PreferencesDomain::values()
+{
+    return withPendingChanges(replacement_ ? QVariantMap() : file_.values());
+}
+
+void PreferencesDomain::setValue(const QString &key, const QVariant &value)
+{
+    const QVariant converted = propertyListValue(value);
+    if (value.isValid() && !converted.isValid())
+        NSLog(QStringLiteral(
+            "lumaroo: settings: the value for \"%1\" is no property-list value (%2); the key keeps what it has")
+                  .arg(key, QString::fromLatin1(value.typeName())));
+    else
+        pending_.insert(key, converted);
+}
+
+bool PreferencesDomain::replace(const QVariantMap &values)
+{
+    const QVariant converted = propertyListValue(values);
+    if (!converted.isValid()) {
+        NSLog(QStringLiteral(
+            "lumaroo: settings: the dictionary for a whole domain is no property list; the domain keeps what it has"));
+        return false;
+    }
+    replacement_ = converted.toMap();
+    pending_.clear();
+    return flush();
+}
+
+bool PreferencesDomain::flush()
+{
+    if (!file_.update([this](const QVariantMap &stored) { return withPendingChanges(stored); }))
+        return false;
+    replacement_.reset();
+    pending_.clear();
+    return true;
+}
+
+QVariantMap PreferencesDomain::withPendingChanges(const QVariantMap &stored) const
+{
+    QVariantMap values = replacement_.value_or(stored);
+    for (auto change = pending_.begin(); change != pending_.end(); ++change) {
+        if (change.value().isValid())
+            values.insert(change.key(), change.value());
+        else
+            values.remove(change.key());
+    }
+    return values;
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/foundation/linux/SettingsFile.h"
+
+#include <optional>
+
+/// One settings domain as this process sees it: the file, under this process's changes that are not flushed yet.
+class LM_FOUNDATION PreferencesDomain
+{
+public:
+    /// The domain of a name; none for a name that cannot be a file's, which is logged.
+    static PreferencesDomain *named(const QString &name);
+
+    QVariant value(const QString &key);
+    QVariantMap values();
+
+    /// Pending until flush(); no value removes the key. What is no property-list value is logged and changes nothing.
+    void setValue(const QString &key, const QVariant &value);
+
+    /// Replaces everything at once; pending as a whole where that fails.
+    bool replace(const QVariantMap &values);
+
+    /// Brings what is pending into the file. False where that failed, or where the file cannot be read.
+    bool flush();
+
+private:
+    explicit PreferencesDomain(const QByteArray &path);
+    QVariantMap withPendingChanges(const QVariantMap &stored) const;
+
+    SettingsFile file_;
+    std::optional<QVariantMap> replacement_; ///< stands for the file's content
+    QVariantMap pending_; ///< over both; no value means removal
+};
