@@ -1,4 +1,5 @@
 #include "platform/appkit/Controls.h"
+#include "platform/appkit/StyledLabel.h"
 
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
@@ -7,7 +8,6 @@
 #include <QLineEdit>
 #include <QPalette>
 #include <QWidget>
-#include <cmath>
 
 namespace {
 
@@ -32,19 +32,6 @@ ColorRoles rolesOf(const QWidget *control)
     return {QPalette::WindowText, QPalette::Window};
 }
 
-double linear(double component)
-{
-    return component <= 0.04045 ? component / 12.92 : std::pow((component + 0.055) / 1.055, 2.4);
-}
-
-/// The contrast between a colour and white, from 1 to 21.
-double contrastWithWhite(const QColor &color)
-{
-    const double luminance =
-        0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-    return 1.05 / (luminance + 0.05);
-}
-
 void setColors(QObject *control, const QColor &text, const QColor &background)
 {
     auto *widget = qobject_cast<QWidget *>(control);
@@ -65,13 +52,12 @@ void setTextColor(QObject *control, const QColor &color)
 {
     // Paper white goes with every colour that is not too light for it: 3 is the least contrast for a line of large
     // text.
-    const bool readsOnWhite = contrastWithWhite(color) >= 3;
+    const bool readsOnWhite = contrastRatio(color, Qt::white) >= 3;
     setColors(control, color, readsOnWhite ? Qt::white : Qt::black);
 }
 
 void setBackgroundColor(QObject *control, const QColor &color)
 {
-    // White text reads better from where both contrasts are alike: their product is 21.
-    const bool isDark = contrastWithWhite(color) > std::sqrt(21.0);
+    const bool isDark = contrastRatio(color, Qt::white) > contrastRatio(color, Qt::black);
     setColors(control, isDark ? Qt::white : Qt::black, color);
 }

@@ -59,6 +59,7 @@ public:
     }
     ~ToolkitWarnings()
     {
+        writeLine();
         current_ = outer_;
         if (!outer_)
             qInstallMessageHandler(previous_);
@@ -69,14 +70,33 @@ private:
     static void handle(QtMsgType type, const QMessageLogContext &context, const QString &message)
     {
         if (current_ && (type == QtWarningMsg || type == QtCriticalMsg))
-            NSLog(QStringLiteral("lumaroo: %1: %2").arg(current_->file_, message));
+            current_->take(message);
         else
             previous_(type, context, message);
+    }
+
+    /// The names of sender and receiver follow a failed connection as messages of their own.
+    void take(const QString &message)
+    {
+        const QLatin1StringView continuation("QObject::connect:  ");
+        if (message.startsWith(continuation) && !line_.isEmpty()) {
+            line_ += u' ' + message.mid(continuation.size());
+            return;
+        }
+        writeLine();
+        line_ = message;
+    }
+    void writeLine()
+    {
+        if (!line_.isEmpty())
+            NSLog(QStringLiteral("lumaroo: %1: %2").arg(file_, line_));
+        line_.clear();
     }
 
     static thread_local ToolkitWarnings *current_;
     static QtMessageHandler previous_;
     QString file_;
+    QString line_;
     ToolkitWarnings *outer_;
 };
 
@@ -111,11 +131,19 @@ QWidget *InterfaceLoader::loadInterface(
     return root;
 }
 
+bool InterfaceLoader::isKnown(const QString &className) const
+{
+    return ownClass(className) || toolkitClasses_.contains(className);
+}
+
 QString InterfaceLoader::classToUse(const QString &className, const QString &name) const
 {
     QString known = className;
-    for (int depth = 0; depth < 16 && !ownClass(known) && !toolkitClasses_.contains(known); ++depth)
-        known = baseClasses_.value(known, QStringLiteral("QWidget"));
+    // A file may say that two classes extend each other.
+    for (int depth = 0; depth < 16 && !isKnown(known); ++depth)
+        known = baseClasses_.value(known);
+    if (!isKnown(known))
+        known = QStringLiteral("QWidget");
     if (known != className)
         NSLog(QStringLiteral("lumaroo: %1: %2: unknown class %3, %4 stands in").arg(file_, name, className, known));
     return known;

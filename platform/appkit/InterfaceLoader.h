@@ -19,6 +19,7 @@ public:
 
 private:
     explicit InterfaceLoader(const QString &file, const QHash<QString, QString> &baseClasses);
+    bool isKnown(const QString &className) const;
     QString classToUse(const QString &className, const QString &name) const;
 
     QString file_;

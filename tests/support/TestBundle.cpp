@@ -5,9 +5,11 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLibraryInfo>
+#include <QProcess>
+#include <QXmlStreamWriter>
 
-TestBundle::TestBundle(const QString &name) :
-    path_(folder_.path() + u'/' + name)
+TestBundle::TestBundle(const QString &name) : path_(folder_.path() + u'/' + name)
 {
     QDir().mkpath(resourcePath());
 }
@@ -24,4 +26,33 @@ void TestBundle::writeFile(const QString &relativePath, const QByteArray &conten
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("cannot write %s", qPrintable(path));
+}
+
+void TestBundle::writeStringTable(
+    const QString &language, const QString &table, const QMap<QString, QString> &texts) const
+{
+    QByteArray source;
+    QXmlStreamWriter writer(&source);
+    writer.writeStartElement(QStringLiteral("TS"));
+    writer.writeAttribute(QStringLiteral("version"), QStringLiteral("2.1"));
+    writer.writeAttribute(QStringLiteral("language"), language);
+    writer.writeStartElement(QStringLiteral("context"));
+    writer.writeTextElement(QStringLiteral("name"), table);
+    for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
+        writer.writeStartElement(QStringLiteral("message"));
+        writer.writeTextElement(QStringLiteral("source"), text.key());
+        writer.writeTextElement(QStringLiteral("translation"), text.value());
+        writer.writeEndElement();
+    }
+    writer.writeEndDocument();
+
+    const QString base = QStringLiteral("Contents/Resources/%1.lproj/%2").arg(language, table);
+    writeFile(base + QStringLiteral(".ts"), source);
+    const QString release = QLibraryInfo::path(QLibraryInfo::BinariesPath) + QStringLiteral("/lrelease");
+    const QString bare = path_ + u'/' + base;
+    if (QProcess::execute(release,
+            {QStringLiteral("-silent"), bare + QStringLiteral(".ts"), QStringLiteral("-qm"),
+                bare + QStringLiteral(".qm")})
+        != 0)
+        qFatal("cannot release %s", qPrintable(bare));
 }

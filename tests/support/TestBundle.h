@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QMap>
 #include <QString>
 #include <QTemporaryDir>
 #include <QVariantMap>
@@ -18,6 +19,9 @@ public:
     void writeInfo(const QVariantMap &info) const;
     /// Writes a file below the bundle, folders included.
     void writeFile(const QString &relativePath, const QByteArray &content) const;
+
+    /// Writes the string table <language>.lproj/<table> with these texts and their translations.
+    void writeStringTable(const QString &language, const QString &table, const QMap<QString, QString> &texts) const;
 
 private:
     QTemporaryDir folder_;

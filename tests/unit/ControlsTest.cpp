@@ -1,0 +1,201 @@
+#include "platform/appkit/Controls.h"
+#include "Wait.h"
+#include "platform/appkit/ConflictMarker.h"
+#include "platform/appkit/FloatSlider.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QTabWidget>
+#include <QTextEdit>
+#include <gtest/gtest.h>
+
+TEST(Controls, onAnAbsentControlEverythingDoesNothing)
+{
+    const Outlet<QWidget> absent;
+    setState(absent, NSOnState);
+    setStringValue(absent, "text");
+    setFloatValue(absent, 1);
+    setEnabled(absent, true);
+    setHidden(absent, false);
+    setTextColor(absent, Qt::red);
+    setBackgroundColor(absent, Qt::red);
+    setColor(absent, nullptr);
+    selectTabViewItemAtIndex(absent, 1);
+    performClick(absent);
+    EXPECT_EQ(tag(absent), -1);
+    EXPECT_EQ(state(absent), NSOffState);
+    EXPECT_EQ(stringValue(absent), QString());
+    EXPECT_EQ(floatValue(absent), 0);
+    EXPECT_FALSE(isEnabled(absent));
+    EXPECT_FALSE(isHidden(absent));
+    EXPECT_FALSE(selectItemWithTag(absent, 1));
+    EXPECT_EQ(selectedItemTag(absent), -1);
+    EXPECT_FALSE(isPopUp(absent));
+    EXPECT_EQ(color(absent), nullptr);
+    EXPECT_EQ(selectedTabIndex(absent), 0);
+    EXPECT_EQ(indexOfTabViewItemWithIdentifier(absent, "x"), NSNotFound);
+    EXPECT_EQ(viewWithTag(nullptr, 1), nullptr);
+}
+
+TEST(Controls, onAControlOfAnotherKindEverythingDoesNothing)
+{
+    QWidget plain;
+    setState(&plain, NSOnState);
+    setStringValue(&plain, "text");
+    setFloatValue(&plain, 1);
+    performClick(&plain);
+    EXPECT_EQ(state(&plain), NSOffState);
+    EXPECT_EQ(stringValue(&plain), QString());
+    EXPECT_TRUE(plain.dynamicPropertyNames().isEmpty());
+    EXPECT_FALSE(selectItemWithTag(&plain, 1));
+}
+
+TEST(Controls, theStateOfACheckBoxIsOffOnOrMixed)
+{
+    QCheckBox box;
+    setState(&box, NSOnState);
+    EXPECT_EQ(state(&box), NSOnState);
+    setState(&box, NSMixedState);
+    EXPECT_EQ(state(&box), NSOnState);
+    box.setTristate(true);
+    setState(&box, NSMixedState);
+    EXPECT_EQ(state(&box), NSMixedState);
+    setState(&box, NSOffState);
+    EXPECT_EQ(state(&box), NSOffState);
+}
+
+TEST(Controls, aChosenRadioButtonCanBeSetOffWithoutChoosingAnother)
+{
+    QWidget parent;
+    QRadioButton one(&parent);
+    QRadioButton other(&parent);
+    one.setChecked(true);
+    setState(&one, NSOffState);
+    EXPECT_EQ(state(&one), NSOffState);
+    setState(&one, NSOnState);
+    setState(&other, NSOnState);
+    EXPECT_EQ(state(&one), NSOffState);
+
+    QButtonGroup group;
+    group.addButton(&one);
+    group.addButton(&other);
+    setState(&other, NSOffState);
+    EXPECT_EQ(state(&other), NSOffState);
+    EXPECT_TRUE(group.exclusive());
+}
+
+TEST(Controls, theTextOfEveryKindOfControlIsSet)
+{
+    QLineEdit field;
+    QLabel label;
+    QCheckBox box;
+    ConflictMarker marker;
+    QTextEdit view;
+    for (QObject *control : QList<QObject *>{&field, &label, &box, &marker, &view}) {
+        setStringValue(control, "some text");
+        EXPECT_EQ(stringValue(control), "some text") << control->metaObject()->className();
+    }
+}
+
+TEST(Controls, aTextSetByCodeIsNeverTakenForMarkup)
+{
+    QLabel label;
+    setStringValue(&label, "<b>1.2</b>");
+    EXPECT_EQ(label.textFormat(), Qt::PlainText);
+    QLabel rich;
+    rich.setTextFormat(Qt::RichText);
+    setStringValue(&rich, "<b>1.2</b>");
+    EXPECT_EQ(rich.textFormat(), Qt::RichText);
+}
+
+TEST(Controls, aMarkerTellsOfEveryTextAndShowsNone)
+{
+    ConflictMarker marker;
+    QSignalSpy told(&marker, &ConflictMarker::textSet);
+    setStringValue(&marker, "A");
+    setStringValue(&marker, "A");
+    EXPECT_EQ(told.size(), 2);
+    EXPECT_TRUE(marker.sizePolicy().retainSizeWhenHidden());
+}
+
+TEST(Controls, enablingAndHidingWork)
+{
+    QCheckBox box;
+    setEnabled(&box, false);
+    EXPECT_FALSE(isEnabled(&box));
+    setHidden(&box, true);
+    EXPECT_TRUE(isHidden(&box));
+    QAction action;
+    setEnabled(&action, false);
+    setHidden(&action, true);
+    EXPECT_FALSE(isEnabled(&action));
+    EXPECT_TRUE(isHidden(&action));
+}
+
+TEST(Controls, aPopUpToldToSelectATagThatNoItemHasStaysAsItIs)
+{
+    QComboBox popUp;
+    popUp.addItem("a", 52);
+    popUp.addItem("b", 53);
+    popUp.addItem("none");
+    EXPECT_TRUE(selectItemWithTag(&popUp, 53));
+    EXPECT_FALSE(selectItemWithTag(&popUp, -1));
+    EXPECT_EQ(selectedItemTag(&popUp), 53);
+    popUp.setCurrentIndex(2);
+    EXPECT_EQ(selectedItemTag(&popUp), -1);
+    EXPECT_TRUE(isPopUp(&popUp));
+}
+
+TEST(Controls, aPageIsFoundByItsIdentifier)
+{
+    QTabWidget tabs;
+    tabs.addTab(new QWidget, "0");
+    tabs.addTab(new QWidget, "1");
+    tabs.widget(1)->setProperty("identifier", "hotkeys");
+    EXPECT_EQ(indexOfTabViewItemWithIdentifier(&tabs, "hotkeys"), 1);
+    EXPECT_EQ(indexOfTabViewItemWithIdentifier(&tabs, "HotKeys"), NSNotFound);
+    EXPECT_EQ(indexOfTabViewItemWithIdentifier(&tabs, ""), NSNotFound);
+}
+
+TEST(Controls, aNamedColourBringsAnotherThatItReadsOn)
+{
+    QLineEdit field;
+    setBackgroundColor(&field, Qt::white);
+    EXPECT_EQ(field.palette().color(QPalette::Base), QColor(Qt::white));
+    EXPECT_EQ(field.palette().color(QPalette::Text), QColor(Qt::black));
+    setBackgroundColor(&field, QColor(20, 40, 80));
+    EXPECT_EQ(field.palette().color(QPalette::Text), QColor(Qt::white));
+
+    QLabel label;
+    setTextColor(&label, Qt::red);
+    EXPECT_EQ(label.palette().color(QPalette::WindowText), QColor(Qt::red));
+    EXPECT_EQ(label.palette().color(QPalette::Window), QColor(Qt::white));
+    EXPECT_TRUE(label.autoFillBackground());
+    setTextColor(&label, Qt::yellow);
+    EXPECT_EQ(label.palette().color(QPalette::Window), QColor(Qt::black));
+}
+
+TEST(Controls, namedColoursOutlastAChangeOfThemeAndTheOthersFollowIt)
+{
+    const QPalette before = QApplication::palette();
+    QLineEdit field;
+    setBackgroundColor(&field, Qt::white);
+    QPalette dark = before;
+    dark.setColor(QPalette::Base, Qt::black);
+    dark.setColor(QPalette::Text, Qt::white);
+    dark.setColor(QPalette::Window, Qt::darkGray);
+    QApplication::setPalette(dark);
+    EXPECT_TRUE(waitUntil([&] { return field.palette().color(QPalette::Window) == QColor(Qt::darkGray); }));
+    EXPECT_EQ(field.palette().color(QPalette::Base), QColor(Qt::white));
+    EXPECT_EQ(field.palette().color(QPalette::Text), QColor(Qt::black));
+    QApplication::setPalette(before);
+}

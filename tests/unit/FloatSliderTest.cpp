@@ -1,0 +1,112 @@
+#include "platform/appkit/FloatSlider.h"
+#include "platform/appkit/Controls.h"
+
+#include <QSignalSpy>
+#include <QStyle>
+#include <QStyleOptionSlider>
+#include <QTest>
+#include <QWheelEvent>
+#include <gtest/gtest.h>
+#include <limits>
+
+class ASlider : public testing::Test
+{
+protected:
+    ASlider()
+    {
+        slider.setMinimum(0.1);
+        slider.setMaximum(2.1);
+        slider.setStep(0.1);
+        slider.resize(300, 30);
+        slider.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&slider));
+    }
+
+    QPoint handle() const
+    {
+        QStyleOptionSlider option;
+        option.initFrom(&slider);
+        option.orientation = Qt::Horizontal;
+        option.maximum = 20;
+        option.sliderPosition = option.sliderValue = qRound((slider.value() - 0.1) / 0.1);
+        return slider.style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, &slider).center();
+    }
+
+    FloatSlider slider;
+    QSignalSpy chosen{&slider, &FloatSlider::valueChosen};
+};
+
+TEST_F(ASlider, keepsExactlyWhatCodeSetsAndTellsNobody)
+{
+    setFloatValue(&slider, 0.333f);
+    EXPECT_EQ(floatValue(&slider), 0.333f);
+    EXPECT_EQ(chosen.size(), 0);
+}
+
+TEST_F(ASlider, staysWithinItsBounds)
+{
+    slider.setValue(7);
+    EXPECT_EQ(slider.value(), 2.1);
+    slider.setValue(-1);
+    EXPECT_EQ(slider.value(), 0.1);
+    slider.setValue(std::numeric_limits<double>::quiet_NaN());
+    EXPECT_EQ(slider.value(), 0.1);
+    slider.setValue(std::numeric_limits<double>::infinity());
+    EXPECT_EQ(slider.value(), 2.1);
+    EXPECT_EQ(chosen.size(), 0);
+}
+
+TEST_F(ASlider, takesItsValueBeforeItsBounds)
+{
+    FloatSlider early;
+    early.setValue(5);
+    early.setMaximum(10);
+    EXPECT_EQ(early.value(), 5);
+}
+
+TEST_F(ASlider, movesByAStepAtEachKeyAndTellsOfEach)
+{
+    slider.setValue(0.5);
+    QTest::keyClick(&slider, Qt::Key_Right);
+    EXPECT_DOUBLE_EQ(slider.value(), 0.6);
+    QTest::keyClick(&slider, Qt::Key_Left);
+    QTest::keyClick(&slider, Qt::Key_Left);
+    EXPECT_DOUBLE_EQ(slider.value(), 0.4);
+    EXPECT_EQ(chosen.size(), 3);
+    QTest::keyClick(&slider, Qt::Key_End);
+    EXPECT_EQ(slider.value(), 2.1);
+    QTest::keyClick(&slider, Qt::Key_Home);
+    EXPECT_EQ(slider.value(), 0.1);
+    EXPECT_EQ(chosen.size(), 5);
+}
+
+TEST_F(ASlider, movesWithTheWheelAndTells)
+{
+    slider.setValue(0.5);
+    QWheelEvent turn(
+        QPointF(10, 10), slider.mapToGlobal(QPointF(10, 10)), {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&slider, &turn);
+    EXPECT_GT(slider.value(), 0.5);
+    EXPECT_EQ(chosen.size(), 1);
+}
+
+TEST_F(ASlider, tellsOfADragOnceAtItsEnd)
+{
+    slider.setValue(0.1);
+    const QPoint start = handle();
+    QTest::mousePress(&slider, Qt::LeftButton, {}, start);
+    QTest::mouseMove(&slider, start + QPoint(40, 0));
+    QTest::mouseMove(&slider, start + QPoint(90, 0));
+    EXPECT_GT(slider.value(), 0.3);
+    EXPECT_EQ(chosen.size(), 0);
+    QTest::mouseRelease(&slider, Qt::LeftButton, {}, start + QPoint(90, 0));
+    EXPECT_EQ(chosen.size(), 1);
+}
+
+TEST_F(ASlider, pressedAndLetGoWithoutMovingTellsNothing)
+{
+    slider.setValue(0.333);
+    QTest::mouseClick(&slider, Qt::LeftButton, {}, handle());
+    EXPECT_EQ(slider.value(), 0.333);
+    EXPECT_EQ(chosen.size(), 0);
+}
