@@ -196,8 +196,8 @@
         <translation>&amp;Zur Auswahl springen</translation>
     </message>
     <message>
-        <source>To change a key, click it and press the new one. A warning sign marks a key that is used more than once.</source>
-        <translation>Um eine Taste zu ändern, klicken Sie sie an und drücken Sie die neue. Ein Warnzeichen markiert eine mehrfach belegte Taste.</translation>
+        <source>To change a key, click it and press the new one. A warning sign stands beside a key that is used twice.</source>
+        <translation>Zum Ändern eine Taste anklicken und die neue drücken. Ein Warnzeichen steht neben mehrfach belegten Tasten.</translation>
     </message>
     <message>
         <source>&amp;Behavior</source>
@@ -256,6 +256,10 @@
         <translation>Absteigend</translation>
     </message>
     <message>
+        <source>The leading edge is the one that faces the way you move.</source>
+        <translation>Die Vorderkante ist die, die in die Richtung der Bewegung zeigt.</translation>
+    </message>
+    <message>
         <source>&amp;Wrap around at the left and right edges of the screen</source>
         <translation>Am linken und rechten Bildschirmrand &amp;umbrechen</translation>
     </message>
@@ -286,6 +290,10 @@
     <message>
         <source>With&amp;out a double click</source>
         <translation>Ohne Doppelkli&amp;ck</translation>
+    </message>
+    <message>
+        <source>An active Lumaroo waits until you choose a window or cancel.</source>
+        <translation>Ist Lumaroo aktiv, wartet es, bis Sie ein Fenster wählen oder abbrechen.</translation>
     </message>
     <message>
         <source>Key repeat</source>
