@@ -6,7 +6,7 @@
 namespace {
 
 constexpr QSizeF TrackSize(44, 24);
-constexpr qreal RingGap = 2;
+constexpr qreal RingGap = 1;
 constexpr qreal RingWidth = 2;
 constexpr qreal KnobInset = 3;
 
@@ -56,12 +56,13 @@ void NSSwitch::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF track = trackRect();
     const QColor off = between(palette().color(QPalette::WindowText), palette().color(QPalette::Window));
+    const bool isOn = checkState() == Qt::Checked;
     painter.setPen(Qt::NoPen);
-    painter.setBrush(isChecked() ? palette().color(QPalette::Highlight) : off);
+    painter.setBrush(isOn ? palette().color(QPalette::Highlight) : off);
     painter.drawRoundedRect(track, track.height() / 2, track.height() / 2);
 
     const qreal knobRadius = track.height() / 2 - KnobInset;
-    painter.setBrush(isChecked() ? palette().color(QPalette::HighlightedText) : palette().color(QPalette::Window));
+    painter.setBrush(isOn ? palette().color(QPalette::HighlightedText) : palette().color(QPalette::Window));
     painter.drawEllipse(knobCenter(track), knobRadius, knobRadius);
 
     if (hasFocus()) {

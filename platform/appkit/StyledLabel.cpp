@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QScopedValueRollback>
+#include <QStyle>
 #include <algorithm>
 #include <cmath>
 
@@ -74,10 +75,24 @@ bool StyledLabel::event(QEvent *event)
     case QEvent::PaletteChange:
         applyTextStyle();
         break;
+    case QEvent::Polish:
+        unmirrored_ = alignment();
+        applyDirection();
+        break;
+    case QEvent::LayoutDirectionChange:
+        applyDirection();
+        break;
     default:
         break;
     }
     return handled;
+}
+
+void StyledLabel::applyDirection()
+{
+    // The base class would follow the text's script instead, and leave an English text behind in a mirrored window.
+    if (unmirrored_)
+        setAlignment(QStyle::visualAlignment(layoutDirection(), unmirrored_));
 }
 
 void StyledLabel::applyTextStyle()

@@ -27,7 +27,9 @@ protected:
 
 private:
     void applyTextStyle();
+    void applyDirection();
     TextStyle textStyle_ = Body;
+    Qt::Alignment unmirrored_;
     bool applying_ = false;
 };
 
