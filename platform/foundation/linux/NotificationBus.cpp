@@ -46,7 +46,6 @@ BusSubscription::BusSubscription(
 
 void BusSubscription::end()
 {
-    ended_ = true;
     connection_.disconnect({}, notificationPath(), notificationInterface(), notificationMember(), busMatch(filter_),
         notificationSignature(), this, SLOT(receive(QDBusMessage)));
     deleteLater();
@@ -55,7 +54,7 @@ void BusSubscription::end()
 void BusSubscription::receive(const QDBusMessage &message)
 {
     const std::optional<NSNotification> notification = notificationFromMessage(message);
-    if (!ended_ && notification && filter_.accepts(*notification))
+    if (notification && filter_.accepts(*notification))
         receiver_(filter_, *notification);
 }
 

@@ -36,7 +36,7 @@ class BusSubscription : public QObject
 
 public:
     BusSubscription(QDBusConnection connection, NotificationFilter filter, const NotificationReceiver &receiver);
-    /// Hears nothing from now on, and goes once the run loop is reached: it may be receiving just now.
+    /// Asks the bus for nothing more and goes once the run loop is reached: it may be receiving just now.
     void end();
 
     int users = 0;
@@ -48,7 +48,6 @@ private:
     QDBusConnection connection_;
     NotificationFilter filter_;
     const NotificationReceiver &receiver_;
-    bool ended_ = false;
 };
 
 /// The session bus as the distributed notification centre uses it. Connects at the first use; without a bus, and after
