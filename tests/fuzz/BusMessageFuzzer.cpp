@@ -277,7 +277,7 @@ private:
 Link &link()
 {
     static int argumentCount = 1;
-    static std::array<char *, 2> arguments{const_cast<char *>("BusMessageFuzz"), nullptr};
+    static std::array<char *, 2> arguments{const_cast<char *>("BusMessageFuzzer"), nullptr};
     static auto *const application = new QCoreApplication(argumentCount, arguments.data());
     static auto *const result = new Link;
     Q_UNUSED(application)
@@ -293,4 +293,4 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     return 0;
 }
 
-#include "BusMessageFuzz.moc"
+#include "BusMessageFuzzer.moc"
