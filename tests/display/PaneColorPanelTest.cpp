@@ -29,11 +29,11 @@ protected:
 
 TEST_F(PaneColorPanel, whenHiddenItIsPutBesideTheWindow)
 {
-    const QSizeF size = panel()->frame().size();
+    const QSize size = panel()->window()->size();
     showWindow();
     pane().didSelect();
     EXPECT_TRUE(waitUntil([this] { return panelIsInPlace(); }));
-    EXPECT_EQ(panel()->frame().size(), size);
+    EXPECT_EQ(panel()->window()->size(), size);
     EXPECT_FALSE(panel()->window()->isVisible());
 }
 
@@ -43,10 +43,10 @@ TEST_F(PaneColorPanel, whenShownItIsPutBesideTheWindow)
     ASSERT_TRUE(QTest::qWaitForWindowExposed(panel()->window()));
     panel()->setFrameOrigin({1, 1});
     showWindow();
-    const QSizeF size = panel()->frame().size();
+    const QSize size = panel()->window()->size();
     pane().didSelect();
     EXPECT_TRUE(waitUntil([this] { return panelIsInPlace(); }));
-    EXPECT_EQ(panel()->frame().size(), size);
+    EXPECT_EQ(panel()->window()->size(), size);
 }
 
 TEST_F(PaneColorPanel, itFollowsTheWindowAtEachShowing)
