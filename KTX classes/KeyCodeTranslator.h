@@ -1,26 +1,41 @@
 #pragma once
 
 #include <QString>
-#include <QtGlobal>
+#include <array>
 
-// How keys and modifiers are named to people.
+/// What a key is called whose translation is a control or function character.
+struct KeyName
+{
+    const char16_t *name;
+    quint32 glyph; ///< shown instead of the name; 0 for none
+    quint16 character; ///< the UTF-16 unit that the keyboard layout gives for the key
+};
 
-/// The name of a virtual key code in the keyboard layout of this moment; empty for a dead key.
-///
-/// Arrows give their glyphs, named keys their names in the language of the main bundle, other keys their unshifted
-/// character in upper case. The flags play no part.
-QString stringForKeyCodeWithModifierFlags(quint16 keyCode, quint64 modifierFlags);
+/// The names, in the order in which they are searched.
+extern const std::array<KeyName, 24> keyNameTable;
 
-/// The glyphs of a modifier mask, always in the order shift, control, option, command.
-QString modifierGlyphs(quint32 mask);
+/// Names keys by the user's keyboard layout.
+class KeyCodeTranslator
+{
+public:
+    /// The short text for a virtual key code: "Z" or "Y" by the layout in use, a name in the user's language, an arrow,
+    /// or nothing for a dead key. The modifier flags are ignored: a key is called the same whatever is held with it.
+    static QString stringForKeyCodeWithModifierFlags(quint16 keyCode, quint64 modifierFlags);
 
-/// The event flags of a modifier mask; other bits are dropped.
-quint64 hKeyModsToCGEventParams(quint32 mask);
+    /// The text for what a key translates to (zero or one UTF-16 unit). Names are looked up in the main bundle.
+    static QString nameOfTranslation(const QString &units);
+};
 
-/// The 32 bits of a number as "1" and "0", the highest first.
-QString binaryString(quint32 bits);
+/// The glyphs of a modifier mask, always in the order shift, control, option, command; other bits are ignored.
+QString modifierGlyphs(quint32 modifierMask);
+
+/// The event flags of the same modifiers; other bits are dropped.
+quint64 hKeyModsToCGEventParams(quint32 modifierMask);
+
+/// 32 characters "1" and "0", most significant bit first.
+QString binaryString(quint32 value);
 /// Writes the same to standard output, without a line end.
-void printBits(quint32 bits);
+void printBits(quint32 value);
 
 /// "Yes" or "No".
 QString BOOLString(bool value);

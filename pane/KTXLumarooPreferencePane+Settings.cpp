@@ -130,7 +130,8 @@ void KTXLumarooPreferencePane::readHotKeys()
         const QVariantMap hotKey = CFGetTypeID(entry) == CFTypeID::Dictionary ? entry.toMap() : QVariantMap();
         if (hotKey.contains(KTXKeycode))
             keyCodes_->replace(row, intValue(hotKey.value(KTXKeycode)));
-        setStringValue(viewWithTag(mainView(), row), stringForKeyCodeWithModifierFlags(quint16(keyCodes_->at(row)), 0));
+        const QString name = KeyCodeTranslator::stringForKeyCodeWithModifierFlags(quint16(keyCodes_->at(row)), 0);
+        setStringValue(viewWithTag(mainView(), row), name);
     }
 }
 
