@@ -7,8 +7,8 @@
 #include <QtGlobal>
 #include <memory>
 
-// The keyboard layout in use: that of the X server's keyboard with its current group; without an X server, the default names' (us).
-// A layout switched while the process runs counts at the next reading.
+// The keyboard layout in use: that of the X server's keyboard with its current group; without an X server, the default
+// names' (us). A layout switched while the process runs counts at the next reading.
 
 class KeyboardLayoutData;
 using TISInputSourceRef = std::shared_ptr<const KeyboardLayoutData>;
@@ -29,8 +29,9 @@ LM_FOUNDATION quint8 LMGetKbdType();
 
 /// The characters a key gives in a layout: of a virtual key code, without modifiers whatever is held now.
 ///
-/// Writes at most `maxStringLength` UTF-16 units to `unicodeString` and their count to `*actualStringLength`; a dead key, a modifier and an unknown code
-/// give 0. Returns 0, or -50 for a null layout or null pointers.
+/// Writes at most `maxStringLength` UTF-16 units to `unicodeString` and their count to `*actualStringLength`; a dead
+/// key, a modifier, an unknown code and a character that does not fit whole give 0. Returns 0, or -50 for a null layout
+/// or null pointers.
 LM_FOUNDATION qint32 UCKeyTranslate(const UCKeyboardLayoutRef &layout, quint16 virtualKeyCode, UCKeyAction keyAction,
     quint32 modifierKeyState, quint32 keyboardType, quint32 keyTranslateOptions, quint32 *deadKeyState,
     quint64 maxStringLength, quint64 *actualStringLength, char16_t *unicodeString);
