@@ -41,13 +41,13 @@ BusSubscription::BusSubscription(
     : connection_(std::move(connection)), filter_(std::move(filter)), receiver_(receiver)
 {
     connection_.connect({}, notificationPath(), notificationInterface(), notificationMember(), busMatch(filter_),
-        notificationSignature(), this, SLOT(receive(QDBusMessage)));
+        QString(), this, SLOT(receive(QDBusMessage)));
 }
 
 void BusSubscription::end()
 {
     connection_.disconnect({}, notificationPath(), notificationInterface(), notificationMember(), busMatch(filter_),
-        notificationSignature(), this, SLOT(receive(QDBusMessage)));
+        QString(), this, SLOT(receive(QDBusMessage)));
     deleteLater();
 }
 
