@@ -1,0 +1,98 @@
+#include "platform/appkit/NSAttributedString.h"
+#include "platform/foundation/NSBundle.h"
+
+#include <QDir>
+#include <QIcon>
+#include <QImageReader>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QUrl>
+#include <gtest/gtest.h>
+
+// The pane bundle as it is built, without its code.
+
+namespace {
+
+QString builtPath()
+{
+    return qEnvironmentVariable("LUMAROO_BUILD") + "/Lumaroo.prefPane";
+}
+
+QVariantMap info()
+{
+    return NSBundle::infoDictionaryOnDisk(builtPath());
+}
+
+NSAttributedString credits()
+{
+    return NSAttributedString::fromRTFDDocument(builtPath() + "/Contents/Resources/Credits.rtfd");
+}
+
+} // namespace
+
+TEST(PaneResources, theInfoDictionaryNamesWhatTheHostAndThePaneAskFor)
+{
+    EXPECT_EQ(info().value("CFBundleIdentifier"), "com.quorvane.Lumaroo");
+    EXPECT_EQ(info().value("CFBundleExecutable"), "Lumaroo");
+    EXPECT_EQ(info().value("NSPrincipalClass"), "KTXLumarooPreferencePane");
+    EXPECT_EQ(info().value("NSMainNibFile"), "LumarooPref");
+    EXPECT_EQ(info().value("CFBundleHelpBookName"), "Lumaroo Help");
+    EXPECT_EQ(info().value("LMPlatformVersion").toInt(), LUMAROO_PLATFORM_VERSION);
+    EXPECT_GT(info().value("CFBundleVersion").toString().toInt(), 0);
+    EXPECT_FALSE(info().value("CFBundleShortVersionString").toString().isEmpty());
+    EXPECT_FALSE(info().value("NSPrefPaneSearchKeywords").toStringList().isEmpty());
+}
+
+TEST(PaneResources, theAddressesAreOfTheRightKind)
+{
+    EXPECT_EQ(QUrl(info().value("SUFeedURL").toString()).scheme(), "https");
+    EXPECT_EQ(QUrl(info().value("KTXProductPage").toString()).scheme(), "http");
+    EXPECT_EQ(QUrl(info().value("KTXFeedbackPage").toString()).scheme(), "http");
+}
+
+TEST(PaneResources, theCopyrightReadsWellUpToItsFirstComma)
+{
+    const NSBundle *bundle = NSBundle::bundleWithPath(builtPath());
+    ASSERT_TRUE(bundle);
+    EXPECT_EQ(info().value("NSHumanReadableCopyright").toString().section(',', 0, 0),
+        QString("Copyright © 2026 The Lumaroo developers"));
+    EXPECT_TRUE(bundle->localizations().contains("de"));
+}
+
+TEST(PaneResources, theCreditsHoldTheMarkerOfTheCopyrightOnce)
+{
+    EXPECT_EQ(credits().string().count("<<copyright>>"), 1);
+}
+
+TEST(PaneResources, theCreditsShowTheirImageAndLeadToTheLibraries)
+{
+    const auto document = credits().document();
+    EXPECT_EQ(document->toRawText().count(QChar::ObjectReplacementCharacter), 1);
+    EXPECT_EQ(document->begin().blockFormat().alignment(), Qt::AlignHCenter);
+    EXPECT_FALSE(document->toRawText().contains(QChar(0x00AC)));
+    EXPECT_TRUE(document->toHtml().contains("href=\"https://www.qt.io/\""));
+}
+
+TEST(PaneResources, theIconHasAPictureForEachCommonSize)
+{
+    QImageReader reader(builtPath() + "/Contents/Resources/Lumaroo.icns");
+    ASSERT_TRUE(reader.canRead());
+    QList<int> widths;
+    for (int index = 0; index < reader.imageCount(); ++index) {
+        ASSERT_TRUE(reader.jumpToImage(index));
+        const QImage image = reader.read();
+        EXPECT_GT(image.pixelColor(image.rect().center()).alpha(), 0);
+        EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0);
+        widths += image.width();
+    }
+    std::sort(widths.begin(), widths.end());
+    EXPECT_EQ(widths, QList<int>({16, 32, 64, 128, 256, 512}));
+}
+
+TEST(PaneResources, noFileOfTheCreditsIsLeftBehind)
+{
+    const QStringList source =
+        QDir(qEnvironmentVariable("LUMAROO_SOURCE") + "/resources/pane/Credits.rtfd").entryList(QDir::Files);
+    const QStringList built = QDir(builtPath() + "/Contents/Resources/Credits.rtfd").entryList(QDir::Files);
+    EXPECT_EQ(built, source);
+}
