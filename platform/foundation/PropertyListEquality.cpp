@@ -1,5 +1,4 @@
 #include "platform/foundation/PropertyList.h"
-#include "platform/foundation/PropertyListValue.h"
 
 #include <QDateTime>
 #include <bit>
@@ -15,11 +14,48 @@ bool equalLists(const QVariantList &left, const QVariantList &right)
 
 bool equalMaps(const QVariantMap &left, const QVariantMap &right)
 {
-    return left.keys() == right.keys() && std::equal(left.begin(), left.end(), right.begin(), right.end(), equal);
+    const auto equalEntries = [](const auto &one, const auto &other) {
+        return one.first == other.first && equal(one.second, other.second);
+    };
+    return std::equal(left.constKeyValueBegin(), left.constKeyValueEnd(), right.constKeyValueBegin(),
+        right.constKeyValueEnd(), equalEntries);
+}
+
+bool isInteger(const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Short:
+    case QMetaType::UShort:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::Long:
+    case QMetaType::ULong:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isList(const QVariant &value)
+{
+    return value.typeId() == QMetaType::QVariantList || value.typeId() == QMetaType::QStringList;
+}
+
+/// Of any widths: the bits tell equal numbers, save that a sign turns the highest numbers into negative ones.
+bool equalIntegers(const QVariant &left, const QVariant &right)
+{
+    const auto isNegative = [](const QVariant &value) { return value.toDouble() < 0; };
+    return left.toULongLong() == right.toULongLong() && isNegative(left) == isNegative(right);
 }
 
 bool equal(const QVariant &left, const QVariant &right)
 {
+    if (isInteger(left) && isInteger(right))
+        return equalIntegers(left, right);
+    if (isList(left) && isList(right))
+        return equalLists(left.toList(), right.toList());
     if (left.typeId() != right.typeId())
         return false;
     switch (left.typeId()) {
@@ -28,8 +64,6 @@ bool equal(const QVariant &left, const QVariant &right)
         return std::bit_cast<quint32>(left.toFloat()) == std::bit_cast<quint32>(right.toFloat());
     case QMetaType::Double:
         return std::bit_cast<quint64>(left.toDouble()) == std::bit_cast<quint64>(right.toDouble());
-    case QMetaType::QVariantList:
-        return equalLists(left.toList(), right.toList());
     case QMetaType::QVariantMap:
         return equalMaps(left.toMap(), right.toMap());
     default:
@@ -37,16 +71,9 @@ bool equal(const QVariant &left, const QVariant &right)
     }
 }
 
-/// An integer is an integer, whatever the width it was given in.
-QVariant comparable(const QVariant &value)
-{
-    const QVariant converted = propertyListValue(value);
-    return converted.isValid() ? converted : value;
-}
-
 } // namespace
 
 bool isEqualPropertyList(const QVariant &left, const QVariant &right)
 {
-    return equal(comparable(left), comparable(right));
+    return equal(left, right);
 }
