@@ -1,0 +1,73 @@
+#include "DesktopWindows.h"
+
+#include <QGuiApplication>
+#include <QPixmap>
+#include <QScreen>
+#include <cstdlib>
+#include <memory>
+#include <xcb/xcb.h>
+
+namespace {
+
+template<typename Reply> using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
+
+xcb_connection_t *connection()
+{
+    static const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> display(xcb_connect(nullptr, nullptr), &xcb_disconnect);
+    return display.get();
+}
+
+xcb_window_t rootWindow()
+{
+    return xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;
+}
+
+xcb_atom_t atom(const char *name)
+{
+    const Owned<xcb_intern_atom_reply_t> reply(
+        xcb_intern_atom_reply(connection(), xcb_intern_atom(connection(), 0, quint16(qstrlen(name)), name), nullptr), &std::free);
+    return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
+}
+
+QByteArray property(xcb_window_t window, const char *name)
+{
+    const auto cookie = xcb_get_property(connection(), 0, window, atom(name), XCB_GET_PROPERTY_TYPE_ANY, 0, 65536);
+    const Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection(), cookie, nullptr), &std::free);
+    if (!reply)
+        return {};
+    return {static_cast<const char *>(xcb_get_property_value(reply.get())), xcb_get_property_value_length(reply.get())};
+}
+
+QList<quint32> numbers(const QByteArray &bytes)
+{
+    QList<quint32> values(bytes.size() / qsizetype(sizeof(quint32)));
+    std::memcpy(values.data(), bytes.constData(), size_t(values.size()) * sizeof(quint32));
+    return values;
+}
+
+} // namespace
+
+QList<DesktopWindow> desktopWindows()
+{
+    QList<DesktopWindow> windows;
+    for (const quint32 id : numbers(property(rootWindow(), "_NET_CLIENT_LIST")))
+        windows.append({id, numbers(property(id, "_NET_WM_PID")).value(0), QString::fromUtf8(property(id, "_NET_WM_NAME"))});
+    return windows;
+}
+
+QList<DesktopWindow> desktopWindowsOfProcess(qint64 processID)
+{
+    QList<DesktopWindow> windows = desktopWindows();
+    windows.removeIf([processID](const DesktopWindow &window) { return window.processID != processID; });
+    return windows;
+}
+
+quint32 activeWindow()
+{
+    return numbers(property(rootWindow(), "_NET_ACTIVE_WINDOW")).value(0);
+}
+
+QImage pictureOfWindow(quint32 window)
+{
+    return QGuiApplication::primaryScreen()->grabWindow(window).toImage();
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QImage>
+#include <QList>
+#include <QString>
+
+/// A top-level window as the window manager lists it.
+struct DesktopWindow
+{
+    quint32 id = 0;
+    qint64 processID = 0;
+    QString title;
+};
+
+/// All windows that the window manager shows, in the order in which it took them over.
+QList<DesktopWindow> desktopWindows();
+QList<DesktopWindow> desktopWindowsOfProcess(qint64 processID);
+/// The window that has the keyboard focus, 0 for none.
+quint32 activeWindow();
+/// What the screen shows of a window.
+QImage pictureOfWindow(quint32 window);

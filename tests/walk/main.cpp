@@ -1,0 +1,101 @@
+// Walks the main job once with the real programs, says each step, and leaves a screenshot of each page.
+// Usage: walk BUILD-FOLDER SCREENSHOT-FOLDER, inside a session with a bus, a display and a window manager.
+
+#include "KeyPress.h"
+#include "SettingsProgram.h"
+#include "Wait.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTextStream>
+#include <linux/input-event-codes.h>
+
+namespace {
+
+const QStringList pages = {QStringLiteral("general"), QStringLiteral("hotkeys"), QStringLiteral("behaviour"),
+    QStringLiteral("updates"), QStringLiteral("help"), QStringLiteral("about")};
+constexpr int behaviourPage = 2;
+
+QTextStream out(stdout);
+
+void say(const QString &line)
+{
+    out << line << Qt::endl;
+}
+
+[[noreturn]] void giveUp(const QString &step)
+{
+    say(QStringLiteral("failed: ") + step);
+    std::exit(1);
+}
+
+void require(bool condition, const QString &step)
+{
+    if (!condition)
+        giveUp(step);
+    say(QStringLiteral("- ") + step);
+}
+
+QString runDefaults(const QStringList &arguments)
+{
+    QProcess defaults;
+    defaults.start(SettingsProgram::buildFolder() + QStringLiteral("/bin/lumaroo-defaults"), arguments);
+    if (!defaults.waitForFinished() || defaults.exitCode() != 0)
+        giveUp(QStringLiteral("lumaroo-defaults %1: %2").arg(arguments.join(u' '), QString::fromUtf8(defaults.readAllStandardError())));
+    return QString::fromUtf8(defaults.readAllStandardOutput()).trimmed();
+}
+
+void save(const QImage &picture, const QString &folder, const QString &name)
+{
+    if (picture.isNull() || !picture.save(folder + u'/' + name + QStringLiteral(".png")))
+        giveUp(QStringLiteral("screenshot ") + name);
+}
+
+void turnEveryPage(SettingsProgram &settings, const QString &folder)
+{
+    QImage shown = settings.settledPicture();
+    for (int page = 0; page < pages.size(); ++page) {
+        if (page > 0) {
+            pressKey(KEY_PAGEDOWN, {KEY_LEFTCTRL});
+            shown = settings.pictureAfterChangeFrom(shown);
+        }
+        save(shown, folder, QStringLiteral("%1-%2").arg(page).arg(pages[page]));
+    }
+    say(QStringLiteral("- turned every page"));
+}
+
+void letAnOutsideChangeArrive(SettingsProgram &settings, const QString &folder)
+{
+    for (int page = int(pages.size()) - 1; page > behaviourPage; --page)
+        pressKey(KEY_PAGEUP, {KEY_LEFTCTRL});
+    const QImage before = settings.settledPicture();
+    runDefaults({QStringLiteral("--notify"), QStringLiteral("write"), QStringLiteral("EnableHorizontalWrap"), QStringLiteral("-bool"), QStringLiteral("false")});
+    save(settings.pictureAfterChangeFrom(before), folder, QStringLiteral("outside-change"));
+    say(QStringLiteral("- a change made outside (EnableHorizontalWrap off) arrived and shows"));
+}
+
+void walk(const QString &folder)
+{
+    QDir().mkpath(folder);
+    SettingsProgram settings;
+    require(settings.waitForWindows(1), QStringLiteral("the settings open with the Lumaroo pane"));
+    turnEveryPage(settings, folder);
+    say(QStringLiteral("- what is stored now:\n") + runDefaults({QStringLiteral("read")}));
+    letAnOutsideChangeArrive(settings, folder);
+    pressKey(KEY_Q, {KEY_LEFTCTRL});
+    require(settings.waitForExit() == 0, QStringLiteral("the settings quit"));
+}
+
+} // namespace
+
+int main(int argumentCount, char **arguments)
+{
+    QApplication application(argumentCount, arguments);
+    if (argumentCount != 3)
+        giveUp(QStringLiteral("usage: walk BUILD-FOLDER SCREENSHOT-FOLDER"));
+    qputenv("LUMAROO_BUILD", QDir(QFile::decodeName(arguments[1])).absolutePath().toUtf8());
+    const QString folder = QDir(QFile::decodeName(arguments[2])).absolutePath();
+    walk(folder);
+    say(QStringLiteral("Screenshots of the pages: ") + folder);
+    return 0;
+}
