@@ -8,10 +8,7 @@
 class CapturedLog
 {
 public:
-    CapturedLog() :
-        previous_(setLogWriter([this](const QString &line) { lines_ += line; }))
-    {
-    }
+    CapturedLog() : previous_(setLogWriter([this](const QString &line) { lines_ += line; })) { }
     ~CapturedLog() { setLogWriter(previous_); }
     CapturedLog(const CapturedLog &) = delete;
     CapturedLog &operator=(const CapturedLog &) = delete;

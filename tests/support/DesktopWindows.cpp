@@ -9,11 +9,13 @@
 
 namespace {
 
-template<typename Reply> using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
+template <typename Reply>
+using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
 
 xcb_connection_t *connection()
 {
-    static const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> display(xcb_connect(nullptr, nullptr), &xcb_disconnect);
+    static const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> display(
+        xcb_connect(nullptr, nullptr), &xcb_disconnect);
     return display.get();
 }
 
@@ -25,7 +27,8 @@ xcb_window_t rootWindow()
 xcb_atom_t atom(const char *name)
 {
     const Owned<xcb_intern_atom_reply_t> reply(
-        xcb_intern_atom_reply(connection(), xcb_intern_atom(connection(), 0, quint16(qstrlen(name)), name), nullptr), &std::free);
+        xcb_intern_atom_reply(connection(), xcb_intern_atom(connection(), 0, quint16(qstrlen(name)), name), nullptr),
+        &std::free);
     return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
 }
 
@@ -45,13 +48,18 @@ QList<quint32> numbers(const QByteArray &bytes)
     return values;
 }
 
+QString title(xcb_window_t window)
+{
+    return QString::fromUtf8(property(window, "_NET_WM_NAME"));
+}
+
 } // namespace
 
 QList<DesktopWindow> desktopWindows()
 {
     QList<DesktopWindow> windows;
     for (const quint32 id : numbers(property(rootWindow(), "_NET_CLIENT_LIST")))
-        windows.append({id, numbers(property(id, "_NET_WM_PID")).value(0), QString::fromUtf8(property(id, "_NET_WM_NAME"))});
+        windows.append({id, numbers(property(id, "_NET_WM_PID")).value(0), title(id)});
     return windows;
 }
 
@@ -65,6 +73,20 @@ QList<DesktopWindow> desktopWindowsOfProcess(qint64 processID)
 quint32 activeWindow()
 {
     return numbers(property(rootWindow(), "_NET_ACTIVE_WINDOW")).value(0);
+}
+
+QStringList openWindowTitles()
+{
+    QStringList titles;
+    for (const DesktopWindow &window : desktopWindows())
+        titles += window.title;
+    return titles;
+}
+
+QString activeWindowTitle()
+{
+    const quint32 window = activeWindow();
+    return window == XCB_NONE ? QString() : title(window);
 }
 
 QImage pictureOfWindow(quint32 window)

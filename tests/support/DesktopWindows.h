@@ -2,7 +2,7 @@
 
 #include <QImage>
 #include <QList>
-#include <QString>
+#include <QStringList>
 
 /// A top-level window as the window manager lists it.
 struct DesktopWindow
@@ -17,5 +17,8 @@ QList<DesktopWindow> desktopWindows();
 QList<DesktopWindow> desktopWindowsOfProcess(qint64 processID);
 /// The window that has the keyboard focus, 0 for none.
 quint32 activeWindow();
+/// The titles of all windows, and that of the one with the focus.
+QStringList openWindowTitles();
+QString activeWindowTitle();
 /// What the screen shows of a window.
 QImage pictureOfWindow(quint32 window);

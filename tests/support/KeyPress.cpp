@@ -10,7 +10,8 @@ namespace {
 
 xcb_connection_t *connection()
 {
-    static const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> display(xcb_connect(nullptr, nullptr), &xcb_disconnect);
+    static const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> display(
+        xcb_connect(nullptr, nullptr), &xcb_disconnect);
     return display.get();
 }
 
@@ -21,7 +22,8 @@ void waitForServer()
 
 void send(quint8 type, quint8 detail, QPoint place = {})
 {
-    xcb_test_fake_input(connection(), type, detail, XCB_CURRENT_TIME, XCB_NONE, qint16(place.x()), qint16(place.y()), 0);
+    xcb_test_fake_input(
+        connection(), type, detail, XCB_CURRENT_TIME, XCB_NONE, qint16(place.x()), qint16(place.y()), 0);
 }
 
 } // namespace

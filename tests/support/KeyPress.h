@@ -4,7 +4,8 @@
 #include <QPoint>
 #include <QtGlobal>
 
-// Real key presses and clicks on the X server, as a keyboard and a mouse would send them (XTEST). Keys are kernel (evdev) codes.
+// Real key presses and clicks on the X server, as a keyboard and a mouse would send them (XTEST). Keys are kernel
+// (evdev) codes.
 
 inline constexpr int evdevToX11 = 8;
 

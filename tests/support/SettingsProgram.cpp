@@ -4,6 +4,8 @@
 
 namespace {
 
+constexpr int picturesUntilSettled = 8; // taken 10 ms or more apart
+
 QImage picture()
 {
     return pictureOfWindow(activeWindow());
@@ -11,36 +13,14 @@ QImage picture()
 
 } // namespace
 
-QString SettingsProgram::buildFolder()
+SettingsProgram::SettingsProgram(const QStringList &arguments) : HostProgram(arguments) { }
+
+QString SettingsProgram::builtPane()
 {
-    return qEnvironmentVariable("LUMAROO_BUILD");
+    return qEnvironmentVariable("LUMAROO_BUILD") + QStringLiteral("/Lumaroo.prefPane");
 }
 
-QString SettingsProgram::panePath()
-{
-    return buildFolder() + QStringLiteral("/Lumaroo.prefPane");
-}
-
-SettingsProgram::SettingsProgram(const QStringList &arguments)
-{
-    process_.start(buildFolder() + QStringLiteral("/Settings.app/Contents/Linux/lumaroo-settings"), arguments);
-    process_.waitForStarted();
-}
-
-SettingsProgram::~SettingsProgram()
-{
-    if (!isRunning())
-        return;
-    process_.kill();
-    process_.waitForFinished();
-}
-
-QList<DesktopWindow> SettingsProgram::windows() const
-{
-    return desktopWindowsOfProcess(processID());
-}
-
-bool SettingsProgram::waitForWindows(int count)
+bool SettingsProgram::waitForWindows(int count) const
 {
     return waitUntil([&] {
         const QList<DesktopWindow> shown = windows();
@@ -48,40 +28,22 @@ bool SettingsProgram::waitForWindows(int count)
     });
 }
 
-QImage SettingsProgram::settledPicture()
+QImage SettingsProgram::settledPicture() const
 {
-    // A blinking text cursor never settles: the same picture three times in a row within its rhythm is enough.
     QImage last;
-    int same = 0;
+    int unchanged = 0;
     waitUntil([&] {
         const QImage now = picture();
-        same = now == last ? same + 1 : 0;
+        unchanged = now == last ? unchanged + 1 : 0;
         last = now;
-        return same >= 8;
+        return unchanged == picturesUntilSettled;
     });
     return last;
 }
 
-QImage SettingsProgram::pictureAfterChangeFrom(const QImage &before)
+QImage SettingsProgram::pictureAfterChangeFrom(const QImage &before) const
 {
     if (!waitUntil([&] { return picture() != before; }))
         return {};
     return settledPicture();
-}
-
-bool SettingsProgram::isRunning() const
-{
-    return process_.state() != QProcess::NotRunning;
-}
-
-int SettingsProgram::waitForExit()
-{
-    waitUntil([this] { return !isRunning(); });
-    return process_.state() == QProcess::NotRunning && process_.exitStatus() == QProcess::NormalExit ? process_.exitCode() : -1;
-}
-
-QString SettingsProgram::standardError()
-{
-    errorOutput_ += process_.readAllStandardError();
-    return QString::fromUtf8(errorOutput_);
 }

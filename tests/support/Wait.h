@@ -5,7 +5,8 @@
 #include <QTest>
 #include <functional>
 
-/// Runs the event loop until `condition` holds; false when it does not within `milliseconds` (generous: sanitizers and busy machines are slow).
+/// Runs the event loop until `condition` holds; false when it does not within `milliseconds` (generous: sanitizers and
+/// busy machines are slow).
 inline bool waitUntil(const std::function<bool()> &condition, int milliseconds = 20000)
 {
     return QTest::qWaitFor(condition, milliseconds);

@@ -1,7 +1,7 @@
 // What `cmake --install` puts into a prefix works from there, wherever the prefix is moved to.
 
+#include "DesktopWindows.h"
 #include "HostProgram.h"
-#include "OpenWindows.h"
 #include "PaneBundle.h"
 #include "Wait.h"
 

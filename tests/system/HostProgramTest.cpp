@@ -1,8 +1,8 @@
 // The real settings application: one instance, its ends by signal, its command line.
 
 #include "HostProgram.h"
+#include "DesktopWindows.h"
 #include "KeyPress.h"
-#include "OpenWindows.h"
 #include "PaneBundle.h"
 #include "Wait.h"
 #include "platform/foundation/CFPreferences.h"

@@ -39,9 +39,10 @@ void require(bool condition, const QString &step)
 QString runDefaults(const QStringList &arguments)
 {
     QProcess defaults;
-    defaults.start(SettingsProgram::buildFolder() + QStringLiteral("/bin/lumaroo-defaults"), arguments);
+    defaults.start(qEnvironmentVariable("LUMAROO_BUILD") + QStringLiteral("/bin/lumaroo-defaults"), arguments);
     if (!defaults.waitForFinished() || defaults.exitCode() != 0)
-        giveUp(QStringLiteral("lumaroo-defaults %1: %2").arg(arguments.join(u' '), QString::fromUtf8(defaults.readAllStandardError())));
+        giveUp(QStringLiteral("lumaroo-defaults %1: %2")
+                   .arg(arguments.join(u' '), QString::fromUtf8(defaults.readAllStandardError())));
     return QString::fromUtf8(defaults.readAllStandardOutput()).trimmed();
 }
 
@@ -69,7 +70,8 @@ void letAnOutsideChangeArrive(SettingsProgram &settings, const QString &folder)
     for (int page = int(pages.size()) - 1; page > behaviourPage; --page)
         pressKey(KEY_PAGEUP, {KEY_LEFTCTRL});
     const QImage before = settings.settledPicture();
-    runDefaults({QStringLiteral("--notify"), QStringLiteral("write"), QStringLiteral("EnableHorizontalWrap"), QStringLiteral("-bool"), QStringLiteral("false")});
+    runDefaults({QStringLiteral("--notify"), QStringLiteral("write"), QStringLiteral("EnableHorizontalWrap"),
+        QStringLiteral("-bool"), QStringLiteral("false")});
     save(settings.pictureAfterChangeFrom(before), folder, QStringLiteral("outside-change"));
     say(QStringLiteral("- a change made outside (EnableHorizontalWrap off) arrived and shows"));
 }
@@ -83,7 +85,7 @@ void walk(const QString &folder)
     say(QStringLiteral("- what is stored now:\n") + runDefaults({QStringLiteral("read")}));
     letAnOutsideChangeArrive(settings, folder);
     pressKey(KEY_Q, {KEY_LEFTCTRL});
-    require(settings.waitForExit() == 0, QStringLiteral("the settings quit"));
+    require(settings.exitStatus() == 0, QStringLiteral("the settings quit"));
 }
 
 } // namespace
