@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QTest>
+#include <QTimer>
 #include <functional>
 
 /// Runs the event loop until `condition` holds; false when it does not within `milliseconds` (generous: sanitizers and
