@@ -6,6 +6,7 @@
 #include <QColorDialog>
 #include <QEvent>
 #include <QGuiApplication>
+#include <QLayout>
 #include <QScreen>
 #include <QSignalBlocker>
 #include <QWindow>
@@ -75,6 +76,8 @@ NSColorPanel::NSColorPanel() : window_(new QColorDialog)
     window_->setOptions(QColorDialog::ShowAlphaChannel | QColorDialog::NoButtons | QColorDialog::DontUseNativeDialog);
     window_->setModal(false);
     window_->setAttribute(Qt::WA_QuitOnClose, false);
+    // Window managers draw less around a window of fixed size: this one is to be framed like the others.
+    window_->layout()->setSizeConstraint(QLayout::SetMinimumSize);
     window_->adjustSize();
     window_->installEventFilter(this);
     connect(window_, &QColorDialog::currentColorChanged, this, &NSColorPanel::giveColorToWell);
@@ -88,8 +91,9 @@ NSColorPanel::~NSColorPanel()
 
 QMargins NSColorPanel::frameMargins() const
 {
-    const QMargins own = marginsOf(window_);
-    return window_->isVisible() || !own.isNull() ? own : marginsOfAnyWindow();
+    if (window_->isVisible())
+        return marginsOf(window_);
+    return marginsWhenShown_ ? *marginsWhenShown_ : marginsOfAnyWindow();
 }
 
 QRectF NSColorPanel::frame() const
@@ -112,14 +116,17 @@ bool NSColorPanel::eventFilter(QObject *watched, QEvent *event)
     if (watched == window_ && event->type() == QEvent::Show)
         window_->windowHandle()->installEventFilter(this);
     else if (watched == window_->windowHandle() && event->type() == QEvent::Expose)
-        placeAgainWithRealFrame();
+        windowIsOnScreen();
     return false;
 }
 
-void NSColorPanel::placeAgainWithRealFrame()
+void NSColorPanel::windowIsOnScreen()
 {
-    // What the window manager draws around the panel was a guess until now.
-    if (originWhileHidden_ && window_->windowHandle()->isExposed())
+    if (!window_->windowHandle()->isExposed())
+        return;
+    marginsWhenShown_ = marginsOf(window_);
+    // What the window manager draws around the panel may have been a guess until now.
+    if (originWhileHidden_)
         setFrameOrigin(*std::exchange(originWhileHidden_, std::nullopt));
 }
 

@@ -50,7 +50,7 @@ private:
     ~NSColorPanel() override;
     static NSColorPanel *&instance();
     QMargins frameMargins() const;
-    void placeAgainWithRealFrame();
+    void windowIsOnScreen();
     void showColor(const NSColorRef &color);
     void giveColorToWell(const QColor &color);
     void letGoOfWell();
@@ -58,4 +58,5 @@ private:
     QColorDialog *window_;
     QPointer<NSColorWell> activeWell_;
     std::optional<QPointF> originWhileHidden_;
+    std::optional<QMargins> marginsWhenShown_;
 };
