@@ -36,7 +36,7 @@
         <translation>Neu bei Lumaroo</translation>
     </message>
     <message>
-        <source>Start the &amp;tutorial</source>
+        <source>&amp;Start the tutorial</source>
         <translation>&amp;Einführung starten</translation>
     </message>
     <message>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>⇧ Sh&amp;ift</source>
-        <translation>⇧ &amp;Umschalt</translation>
+        <translation>⇧ U&amp;mschalt</translation>
     </message>
     <message>
         <source>⌃ &amp;Control</source>
@@ -152,7 +152,7 @@
         <translation>Taste zum Öffnen dieser Einstellungen</translation>
     </message>
     <message>
-        <source>Key to take a screenshot</source>
+        <source>Key to make a screenshot</source>
         <translation>Taste für ein Bildschirmfoto</translation>
     </message>
     <message>
@@ -176,7 +176,7 @@
         <translation>&amp;Einstellungen öffnen</translation>
     </message>
     <message>
-        <source>&amp;Take a screenshot</source>
+        <source>&amp;Make a screenshot</source>
         <translation>B&amp;ildschirmfoto machen</translation>
     </message>
     <message>
@@ -261,10 +261,10 @@
     </message>
     <message>
         <source>&amp;Wrap around at the left and right edges of the screen</source>
-        <translation>Am linken und rechten Bildschirmrand &amp;umbrechen</translation>
+        <translation>Am linken und rechten Bildschirmrand u&amp;mbrechen</translation>
     </message>
     <message>
-        <source>Wrap around at the &amp;top and bottom edges of the screen</source>
+        <source>Wrap around at the top and botto&amp;m edges of the screen</source>
         <translation>Am oberen und u&amp;nteren Bildschirmrand umbrechen</translation>
     </message>
     <message>
@@ -365,7 +365,7 @@
     </message>
     <message>
         <source>&amp;Updates</source>
-        <translation>&amp;Aktualisierung</translation>
+        <translation>Akt&amp;ualisierung</translation>
     </message>
     <message>
         <source>Automatic check</source>
@@ -416,7 +416,7 @@
         <translation>Hilfe zur Bedienung ohne Maus</translation>
     </message>
     <message>
-        <source>&amp;About</source>
+        <source>Abou&amp;t</source>
         <translation>Ü&amp;ber</translation>
     </message>
     <message>
