@@ -425,7 +425,7 @@
     </message>
     <message>
         <source>Copyright © 2026 The Lumaroo developers</source>
-        <translation>Copyright © 2026 The Lumaroo developers</translation>
+        <translation>Copyright © 2026 Die Entwickler von Lumaroo</translation>
     </message>
     <message>
         <source>More help</source>
