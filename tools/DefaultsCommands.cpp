@@ -81,7 +81,7 @@ void exportValues(const DefaultsRequest &request)
         return;
     }
     QSaveFile file(request.operand);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() || !file.commit())
         throw CommandFailure(QStringLiteral("%1: %2").arg(request.operand, file.errorString()));
 }
 
