@@ -18,12 +18,14 @@ public:
     /// The process's centre.
     static NSNotificationCenter *defaultCenter();
 
-    /// Calls `selector` at each posting of `name` (with an invalid `object`: from any sender; else only with an equal object). A second registration of
-    /// the same observer counts on its own. An observer that is destroyed is forgotten. What a handler throws is logged; the others are still called.
+    /// Calls `selector` at each posting of `name` (with an invalid `object`: from any sender; else only with an equal
+    /// object). A second registration of the same observer counts on its own. An observer that is destroyed is
+    /// forgotten. What a handler throws is logged; the others are still called.
     void addObserverSelectorNameObject(
         QObject *observer, NotificationHandler selector, const QString &name, const QVariant &object = {});
 
-    /// Forgets every registration of the observer. One that is removed while a notification is being delivered is not called any more.
+    /// Forgets every registration of the observer. One that is removed while a notification is being delivered is not
+    /// called any more.
     void removeObserver(const QObject *observer);
     /// Forgets the observer's registrations for `name` (with an invalid `object`: whatever object they were made for).
     void removeObserverNameObject(const QObject *observer, const QString &name, const QVariant &object = {});
