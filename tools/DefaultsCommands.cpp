@@ -8,7 +8,6 @@
 
 #include <QFile>
 #include <QHash>
-#include <QSaveFile>
 #include <cstdio>
 
 namespace {
@@ -70,6 +69,19 @@ void deleteValue(const DefaultsRequest &request)
     save(request.domain);
 }
 
+/// A single write to a file that is about to be full is short, and no error yet.
+bool writeAll(QFile &file, const QByteArray &bytes)
+{
+    qint64 written = 0;
+    while (written < bytes.size()) {
+        const qint64 count = file.write(bytes.constData() + written, bytes.size() - written);
+        if (count <= 0)
+            return false;
+        written += count;
+    }
+    return true;
+}
+
 void exportValues(const DefaultsRequest &request)
 {
     const QVariantMap values = storedValues(request.domain);
@@ -80,8 +92,9 @@ void exportValues(const DefaultsRequest &request)
         print(bytes);
         return;
     }
-    QSaveFile file(request.operand);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() || !file.commit())
+    // In place, since the name may stand for a pipe or a device.
+    QFile file(request.operand);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !writeAll(file, bytes))
         throw CommandFailure(QStringLiteral("%1: %2").arg(request.operand, file.errorString()));
 }
 

@@ -4,7 +4,10 @@
 #include <QDateTime>
 #include <QDir>
 #include <QTemporaryDir>
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 // The command with which people see and change what is stored.
 
@@ -197,7 +200,19 @@ TEST_F(LumarooDefaults, anExportThatCannotBeWrittenSaysSo)
 {
     expectDone({"write", "key", "1"});
     expectNotDone({"export", temporary_.filePath("no/such/folder")}, "no/such/folder");
-    expectNotDone({"export", "/dev/full"}, "");
+}
+
+TEST_F(LumarooDefaults, anExportIntoAPipeLeavesThePipe)
+{
+    expectDone({"write", "key", "1"});
+    const QByteArray name = QFile::encodeName(temporary_.filePath("pipe"));
+    ASSERT_EQ(mkfifo(name.constData(), 0600), 0);
+    const int pipe = open(name.constData(), O_RDWR | O_NONBLOCK | O_CLOEXEC);
+    expectDone({"export", QFile::decodeName(name)});
+    QByteArray bytes(1000, '\0');
+    bytes.truncate(read(pipe, bytes.data(), size_t(bytes.size())));
+    EXPECT_EQ(readPropertyList(bytes).value.toMap(), stored());
+    close(pipe);
 }
 
 TEST_F(LumarooDefaults, textThatXMLCannotHoldIsExportedInBinaryOnly)
