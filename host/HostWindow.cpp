@@ -31,8 +31,8 @@ QString windowName()
 
 QIcon hostIcon()
 {
-    const QIcon icon =
-        QIcon::fromTheme(QStringLiteral("lumaroo-settings"), QIcon::fromTheme(QStringLiteral("preferences-system")));
+    const QIcon icon = QIcon::fromTheme(
+        QStringLiteral("com.quorvane.LumarooSettings"), QIcon::fromTheme(QStringLiteral("preferences-system")));
     return icon.isNull() ? letterTile(windowName()) : icon;
 }
 

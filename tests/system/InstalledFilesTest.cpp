@@ -1,0 +1,100 @@
+// What `cmake --install` puts where, as desktops, software centres and the settings look for it; and that its list of
+// files is complete.
+
+#include <QDir>
+#include <QDirIterator>
+#include <gmock/gmock.h>
+
+namespace {
+
+void run(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(program, arguments);
+    ASSERT_TRUE(process.waitForFinished(120000)) << qPrintable(process.errorString());
+    ASSERT_EQ(process.exitCode(), 0) << process.readAll().constData();
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
+    return file.readAll();
+}
+
+class InstalledFiles : public testing::Test
+{
+protected:
+    void SetUp() override { run("cmake", {"--install", build, "--prefix", prefix}); }
+
+    QStringList files() const
+    {
+        QStringList found;
+        QDirIterator iterator(prefix, QDir::Files | QDir::System | QDir::Hidden, QDirIterator::Subdirectories);
+        while (iterator.hasNext())
+            found += iterator.next().mid(prefix.size() + 1);
+        return found;
+    }
+
+    QString desktopEntry(const QString &key) const
+    {
+        const QSettings entry(prefix + "/share/applications/" + desktopId + ".desktop", QSettings::IniFormat);
+        return entry.value("Desktop Entry/" + key).toString();
+    }
+
+    QTemporaryDir folder;
+    const QString prefix = folder.path() + "/prefix";
+    const QString build = qEnvironmentVariable("LUMAROO_BUILD");
+    const QString desktopId = "com.quorvane.LumarooSettings";
+};
+
+} // namespace
+
+TEST_F(InstalledFiles, theMenuEntryStartsAProgramThatIsInstalled)
+{
+    const QFileInfo program(prefix + "/bin/" + desktopEntry("Exec"));
+    EXPECT_TRUE(program.isExecutable());
+    EXPECT_TRUE(program.canonicalFilePath().startsWith(prefix + "/lib/lumaroo/Settings.app/"));
+}
+
+TEST_F(InstalledFiles, theMenuEntrysIconIsThereInEachSize)
+{
+    const QDir icons(prefix + "/share/icons/hicolor");
+    const QString name = desktopEntry("Icon");
+    EXPECT_TRUE(icons.exists("scalable/apps/" + name + ".svg"));
+    const QStringList sizes = icons.entryList({"*x*"}, QDir::Dirs);
+    EXPECT_GE(sizes.size(), 7);
+    for (const QString &size : sizes) {
+        const int side = size.section('x', 0, 0).toInt();
+        EXPECT_EQ(QImage(icons.filePath(size + "/apps/" + name + ".png")).size(), QSize(side, side));
+    }
+}
+
+TEST_F(InstalledFiles, theDescriptionForSoftwareCentresLeadsToTheMenuEntry)
+{
+    const QByteArray description = contentOf(prefix + "/share/metainfo/" + desktopId + ".metainfo.xml");
+    EXPECT_TRUE(
+        description.contains("<launchable type=\"desktop-id\">" + desktopId.toUtf8() + ".desktop</launchable>"));
+}
+
+TEST_F(InstalledFiles, thePaneHasItsCodeAndEveryResource)
+{
+    const QString contents = "lib/lumaroo/PreferencePanes/Lumaroo.prefPane/Contents/";
+    EXPECT_THAT(files(),
+        testing::IsSupersetOf(
+            {contents + "Info.plist", contents + "Linux/Lumaroo", contents + "Resources/LumarooPref.ui",
+                contents + "Resources/Lumaroo.icns", contents + "Resources/Credits.rtfd/TXT.rtf",
+                contents + "Resources/Credits.rtfd/Lumaroo.png", contents + "Resources/de.lproj/InfoPlist.qm",
+                contents + "Resources/de.lproj/LumarooPref.qm", contents + "Resources/de.lproj/Localizable.qm"}));
+}
+
+TEST_F(InstalledFiles, removingWhatTheManifestListsLeavesNoFile)
+{
+    const QList<QByteArray> listed = contentOf(build + "/install_manifest.txt").split('\n');
+    for (const QByteArray &path : listed) {
+        ASSERT_TRUE(path.isEmpty() || path.startsWith(prefix.toUtf8())) << path.constData();
+        QFile::remove(QString::fromUtf8(path));
+    }
+    EXPECT_TRUE(files().isEmpty()) << qPrintable(files().join('\n'));
+}
