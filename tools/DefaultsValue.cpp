@@ -104,7 +104,7 @@ QVariant takeValue(const QString &flag, QStringList &arguments)
     if (arguments.isEmpty())
         throw UsageError(QStringLiteral("%1 needs a value").arg(flag));
     const QString text = arguments.takeFirst();
-    const QVariant value = readers().value(flag)(text);
+    QVariant value = readers().value(flag)(text);
     if (!value.isValid())
         throw UsageError(QStringLiteral("\"%1\" is no value for %2").arg(text, flag));
     return value;

@@ -104,7 +104,7 @@ void BinaryPropertyListReader::readDictionary(Object &object, qint64 offset, int
 {
     require(depth <= MaximumDepth, "nested too deeply", offset);
     object.height = 1;
-    const Span references = countedSpan(offset, 2 * referenceSize_);
+    const Span references = countedSpan(offset, qint64(2) * referenceSize_);
     QVariantMap map;
     for (qint64 i = 0; i < references.count; ++i) {
         const qint64 keyReference = references.offset + i * referenceSize_;

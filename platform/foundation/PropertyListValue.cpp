@@ -20,7 +20,6 @@ public:
             return {};
         switch (value.typeId()) {
         case QMetaType::QVariantList:
-            return convertedList(value.toList(), depth + 1);
         case QMetaType::QStringList:
             return convertedList(value.toList(), depth + 1);
         case QMetaType::QVariantMap:

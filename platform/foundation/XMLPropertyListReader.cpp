@@ -10,7 +10,7 @@ QVariant XMLPropertyListReader::read()
 {
     require(nextElement() && xml_.name() == u"plist", "no property list");
     require(nextElement(), "no value");
-    const QVariant value = readValue(0);
+    QVariant value = readValue(0);
     require(!nextElement(), "more than one value");
     while (!xml_.atEnd())
         xml_.readNext();

@@ -31,6 +31,7 @@ bool isSameVersion(const struct stat &left, const struct stat &right)
 bool readAll(int descriptor, qint64 expectedSize, QByteArray *bytes)
 {
     constexpr qint64 Limit = PropertyListBounds::MaximumBytes + 1;
+    constexpr qint64 LaterPortion = 65536;
     qint64 portion = std::min(expectedSize + 1, Limit);
     while (bytes->size() < Limit) {
         const qint64 size = bytes->size();
@@ -40,7 +41,7 @@ bool readAll(int descriptor, qint64 expectedSize, QByteArray *bytes)
         bytes->resize(size + std::max(ssize_t(0), count));
         if (count <= 0)
             return count == 0;
-        portion = 64 * 1024;
+        portion = LaterPortion;
     }
     return true;
 }
