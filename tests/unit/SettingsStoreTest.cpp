@@ -1,4 +1,5 @@
 #include "PrivateSettings.h"
+#include "SystemCallFaults.h"
 
 #include <QDateTime>
 
@@ -74,11 +75,36 @@ TEST_F(SettingsStore, whatAnotherProcessWroteIsReadWithoutAFlush)
 
 TEST_F(SettingsStore, aChangeOfEqualSizeWithinTheSameInstantIsSeen)
 {
+    const auto inWholeSeconds = [](int result, struct stat *status) {
+        status->st_mtim.tv_nsec = status->st_ctim.tv_nsec = 0;
+        return result;
+    };
+    systemCalls().stat = [=](const char *name, struct stat *status) {
+        return inWholeSeconds(::stat(name, status), status);
+    };
+    systemCalls().fstat = [=](int file, struct stat *status) { return inWholeSeconds(::fstat(file, status), status); };
     for (int value = 0; value < 200; ++value) {
         putFile(writeBinaryPropertyList(QVariantMap{{"key", value}}));
         ASSERT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), value);
         ASSERT_EQ(wholeDomain().value("key").toInt(), value);
     }
+}
+
+TEST_F(SettingsStore, aFileThatHasNotChangedForAWhileIsNotReadAgain)
+{
+    store({{"key", 1}});
+    systemCalls().realTime = [original = systemCalls().realTime] { return original() + std::chrono::seconds(10); };
+    EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), 1);
+    int opened = 0;
+    int read = 0;
+    observe(&SystemCalls::open, [&opened] { ++opened; });
+    observe(&SystemCalls::pread, [&read] { ++read; });
+    for (int round = 0; round < 10; ++round)
+        EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), 1);
+    EXPECT_EQ(opened + read, 0);
+    store({{"key", 2}});
+    EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), 2);
+    EXPECT_EQ(opened, 1);
 }
 
 TEST_F(SettingsStore, anUnflushedWriteStandsAboveWhatAnotherProcessWrites)

@@ -12,8 +12,9 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr int ReadingFlags = O_RDONLY | O_NONBLOCK | O_NOCTTY; // a pipe at the path must not make us wait
-// File times advance in steps of some milliseconds; a change within the same step cannot be seen by them.
-constexpr auto LongestTimeStep = 100ms;
+// File times advance in steps, of two seconds on some file systems; a change within the same step cannot be seen by
+// them.
+constexpr auto LongestTimeStep = 2500ms;
 
 std::chrono::nanoseconds durationOf(const timespec &time)
 {
