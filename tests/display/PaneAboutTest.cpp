@@ -61,6 +61,17 @@ TEST_F(PaneAbout, aCopyrightWithoutACommaIsShownWhole)
     EXPECT_EQ(credits(), QStringLiteral("Lumaroo\nCopyright 2011 The holder\nagain: Copyright 2011 The holder."));
 }
 
+TEST_F(PaneAbout, theCopyrightIsTheOneInTheUsersLanguage)
+{
+    writeCredits();
+    QDir().mkpath(bundle().resourcePath() + QStringLiteral("/en.lproj"));
+    ASSERT_TRUE(QFile::copy(bundle().resourcePath() + QStringLiteral("/de.lproj/InfoPlist.qm"),
+        bundle().resourcePath() + QStringLiteral("/en.lproj/InfoPlist.qm")));
+    changeInfo({{copyright, QStringLiteral("Copyright 2011")}});
+    const QString localized = QStringLiteral("Copyright © 2026 Die Entwickler von Lumaroo");
+    EXPECT_EQ(credits(), QStringLiteral("Lumaroo\n%1\nagain: %1.").arg(localized));
+}
+
 TEST_F(PaneAbout, theShippedCreditsShowTheCopyrightInPlaceOfTheMarker)
 {
     changeInfo({{copyright, QStringLiteral("Rights of 1999, reserved")}});

@@ -7,6 +7,8 @@
 #include "platform/foundation/NSNotificationCenter.h"
 #include "platform/foundation/PropertyList.h"
 
+#include <QSignalSpy>
+
 namespace {
 
 const QString bundleVersion = QStringLiteral("CFBundleVersion");
@@ -179,10 +181,13 @@ TEST_F(PaneLifeCycle, oneShowingAnnouncesTheReadingAndTheZeroCell)
 
 TEST_F(PaneLifeCycle, theZeroCellIsClickedOnlyAfterTheHostsCall)
 {
-    pane();
-    bus().clear();
+    auto *matrix = control<NSMatrix>("modifierCheckboxMatrix");
+    const QSignalSpy clicks(matrix, &NSMatrix::cellClicked);
     pane().willSelect();
-    EXPECT_EQ(bus().notifications().size(), 1);
+    EXPECT_EQ(clicks.count(), 0);
+    runPendingEvents();
+    EXPECT_EQ(clicks.count(), 1);
+    EXPECT_EQ(tag(matrix->selectedCell()), 0);
 }
 
 TEST_F(PaneLifeCycle, theZeroCellChangesNoModifier)
