@@ -5,6 +5,7 @@
 #include "host/LetterTile.h"
 #include "host/Overview.h"
 #include "host/linux/WindowActivation.h"
+#include "platform/foundation/NSBundle.h"
 
 #include <QApplication>
 #include <QCloseEvent>

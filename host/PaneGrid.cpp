@@ -24,6 +24,7 @@ PaneGrid::PaneGrid(QWidget *parent) : QListView(parent)
     setIconSize(pictureSize);
     setGridSize(cellSize);
     setFrameShape(QFrame::NoFrame);
+    viewport()->setAutoFillBackground(false); // icons stand on the window itself
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     connect(this, &QListView::clicked, this, &PaneGrid::opened);
 }

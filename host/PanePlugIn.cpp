@@ -47,7 +47,8 @@ PaneFailureReport initializeOnce(NSPrincipalClass *principalClass)
 void loadCode(PanePlugIn &plugIn)
 {
     QPluginLoader loader(plugIn.bundle->executablePath());
-    loader.setLoadHints(QLibrary::PreventUnloadHint);
+    // Code that lacks a function of ours must fail here, not end the process when it first calls it.
+    loader.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
     QObject *instance = loader.instance();
     if (!instance) {
         plugIn.report = {PaneFailure::Damaged, loader.errorString()};

@@ -34,6 +34,13 @@ protected:
         ASSERT_TRUE(file.putChar(byte));
     }
 
+    void useCode(const QString &plugIn) const
+    {
+        QFile::remove(pane.executable());
+        ASSERT_TRUE(
+            QFile::copy(qEnvironmentVariable("LUMAROO_BUILD") + "/tests/panes/" + plugIn + ".so", pane.executable()));
+    }
+
     CapturedLog log;
     PaneBundle pane{"Sample"};
     SettingsApplication host{{pane.folder()}};
@@ -104,6 +111,14 @@ TEST_F(ABrokenPane, whoseCodeIsCutOffIsDamaged)
     EXPECT_THAT(explanation(), HasSubstr("damaged"));
 }
 
+TEST_F(ABrokenPane, whoseCodeCallsWhatIsNotThereIsDamaged)
+{
+    useCode("Unresolved");
+    open(pane.path());
+    EXPECT_THAT(explanation(), HasSubstr("damaged"));
+    EXPECT_THAT(detail(), HasSubstr("functionOfAnotherPlatform"));
+}
+
 TEST_F(ABrokenPane, withCodeForAnotherMachineSaysWhich)
 {
     patchCode(offsetof(Elf64_Ehdr, e_machine), char(EM_S390));
@@ -137,8 +152,7 @@ TEST_F(ABrokenPane, thatNeedsThisPlatformOpens)
 
 TEST_F(ABrokenPane, whosePlugInOffersNoPaneContainsNoSettings)
 {
-    QFile::remove(pane.executable());
-    ASSERT_TRUE(QFile::copy(qEnvironmentVariable("LUMAROO_BUILD") + "/tests/panes/NoPane.so", pane.executable()));
+    useCode("NoPane");
     open(pane.path());
     EXPECT_THAT(explanation(), HasSubstr("contains no settings"));
 }
