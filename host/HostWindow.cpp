@@ -32,9 +32,9 @@ QString windowName()
 
 QIcon hostIcon()
 {
-    const QIcon icon = QIcon::fromTheme(
-        QStringLiteral("com.quorvane.LumarooSettings"), QIcon::fromTheme(QStringLiteral("preferences-system")));
-    return icon.isNull() ? letterTile(windowName()) : icon;
+    const QIcon own(NSBundle::mainBundle()->pathForResourceOfType(QStringLiteral("Settings"), QStringLiteral("png")));
+    const QIcon icon = QIcon::fromTheme(QGuiApplication::desktopFileName(), own);
+    return icon.pixmap(32).isNull() ? letterTile(windowName()) : icon;
 }
 
 QSize largestSize(const QWidget *window)
