@@ -4,6 +4,7 @@
 #include "host/HostText.h"
 #include "host/LetterTile.h"
 #include "host/Overview.h"
+#include "host/PanePage.h"
 #include "host/linux/WindowActivation.h"
 #include "platform/foundation/NSBundle.h"
 
@@ -12,7 +13,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QScreen>
-#include <QScrollArea>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QToolButton>
@@ -45,22 +45,9 @@ QSize largestSize(const QWidget *window)
 QWidget *pageAround(const QWidget *view)
 {
     QWidget *around = view->parentWidget();
-    while (around && !qobject_cast<QScrollArea *>(around))
+    while (around && !qobject_cast<PanePage *>(around))
         around = around->parentWidget();
     return around;
-}
-
-QWidget *makePage(QWidget *view)
-{
-    auto *page = new QScrollArea;
-    page->setObjectName(QStringLiteral("panePage"));
-    page->setFrameShape(QFrame::NoFrame);
-    page->setWidgetResizable(true);
-    page->setFocusPolicy(Qt::NoFocus);
-    page->setWidget(view);
-    // The pane owns its view and takes it away with itself.
-    QObject::connect(view, &QObject::destroyed, page, &QObject::deleteLater);
-    return page;
 }
 
 bool isWithin(const QWidget *inner, const QWidget *outer)
@@ -146,6 +133,7 @@ void HostWindow::showOverview(const QList<InstalledPane> &panes, const QString &
     overview_->setPanes(panes);
     overview_->setCurrentPane(currentPath);
     setWindowTitle(windowName());
+    iconOwner_.reset();
     setWindowIcon(hostIcon());
     showPage(overview_, false);
     overview_->focusPanes();
@@ -160,8 +148,10 @@ void HostWindow::focusSearch()
 void HostWindow::setTitle(const InstalledPane &pane)
 {
     setWindowTitle(pane.name);
-    setWindowIcon(paneIcon(pane));
     paneTitle_->setText(pane.name);
+    iconOwner_ = pane;
+    if (isOnScreen())
+        showIcon();
 }
 
 void HostWindow::showError(const InstalledPane &pane, const PaneFailureReport &report)
@@ -182,13 +172,22 @@ void HostWindow::growFor(QWidget *view)
     resize(size().expandedTo(wanted).boundedTo(largestSize(this)));
 }
 
+void HostWindow::addView(QWidget *view)
+{
+    auto *page = new PanePage;
+    showPage(page, true);
+    // The page knows its room before it measures the view for it.
+    layout()->activate();
+    page->takeView(view);
+}
+
 void HostWindow::showView(QWidget *view, std::function<void()> onScreen)
 {
-    QWidget *page = pageAround(view);
-    if (!page)
-        page = makePage(view);
     growFor(view);
-    showPage(page, true);
+    if (QWidget *page = pageAround(view))
+        showPage(page, true);
+    else
+        addView(view);
     QWidget *focus = lastFocus_.value(view);
     if (!focus)
         focus = view->nextInFocusChain();
@@ -208,10 +207,25 @@ void HostWindow::hideView(QWidget *view)
     pageAround(view)->hide();
 }
 
-void HostWindow::tellWhenOnScreen()
+void HostWindow::showIcon()
+{
+    if (const auto pane = std::exchange(iconOwner_, std::nullopt))
+        setWindowIcon(paneIcon(*pane));
+}
+
+bool HostWindow::isOnScreen() const
 {
     // A window manager frames and places the window before it first shows; only then is its frame known.
-    if (onScreen_ && windowHandle() && windowHandle()->isExposed())
+    return windowHandle() && windowHandle()->isExposed();
+}
+
+void HostWindow::tellWhenOnScreen()
+{
+    if (!isOnScreen())
+        return;
+    // The window's content shall not wait for the decoding of its icon.
+    showIcon();
+    if (onScreen_)
         std::exchange(onScreen_, {})();
 }
 

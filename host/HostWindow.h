@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QPointer>
 #include <QWidget>
+#include <optional>
 
 class ErrorPage;
 class Overview;
@@ -56,7 +57,10 @@ private:
     QWidget *makeHeader();
     void addShortcuts();
     void showPage(QWidget *page, bool withHeader);
+    void addView(QWidget *view);
     void growFor(QWidget *view);
+    void showIcon();
+    bool isOnScreen() const;
     void tellWhenOnScreen();
 
     QStackedWidget *stack_;
@@ -66,6 +70,7 @@ private:
     Overview *overview_ = nullptr;
     ErrorPage *errorPage_ = nullptr;
     QHash<QWidget *, QPointer<QWidget>> lastFocus_;
+    std::optional<InstalledPane> iconOwner_; // whose icon the window is to bear once it is on screen
     QSize normalSize_;
     bool sizeChosen_;
     bool mayClose_ = false;

@@ -101,6 +101,22 @@ TEST(APaneCatalogue, takesTheIconThatTheBundleNames)
     EXPECT_EQ(paneIcon(describePane(painted.path())).pixmap(64).toImage().pixelColor(32, 32), QColor(Qt::red));
 }
 
+TEST_F(AnOverview, givesTheWindowThePanesTitleAndIconAndTakesThemBack)
+{
+    const PaneBundle painted("Painted", {{"NSPrefPaneIconFile", "red.png"}});
+    QImage red(64, 64, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    ASSERT_TRUE(red.save(painted.bundle().resourcePath() + "/red.png"));
+    const auto iconColor = [&] { return window()->windowIcon().pixmap(64).toImage().pixelColor(32, 32); };
+    host.open(painted.path(), QString());
+    ASSERT_TRUE(waitUntil([&] { return painted.calls().contains("didSelect shown"); }));
+    EXPECT_EQ(window()->windowTitle(), "Painted");
+    EXPECT_EQ(iconColor(), QColor(Qt::red));
+    host.showOverview();
+    EXPECT_EQ(window()->windowTitle(), "Settings");
+    EXPECT_NE(iconColor(), QColor(Qt::red));
+}
+
 TEST_F(AnOverview, listsThePanesByName)
 {
     EXPECT_THAT(overview()->shownNames(), ElementsAre("Animals", "Plants", "Stones and sand"));

@@ -47,6 +47,17 @@ TEST_F(AnInstalledPrefix, startsFromThereWithItsOwnLibraries)
         EXPECT_TRUE(library.contains(prefix + "/lib/lumaroo/")) << qPrintable(library);
 }
 
+TEST_F(AnInstalledPrefix, opensTheInstalledPane)
+{
+    HostProgram host(command(), {"com.quorvane.Lumaroo"}, QProcessEnvironment::systemEnvironment(), "/");
+    ASSERT_TRUE(waitUntil([] { return openWindowTitles().contains("Lumaroo"); }));
+    const QStringList maps = linesOf(QString("/proc/%1/maps").arg(host.processId()));
+    EXPECT_FALSE(
+        maps.filter(prefix + "/lib/lumaroo/PreferencePanes/Lumaroo.prefPane/Contents/Linux/Lumaroo").isEmpty());
+    host.signal(SIGTERM);
+    EXPECT_EQ(host.exitStatus(), 0);
+}
+
 TEST_F(AnInstalledPrefix, findsThePanesInstalledWithIt)
 {
     const PaneBundle pane("Sample");
