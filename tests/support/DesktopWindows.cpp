@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QScreen>
+#include <QtEndian>
 #include <cstdlib>
 #include <memory>
 #include <xcb/xcb.h>
@@ -43,8 +44,9 @@ QByteArray property(xcb_window_t window, const char *name)
 
 QList<quint32> numbers(const QByteArray &bytes)
 {
-    QList<quint32> values(bytes.size() / qsizetype(sizeof(quint32)));
-    std::memcpy(values.data(), bytes.constData(), size_t(values.size()) * sizeof(quint32));
+    QList<quint32> values;
+    for (qsizetype at = 0; at + qsizetype(sizeof(quint32)) <= bytes.size(); at += qsizetype(sizeof(quint32)))
+        values += qFromUnaligned<quint32>(bytes.constData() + at);
     return values;
 }
 

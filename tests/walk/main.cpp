@@ -57,7 +57,7 @@ void turnEveryPage(SettingsProgram &settings, const QString &folder)
     QImage shown = settings.settledPicture();
     for (int page = 0; page < pages.size(); ++page) {
         if (page > 0) {
-            pressKey(KEY_PAGEDOWN, {KEY_LEFTCTRL});
+            pressKey(KEY_TAB, {KEY_LEFTCTRL});
             shown = settings.pictureAfterChangeFrom(shown);
         }
         save(shown, folder, QStringLiteral("%1-%2").arg(page).arg(pages[page]));
@@ -68,7 +68,7 @@ void turnEveryPage(SettingsProgram &settings, const QString &folder)
 void letAnOutsideChangeArrive(SettingsProgram &settings, const QString &folder)
 {
     for (int page = int(pages.size()) - 1; page > behaviourPage; --page)
-        pressKey(KEY_PAGEUP, {KEY_LEFTCTRL});
+        pressKey(KEY_TAB, {KEY_LEFTCTRL, KEY_LEFTSHIFT});
     const QImage before = settings.settledPicture();
     runDefaults({QStringLiteral("--notify"), QStringLiteral("write"), QStringLiteral("EnableHorizontalWrap"),
         QStringLiteral("-bool"), QStringLiteral("false")});
