@@ -1,5 +1,3 @@
 #include "crashreporter/QBCheckForCrash.h"
 
-void QBCrashReporterCheckForCrash()
-{
-}
+void QBCrashReporterCheckForCrash() { }

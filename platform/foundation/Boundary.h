@@ -11,7 +11,7 @@ LM_FOUNDATION void logCaughtException(const char *place);
 /// Runs `operation` where nothing may be thrown any further (action dispatch, notification delivery, a host call ...).
 ///
 /// What it throws is logged with `place`, and the run loop carries on. Returns whether the operation came to its end.
-template<typename Operation>
+template <typename Operation>
 bool runAtBoundary(const char *place, Operation &&operation)
 {
     try {

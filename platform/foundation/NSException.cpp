@@ -2,8 +2,8 @@
 
 #include "platform/foundation/NSLog.h"
 
-NSException::NSException(QString name, QString reason) :
-    name_(std::move(name)), reason_(std::move(reason)), reasonBytes_(reason_.toUtf8())
+NSException::NSException(QString name, QString reason)
+    : name_(std::move(name)), reason_(std::move(reason)), reasonBytes_(reason_.toUtf8())
 {
 }
 
@@ -14,9 +14,9 @@ const char *NSException::what() const noexcept
     return reasonBytes_.constData();
 }
 
-AssertionFailure::AssertionFailure(QString method, const void *object, QString file, int line, QString description) :
-    NSException(QStringLiteral("NSInternalInconsistencyException"), description), method_(std::move(method)),
-    object_(object), file_(std::move(file)), line_(line), description_(std::move(description))
+AssertionFailure::AssertionFailure(QString method, const void *object, QString file, int line, QString description)
+    : NSException(QStringLiteral("NSInternalInconsistencyException"), description), method_(std::move(method)),
+      object_(object), file_(std::move(file)), line_(line), description_(std::move(description))
 {
 }
 

@@ -97,7 +97,8 @@ TEST_F(InterfaceFile, whatTheToolkitCannotUseIsLoggedWithTheFile)
 {
     interface.load("",
         R"(<connections><connection><sender>root</sender><signal>sung()</signal><receiver>root</receiver><slot>hide()</slot></connection></connections>)");
-    EXPECT_THAT(onlyLogLine().toStdString(), testing::AllOf(HasSubstr("Test.ui"), HasSubstr("sung()"), HasSubstr("'root'")));
+    EXPECT_THAT(
+        onlyLogLine().toStdString(), testing::AllOf(HasSubstr("Test.ui"), HasSubstr("sung()"), HasSubstr("'root'")));
 }
 
 TEST_F(InterfaceFile, linesAndGroupsOfTheToolkitAreKnown)

@@ -12,7 +12,8 @@ bool standardErrorIsTheJournal()
     struct stat status;
     if (fstat(STDERR_FILENO, &status) != 0)
         return false;
-    const QByteArray stream = QByteArray::number(quint64(status.st_dev)) + ':' + QByteArray::number(quint64(status.st_ino));
+    const QByteArray stream =
+        QByteArray::number(quint64(status.st_dev)) + ':' + QByteArray::number(quint64(status.st_ino));
     return qgetenv("JOURNAL_STREAM") == stream;
 }
 
