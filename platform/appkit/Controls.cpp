@@ -74,7 +74,10 @@ void click(QAbstractButton *button)
 
 int tag(const QObject *control)
 {
-    const QVariant value = control ? control->property("tag") : QVariant();
+    // Most objects have no such property, and asking for one searches all that their class declares.
+    if (!control || !control->dynamicPropertyNames().contains("tag"))
+        return -1;
+    const QVariant value = control->property("tag");
     return value.isValid() ? value.toInt() : -1;
 }
 

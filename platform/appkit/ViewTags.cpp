@@ -24,7 +24,12 @@ QWidgetList subviews(const QWidget *view)
         return pages(tabView);
     if (const auto *stack = qobject_cast<const QStackedWidget *>(view))
         return pages(stack);
-    return view->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+    QWidgetList children;
+    for (QObject *child : view->children()) {
+        if (child->isWidgetType())
+            children += static_cast<QWidget *>(child);
+    }
+    return children;
 }
 
 } // namespace
