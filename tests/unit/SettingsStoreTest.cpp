@@ -1,5 +1,6 @@
 #include "PrivateSettings.h"
 #include "SystemCallFaults.h"
+#include "Wait.h"
 
 #include <QDateTime>
 
@@ -246,4 +247,23 @@ TEST_F(SettingsStore, whatIsNoPropertyListValueIsLoggedAndChangesNothing)
     EXPECT_EQ(log.linesContaining("no property").size(), 2);
     EXPECT_TRUE(isEqualPropertyList(stored(), QVariantMap{{"key", 1}}));
     log.clear();
+}
+
+TEST_F(SettingsStore, filesThatWereReplacedAreNotKeptOpen)
+{
+    const auto deletedFiles = [] {
+        qsizetype count = 0;
+        for (const QFileInfo &descriptor : QDir("/proc/self/fd").entryInfoList(QDir::Files | QDir::System))
+            count += descriptor.symLinkTarget().endsWith(" (deleted)");
+        return count;
+    };
+    runPendingEvents();
+    const qsizetype before = deletedFiles();
+    for (int round = 0; round < 10; ++round) {
+        CFPreferencesSetAppValue("key", round, Domain);
+        ASSERT_TRUE(CFPreferencesAppSynchronize(Domain));
+    }
+    EXPECT_LE(deletedFiles(), before + 1) << "one waits for the run loop";
+    runPendingEvents();
+    EXPECT_EQ(deletedFiles(), before);
 }

@@ -4,6 +4,7 @@
 #include "platform/foundation/PropertyListBounds.h"
 #include "platform/foundation/linux/FileReplacement.h"
 
+#include <QCoreApplication>
 #include <cerrno>
 #include <fcntl.h>
 
@@ -143,7 +144,22 @@ StoredSettings::Content StoredSettings::unreadable(const QString &problem)
 
 void StoredSettings::forgetFile()
 {
-    file_ = FileDescriptor();
+    closeLater(std::exchange(file_, FileDescriptor()));
     bytes_.clear();
     bytesReadAt_ = {};
+}
+
+/// Closing a file that another one has replaced frees it on the disk, which takes longer than reading the new one. One
+/// file at most waits.
+void StoredSettings::closeLater(FileDescriptor file)
+{
+    outdatedFile_.reset();
+    if (!file || !QCoreApplication::instance())
+        return;
+    outdatedFile_ = std::make_shared<FileDescriptor>(std::move(file));
+    const auto close = [outdated = std::weak_ptr(outdatedFile_)] {
+        if (const auto stillOpen = outdated.lock())
+            *stillOpen = FileDescriptor();
+    };
+    QMetaObject::invokeMethod(QCoreApplication::instance(), close, Qt::QueuedConnection);
 }

@@ -3,6 +3,7 @@
 #include "platform/foundation/linux/SystemCalls.h"
 
 #include <QVariantMap>
+#include <memory>
 
 /// What a settings file holds, read again only where it is another file, or has changed, since the last time.
 class StoredSettings
@@ -35,9 +36,11 @@ private:
     Content keep(Content content, const QString &problem = {}, const QVariantMap &values = {});
     Content unreadable(const QString &problem);
     void forgetFile();
+    void closeLater(FileDescriptor file);
 
     QByteArray path_;
     FileDescriptor file_; ///< held open, so that its inode number cannot pass to another file while we compare it
+    std::shared_ptr<FileDescriptor> outdatedFile_; ///< the one before, until the run loop has time to close it
     struct stat status_ = {};
     QByteArray bytes_;
     std::chrono::nanoseconds bytesReadAt_{}; ///< when the bytes were last seen to be these
