@@ -22,8 +22,9 @@ protected:
         ASSERT_TRUE(label("errorHeading")->isVisible());
     }
     QLabel *label(const char *name) { return host.window()->findChild<QLabel *>(name); }
-    std::string explanation() { return label("errorExplanation")->text().toStdString(); }
-    std::string detail() { return label("errorDetail")->text().toStdString(); }
+    std::string explanation() { return text("errorExplanation"); }
+    std::string detail() { return text("errorDetail"); }
+    std::string text(const char *name) { return label(name) ? label(name)->text().toStdString() : std::string(); }
 
     /// Overwrites a byte of the pane's code.
     void patchCode(qint64 offset, char byte) const
