@@ -1,4 +1,6 @@
+#include "Keyboard.h"
 #include "PaneOnRealStore.h"
+#include "Wait.h"
 
 #include "KTXConstants.h"
 
@@ -80,4 +82,21 @@ TEST_F(PaneHotKeyReading, aKeyUsedTwiceIsADuplicateInBothRows)
     pane().readUserPrefs();
     for (int row = 0; row < 11; ++row)
         EXPECT_EQ(pane().hotKeyIsDuplicateAtIndex(row), row == 5 || row == 8) << row;
+}
+
+TEST_F(PaneHotKeyReading, aLayoutSwitchedWhileThePaneIsOpenCountsAtTheNextReading)
+{
+    storeKey(KTXUpPref, QStringLiteral("6"));
+    pane().readUserPrefs();
+    EXPECT_EQ(shownKey(0), QStringLiteral("Z"));
+    const auto showsAfterReading = [this](const QString &name) {
+        return waitUntil([&] {
+            pane().readUserPrefs();
+            return shownKey(0) == name;
+        });
+    };
+    setKeyboardLayout(QStringLiteral("de"));
+    EXPECT_TRUE(showsAfterReading(QStringLiteral("Y")));
+    setKeyboardLayout(QStringLiteral("us"));
+    EXPECT_TRUE(showsAfterReading(QStringLiteral("Z")));
 }

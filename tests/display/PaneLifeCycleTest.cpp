@@ -201,10 +201,15 @@ TEST_F(PaneLifeCycle, theZeroCellChangesNoModifier)
 TEST_F(PaneLifeCycle, theAgentsStateIsShownAfterTheSettingsAtEachShowing)
 {
     pane();
+    QList<int> shownThen;
+    pane().atAgentVisuals = [&] { shownThen += state(control("enableHorizontalWrapButton")); };
     calls.clear();
-    pane().willSelect();
-    pane().willSelect();
+    for (const bool isWrapping : {false, true}) {
+        store().set(KTXHWrap, QVariant(isWrapping));
+        pane().willSelect();
+    }
     EXPECT_EQ(calls, (QStringList{"updateAgentVisuals", "updateAgentVisuals"}));
+    EXPECT_EQ(shownThen, (QList<int>{NSOffState, NSOnState}));
 }
 
 TEST_F(PaneLifeCycle, aPaneThatIsGoneClicksNothing)

@@ -57,6 +57,7 @@ void RecordingPane::updatePreferences(const NSNotification &notification)
 void RecordingPane::updateAgentVisuals()
 {
     *calls_ += QStringLiteral("updateAgentVisuals");
+    atAgentVisuals();
 }
 
 void RecordingPane::setAgentVisualsOn(const NSNotification &)

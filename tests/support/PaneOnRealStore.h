@@ -16,6 +16,8 @@ public:
 
     void switchToTab(const NSNotification &notification) override;
     QStringList outletNames();
+    /// Called where the pane would show the agent's state.
+    std::function<void()> atAgentVisuals = [] {};
 
 protected:
     void updatePreferences(const NSNotification &notification) override;
