@@ -162,6 +162,32 @@ TEST_F(PaneConflictAlert, itsHelpButtonOpensThePanesHelpAboutIt)
     EXPECT_EQ(requests, (QStringList{QStringLiteral("closeDialog"), book}));
 }
 
+TEST_F(PaneConflictAlert, itShowsThePanesIcon)
+{
+    showConflict();
+    leaveAnd([](QWidget *window) {
+        const auto *icon = window->findChild<QLabel *>(QStringLiteral("icon"));
+        EXPECT_TRUE(icon && !icon->pixmap().isNull());
+        pressKey(KEY_ESC);
+    });
+}
+
+TEST_F(PaneConflictAlert, itIsGermanForAGermanUser)
+{
+    QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
+    showConflict();
+    const NSPreferencePaneUnselectReply reply = leaveAnd([](QWidget *window) {
+        EXPECT_TRUE(textsOf(window).contains(QStringLiteral("Trotz mehrfach belegter Tasten beenden?")));
+        EXPECT_TRUE(textsOf(window).contains(
+            QStringLiteral("Die markierten Tasten sind mit mehreren Aktionen belegt. Wenn Sie jetzt beenden, kann sich "
+                           "Lumaroo unvorhersehbar verhalten.")));
+        pressKey(KEY_SPACE);
+    });
+    QLocale::setDefault(QLocale::c());
+    EXPECT_EQ(reply, NSUnselectCancel) << "the focus starts on Cancel";
+    EXPECT_EQ(shownPage(), 1);
+}
+
 TEST_F(PaneConflictAlert, withoutItsIconItIsShownAllTheSame)
 {
     QFile::remove(bundle().resourcePath() + QStringLiteral("/Lumaroo.icns"));
