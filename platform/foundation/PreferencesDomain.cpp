@@ -1,12 +1,14 @@
 #include "platform/foundation/PreferencesDomain.h"
 
 #include "platform/foundation/NSLog.h"
+#include "platform/foundation/PropertyList.h"
 #include "platform/foundation/PropertyListValue.h"
 
 #include <QDir>
 #include <QFile>
 #include <memory>
 #include <unordered_map>
+#include <utility>
 
 namespace {
 
@@ -79,9 +81,29 @@ bool PreferencesDomain::replace(const QVariantMap &values)
             "lumaroo: settings: the dictionary for a whole domain is no property list; the domain keeps what it has"));
         return false;
     }
-    replacement_ = converted.toMap();
-    pending_.clear();
-    return flush();
+    const auto before = std::exchange(replacement_, converted.toMap());
+    const QVariantMap pendingBefore = std::exchange(pending_, {});
+    if (flush())
+        return true;
+    if (!file_.isReadable()) {
+        replacement_ = before;
+        pending_ = pendingBefore;
+        setWhatDiffers(converted.toMap());
+    }
+    return false;
+}
+
+void PreferencesDomain::setWhatDiffers(const QVariantMap &values)
+{
+    const QVariantMap seen = this->values();
+    for (auto entry = seen.begin(); entry != seen.end(); ++entry) {
+        if (!values.contains(entry.key()))
+            pending_.insert(entry.key(), QVariant());
+    }
+    for (auto entry = values.begin(); entry != values.end(); ++entry) {
+        if (!seen.contains(entry.key()) || !isEqualPropertyList(seen.value(entry.key()), entry.value()))
+            pending_.insert(entry.key(), entry.value());
+    }
 }
 
 bool PreferencesDomain::flush()

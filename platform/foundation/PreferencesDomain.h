@@ -17,7 +17,8 @@ public:
     /// Pending until flush(); no value removes the key. What is no property-list value is logged and changes nothing.
     void setValue(const QString &key, const QVariant &value);
 
-    /// Replaces everything at once; pending as a whole where that fails.
+    /// Replaces everything at once; pending as a whole where that fails. While the file cannot be read, only what
+    /// differs from values() is pending: what nobody could see is not removed with the rest.
     bool replace(const QVariantMap &values);
 
     /// Brings what is pending into the file. False where that failed, or where the file cannot be read.
@@ -26,6 +27,7 @@ public:
 private:
     explicit PreferencesDomain(const QByteArray &path);
     QVariantMap withPendingChanges(const QVariantMap &stored) const;
+    void setWhatDiffers(const QVariantMap &values);
 
     SettingsFile file_;
     std::optional<QVariantMap> replacement_; ///< stands for the file's content

@@ -228,3 +228,22 @@ TEST_F(PaneSettings, aDomainThatAnotherProcessEmptiesIsFilledAgainAtTheNextShowi
     showPane();
     EXPECT_TRUE(isEqualPropertyList(store().domain(), factoryDomain()));
 }
+
+TEST_F(PaneSettings, keysThePaneOnlyReadsOutlastAShowingWhileTheFileCannotBeRead)
+{
+    const QVariantMap onlyRead{{KTXFirstLaunch, true}, {SUEnableAutomaticChecks, true}, {KTXSuppressModAlert, true},
+        {KTXUpPref, QVariantMap{{KTXKeycode, QStringLiteral("12")}}}};
+    store().set(onlyRead);
+    ASSERT_TRUE(QFile::setPermissions(StoreOnDisk::path(), QFile::Permissions()));
+    {
+        const CapturedLog log;
+        showPane();
+        EXPECT_FALSE(log.lines().isEmpty());
+    }
+    ASSERT_TRUE(QFile::setPermissions(StoreOnDisk::path(), QFile::ReadOwner | QFile::WriteOwner));
+    showPane();
+    QVariantMap expected = factoryDomain();
+    expected.insert(onlyRead);
+    EXPECT_TRUE(isEqualPropertyList(store().domain(), expected));
+    EXPECT_EQ(shownKey(0), QStringLiteral("Q"));
+}
