@@ -1,5 +1,6 @@
 // Walks the main job once with the real programs, says each step, and leaves a screenshot of each page.
-// Usage: walk BUILD-FOLDER SCREENSHOT-FOLDER, inside a session with a bus, a display and a window manager.
+// Usage: walk BUILD-FOLDER SCREENSHOT-FOLDER [ARGUMENT...], inside a session with a bus, a display and a window
+// manager. The arguments are the settings' own: --theme dark, -reverse.
 
 #include "KeyPress.h"
 #include "SettingsProgram.h"
@@ -76,10 +77,10 @@ void letAnOutsideChangeArrive(SettingsProgram &settings, const QString &folder)
     say(QStringLiteral("- a change made outside (EnableHorizontalWrap off) arrived and shows"));
 }
 
-void walk(const QString &folder)
+void walk(const QString &folder, const QStringList &arguments)
 {
     QDir().mkpath(folder);
-    SettingsProgram settings;
+    SettingsProgram settings(arguments + QStringList{SettingsProgram::builtPane()});
     require(settings.waitForWindows(1), QStringLiteral("the settings open with the Lumaroo pane"));
     turnEveryPage(settings, folder);
     say(QStringLiteral("- what is stored now:\n") + runDefaults({QStringLiteral("read")}));
@@ -92,12 +93,15 @@ void walk(const QString &folder)
 
 int main(int argumentCount, char **arguments)
 {
+    QStringList given;
+    for (int index = 1; index < argumentCount; ++index)
+        given += QFile::decodeName(arguments[index]);
+    if (given.size() < 2)
+        giveUp(QStringLiteral("usage: walk BUILD-FOLDER SCREENSHOT-FOLDER [ARGUMENT...]"));
     QApplication application(argumentCount, arguments);
-    if (argumentCount != 3)
-        giveUp(QStringLiteral("usage: walk BUILD-FOLDER SCREENSHOT-FOLDER"));
-    qputenv("LUMAROO_BUILD", QDir(QFile::decodeName(arguments[1])).absolutePath().toUtf8());
-    const QString folder = QDir(QFile::decodeName(arguments[2])).absolutePath();
-    walk(folder);
+    qputenv("LUMAROO_BUILD", QDir(given.takeFirst()).absolutePath().toUtf8());
+    const QString folder = QDir(given.takeFirst()).absolutePath();
+    walk(folder, given);
     say(QStringLiteral("Screenshots of the pages: ") + folder);
     return 0;
 }
