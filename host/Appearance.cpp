@@ -1,24 +1,17 @@
 #include "host/Appearance.h"
 
+#include "host/OutlineStyle.h"
 #include "host/Palettes.h"
 #include "host/linux/DesktopColorScheme.h"
 
 #include <QApplication>
 #include <QStyle>
-#include <QStyleFactory>
-#include <memory>
-
-namespace {
-
-const QString fusion = QStringLiteral("fusion");
-
-} // namespace
 
 bool desktopBringsItsOwnTheme()
 {
     if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORMTHEME") || !qEnvironmentVariableIsEmpty("QT_STYLE_OVERRIDE"))
         return true;
-    if (QApplication::style()->name().compare(fusion, Qt::CaseInsensitive) != 0)
+    if (QApplication::style()->name().compare(QStringLiteral("fusion"), Qt::CaseInsensitive) != 0)
         return true;
     // Without a theme the application starts with the style's own colours.
     const QPalette now = QApplication::palette();
@@ -41,7 +34,7 @@ Appearance::Appearance(std::optional<ColorScheme> fixed)
 
 void Appearance::apply(ColorScheme scheme)
 {
-    if (QApplication::style()->name().compare(fusion, Qt::CaseInsensitive) != 0)
-        QApplication::setStyle(QStyleFactory::create(fusion));
+    if (!qobject_cast<OutlineStyle *>(QApplication::style()))
+        QApplication::setStyle(new OutlineStyle);
     QApplication::setPalette(paletteFor(scheme));
 }

@@ -5,12 +5,19 @@
 #include "host/Palettes.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDBusConnection>
 #include <QDBusInterface>
 #include <QDBusMessage>
 #include <QDBusVariant>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QTextEdit>
+#include <QToolButton>
 #include <gmock/gmock.h>
 
 namespace {
@@ -123,6 +130,22 @@ double contrast(const QColor &one, const QColor &other)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
+/// The strongest contrast that a line across a control's left edge, `reach` pixels long, has with the window.
+double outlineContrast(QWidget &control, int y, int reach)
+{
+    const QColor window = control.palette().color(QPalette::Window);
+    QWidget ground;
+    control.setParent(&ground);
+    ground.resize(control.sizeHint() + QSize(100, 100));
+    control.setGeometry(QRect(QPoint(0, 0), control.sizeHint()));
+    const QImage picture = ground.grab(control.geometry()).toImage();
+    control.setParent(nullptr);
+    double strongest = 0;
+    for (int x = 0; x < reach; ++x)
+        strongest = std::max(strongest, contrast(picture.pixelColor(x, y), window));
+    return strongest;
+}
+
 class AnAppearance : public testing::Test
 {
 protected:
@@ -148,6 +171,23 @@ TEST_F(AnAppearance, hasReadableTextInBothSchemes)
         for (const auto &[text, ground] : texts)
             EXPECT_GE(contrast(palette.color(text), palette.color(ground)), 4.5)
                 << "dark " << int(scheme) << " role " << text << " on " << ground;
+    }
+}
+
+TEST_F(AnAppearance, outlinesItsControlsVisiblyInBothSchemes)
+{
+    for (const ColorScheme scheme : {ColorScheme::Light, ColorScheme::Dark}) {
+        const Appearance appearance(scheme);
+        QCheckBox checkBox("Check");
+        QRadioButton radioButton("Radio");
+        QPushButton button("Button");
+        QToolButton toolButton;
+        QLineEdit field;
+        QTextEdit text;
+        QSlider slider(Qt::Horizontal);
+        for (QWidget *control : QWidgetList{&checkBox, &radioButton, &button, &toolButton, &field, &text, &slider})
+            EXPECT_GE(outlineContrast(*control, control->sizeHint().height() / 2, 4), 3)
+                << "dark " << int(scheme) << ' ' << control->metaObject()->className();
     }
 }
 
