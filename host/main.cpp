@@ -3,9 +3,9 @@
 #include "host/Appearance.h"
 #include "host/HostText.h"
 #include "host/SettingsApplication.h"
-#include "host/linux/EndingSignals.h"
 #include "host/linux/SingleInstance.h"
 #include "host/linux/WindowActivation.h"
+#include "platform/foundation/linux/EndingSignals.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

@@ -113,7 +113,7 @@ private:
         if (!argument.startsWith(u'-'))
             request_.value = argument;
         else if (isTypeFlag(argument))
-            request_.value = takeValue(argument, arguments_);
+            request_.value = takeValue(argument, arguments_, isOption);
         else
             throw UsageError(
                 QStringLiteral("%1 is no type; a text that begins so needs -string before it").arg(argument));

@@ -1,15 +1,6 @@
 #pragma once
 
-#include <QStringList>
-#include <QVariant>
-#include <stdexcept>
-
-/// A command line that makes no sense; what() tells the user why.
-class UsageError : public std::runtime_error
-{
-public:
-    explicit UsageError(const QString &reason) : std::runtime_error(reason.toStdString()) { }
-};
+#include "platform/foundation/ValueArguments.h"
 
 /// What the user asks of lumaroo-defaults.
 struct DefaultsRequest
@@ -26,9 +17,6 @@ struct DefaultsRequest
 /// Throws UsageError.
 DefaultsRequest parseDefaultsArguments(const QStringList &arguments);
 
-/// Takes a value of the type that `flag` names ("-bool" ...) from the front of the arguments. Throws UsageError.
-QVariant takeValue(const QString &flag, QStringList &arguments);
-bool isTypeFlag(const QString &argument);
 bool isOption(const QString &argument);
 
 extern const char *const DefaultsHelp;

@@ -1,10 +1,10 @@
 #include "DefaultsCommands.h"
-#include "linux/SessionBus.h"
 #include "platform/foundation/CFNotificationCenter.h"
 #include "platform/foundation/CFPreferences.h"
 #include "platform/foundation/Description.h"
 #include "platform/foundation/NSUserDefaults.h"
 #include "platform/foundation/PropertyList.h"
+#include "platform/foundation/linux/SessionBus.h"
 
 #include <QFile>
 #include <QHash>

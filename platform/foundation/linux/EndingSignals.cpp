@@ -1,4 +1,4 @@
-#include "host/linux/EndingSignals.h"
+#include "platform/foundation/linux/EndingSignals.h"
 
 #include <QSocketNotifier>
 #include <cerrno>

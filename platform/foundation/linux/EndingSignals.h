@@ -1,10 +1,12 @@
 #pragma once
 
+#include "platform/foundation/Export.h"
+
 #include <QObject>
 
 /// Turns the signals that end a program (SIGTERM, SIGINT, SIGHUP) into one emitted in the event loop. One object per
 /// process.
-class EndingSignals : public QObject
+class LM_FOUNDATION EndingSignals : public QObject
 {
     Q_OBJECT
 

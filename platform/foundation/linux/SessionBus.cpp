@@ -1,4 +1,4 @@
-#include "SessionBus.h"
+#include "platform/foundation/linux/SessionBus.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

@@ -1,4 +1,5 @@
-#include "DefaultsArguments.h"
+#include "platform/foundation/ValueArguments.h"
+
 #include "platform/foundation/PropertyList.h"
 
 #include <QDateTime>
@@ -76,7 +77,7 @@ QVariant readDictionary(const QString &text)
 }
 
 /// All arguments up to the next option belong to the dictionary.
-QVariant takeDictionary(QStringList &arguments)
+QVariant takeDictionary(QStringList &arguments, const ArgumentTest &isOption)
 {
     if (!arguments.isEmpty() && arguments.first().trimmed().startsWith(u'<'))
         return readDictionary(arguments.takeFirst());
@@ -97,10 +98,10 @@ bool isTypeFlag(const QString &argument)
     return readers().contains(argument) || argument == dictionaryFlag();
 }
 
-QVariant takeValue(const QString &flag, QStringList &arguments)
+QVariant takeValue(const QString &flag, QStringList &arguments, const ArgumentTest &isOption)
 {
     if (flag == dictionaryFlag())
-        return takeDictionary(arguments);
+        return takeDictionary(arguments, isOption);
     if (arguments.isEmpty())
         throw UsageError(QStringLiteral("%1 needs a value").arg(flag));
     const QString text = arguments.takeFirst();
