@@ -89,6 +89,29 @@ TEST_F(InstalledFiles, thePaneHasItsCodeAndEveryResource)
                 contents + "Resources/de.lproj/LumarooPref.qm", contents + "Resources/de.lproj/Localizable.qm"}));
 }
 
+TEST_F(InstalledFiles, thePaneHasTheAgentAndTheLibraryItRunsWith)
+{
+    const QString contents = "lib/lumaroo/PreferencePanes/Lumaroo.prefPane/Contents/";
+    const QString agent = contents + "Resources/LumarooAgent.app/Contents/";
+    EXPECT_THAT(files(),
+        testing::IsSupersetOf(
+            {agent + "Info.plist", agent + "Linux/LumarooAgent", contents + "Frameworks/liblumaroo-foundation.so.1",
+                QString("share/dbus-1/interfaces/com.quorvane.LumarooAgent.xml")}));
+}
+
+TEST_F(InstalledFiles, theAgentRunsFromWhereverThePrefixIsMovedTo)
+{
+    const QString moved = folder.path() + "/moved";
+    ASSERT_TRUE(QDir().rename(prefix, moved));
+    // Without the library beside the bundles: the agent has its own.
+    for (const QString &library : QDir(moved + "/lib/lumaroo").entryList({"liblumaroo-*"}))
+        ASSERT_TRUE(QFile::remove(moved + "/lib/lumaroo/" + library));
+    run(moved
+            + "/lib/lumaroo/PreferencePanes/Lumaroo.prefPane/Contents/Resources/LumarooAgent.app/Contents/Linux/"
+              "LumarooAgent",
+        {"--version"});
+}
+
 TEST_F(InstalledFiles, removingWhatTheManifestListsLeavesNoFile)
 {
     const QList<QByteArray> listed = contentOf(build + "/install_manifest.txt").split('\n');

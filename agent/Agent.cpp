@@ -1,0 +1,118 @@
+#include "agent/Agent.h"
+
+#include "KTXConstants.h"
+#include "agent/AgentSettings.h"
+#include "agent/NewerAgent.h"
+#include "agent/linux/AgentName.h"
+#include "agent/linux/ProgramReplacement.h"
+#include "platform/foundation/CFNotificationCenter.h"
+#include "platform/foundation/CFPreferences.h"
+#include "platform/foundation/Description.h"
+#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/NSLog.h"
+#include "platform/foundation/NSUserDefaults.h"
+
+#include <QCoreApplication>
+#include <utility>
+
+namespace {
+
+int loadedVersion()
+{
+    return intValue(NSBundle::mainBundle()->infoDictionary().value(QStringLiteral("CFBundleVersion")));
+}
+
+void announce(const QString &name, const QVariantMap &userInfo = {})
+{
+    CFNotificationCenterPostNotification(
+        CFNotificationCenterGetDistributedCenter(), name, KTXLMAgentID, userInfo, true);
+}
+
+} // namespace
+
+Agent::Agent(AgentName &name)
+    : name_(name), bundlePath_(NSBundle::mainBundle()->bundlePath()), version_(loadedVersion())
+{
+}
+
+void Agent::launch()
+{
+    // First, so that no change falls between reading and hearing.
+    observePane();
+    readSettings();
+    markFirstLaunch();
+    announceLaunch();
+}
+
+void Agent::observePane()
+{
+    const auto observe = [this](const QString &name, void (Agent::*reaction)()) {
+        NSDistributedNotificationCenter::defaultCenter()->addObserverSelectorNameObject(
+            this, [this, reaction](const NSNotification &) { (this->*reaction)(); }, name, KTXLMAppID);
+    };
+    observe(KTXLMPrefsChanged, &Agent::readSettings);
+    observe(KTXLMAgentShouldTerminate, &Agent::terminate);
+    observe(KTXLMPrefPaneLaunched, &Agent::giveWayToNewer);
+}
+
+void Agent::readSettings()
+{
+    settings_ = effectiveSettings(NSUserDefaults::standardUserDefaults()->persistentDomainForName(KTXLMAppID));
+    ++readings_;
+    Q_EMIT settingsRead();
+}
+
+void Agent::markFirstLaunch()
+{
+    if (settings_.value(KTXFirstLaunch).isValid())
+        return;
+    CFPreferencesSetAppValue(KTXFirstLaunch, true, KTXLMAppID);
+    if (!CFPreferencesAppSynchronize(KTXLMAppID))
+        return;
+    readSettings();
+    announce(KTXLMPrefsChanged);
+}
+
+void Agent::announceLaunch()
+{
+    announce(KTXLMAgentLaunched, {{KTXLMAgentVersion, version_}});
+    Q_EMIT launched();
+}
+
+void Agent::announceEnd()
+{
+    announce(KTXLMAgentIsTerminating);
+    Q_EMIT terminating();
+    // The bus handles our messages in order: with its answer it has taken the announcement too.
+    name_.release();
+}
+
+void Agent::terminate()
+{
+    if (std::exchange(hasEnded_, true))
+        return;
+    announceEnd();
+    Q_EMIT ended(0);
+}
+
+void Agent::giveWayToNewer()
+{
+    const QString program = newerAgentProgram(bundlePath_, version_);
+    if (hasEnded_ || program.isEmpty())
+        return;
+    announceEnd();
+    goOn(program, replaceProgram(program, QCoreApplication::arguments().mid(1)));
+}
+
+void Agent::goOn(const QString &program, const QString &error)
+{
+    NSLog(QStringLiteral("lumaroo: agent: the newer %1 does not start: %2; going on with version %3")
+              .arg(program, error)
+              .arg(version_));
+    if (name_.takeAtOnce()) {
+        announceLaunch();
+        return;
+    }
+    hasEnded_ = true;
+    Q_EMIT ended(0);
+}

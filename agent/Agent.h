@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QObject>
+#include <QVariantMap>
+
+class AgentName;
+
+/// The background agent: keeps what is stored as it stands, and hears and tells the settings pane.
+class Agent : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Takes its version from the main bundle now: whatever stands on disk later is not what was loaded.
+    explicit Agent(AgentName &name);
+
+    int version() const { return version_; }
+    /// Each key of the domain with the value to go by, as of the last reading.
+    const QVariantMap &settings() const { return settings_; }
+    qint64 readings() const { return readings_; }
+
+    /// Reads the settings, observes the pane and announces itself. Called once, when the name is owned.
+    void launch();
+    /// Reads the settings as they are stored now.
+    void readSettings();
+    /// Announces its end, gives the name back and emits ended(); the bus has taken all of that when it returns.
+    void terminate();
+
+Q_SIGNALS:
+    void settingsRead();
+    void launched();
+    void terminating();
+    /// Nothing more comes of this agent; the program exits with `status`.
+    void ended(int status);
+
+private:
+    void observePane();
+    void markFirstLaunch();
+    void announceLaunch();
+    void announceEnd();
+    void giveWayToNewer();
+    void goOn(const QString &program, const QString &error);
+
+    AgentName &name_;
+    const QString bundlePath_;
+    const int version_;
+    QVariantMap settings_;
+    qint64 readings_ = 0;
+    bool hasEnded_ = false;
+};

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/foundation/ValueArguments.h"
+
+/// What the command line asks of the program.
+struct AgentRequest
+{
+    enum class Action { Run, PrintSettings, Set, StartAtLogin, Quit, Help, Version };
+    Action action = Action::Run;
+    bool foreground = false; ///< say on standard output what happens
+    QString key; ///< what to set
+    QVariant value;
+    bool startAtLogin = false;
+};
+
+/// Throws UsageError.
+AgentRequest parseAgentArguments(QStringList arguments);
+
+extern const char *const AgentHelp;

@@ -1,0 +1,92 @@
+#include "agent/AgentCommands.h"
+
+#include "KTXConstants.h"
+#include "agent/LoginEntry.h"
+#include "agent/linux/RunningAgent.h"
+#include "platform/foundation/CFNotificationCenter.h"
+#include "platform/foundation/CFPreferences.h"
+#include "platform/foundation/linux/SessionBus.h"
+
+#include <QCoreApplication>
+#include <QHash>
+#include <cstdio>
+
+namespace {
+
+void print(const char *text)
+{
+    if (std::fputs(text, stdout) < 0 || std::fflush(stdout) != 0)
+        throw CommandFailure(QStringLiteral("standard output takes no more"));
+}
+
+void printSettings(const AgentRequest &)
+{
+    const AgentAnswer answer = askRunningAgent(QStringLiteral("Settings"));
+    if (answer.outcome == AgentAnswer::Outcome::NotRunning)
+        throw CommandFailure(QStringLiteral("no agent runs"));
+    if (answer.outcome == AgentAnswer::Outcome::Failed)
+        throw CommandFailure(answer.text);
+    print(answer.text.toUtf8().constData());
+}
+
+/// The agent that runs does not listen to what agents announce, so it is told.
+void tellRunningAgent()
+{
+    const AgentAnswer answer = askRunningAgent(QStringLiteral("ReadSettings"));
+    if (answer.outcome == AgentAnswer::Outcome::Failed)
+        throw CommandFailure(QStringLiteral("the change is stored, but %1").arg(answer.text));
+}
+
+void announceChange()
+{
+    CFNotificationCenterPostNotification(
+        CFNotificationCenterGetDistributedCenter(), KTXLMPrefsChanged, KTXLMAgentID, {}, true);
+    if (!waitForSessionBus())
+        throw CommandFailure(QStringLiteral("the change is stored, but the session bus does not take announcements"));
+}
+
+void setValue(const AgentRequest &request)
+{
+    CFPreferencesSetAppValue(request.key, request.value, KTXLMAppID);
+    if (!CFPreferencesAppSynchronize(KTXLMAppID))
+        throw CommandFailure(QStringLiteral("the settings of %1 could not be changed").arg(KTXLMAppID));
+    tellRunningAgent();
+    announceChange();
+}
+
+void startAtLogin(const AgentRequest &request)
+{
+    const QString error = setStartAtLogin(request.startAtLogin, QCoreApplication::applicationFilePath());
+    if (!error.isEmpty())
+        throw CommandFailure(error);
+}
+
+void quit(const AgentRequest &)
+{
+    const AgentAnswer answer = quitRunningAgent();
+    if (answer.outcome == AgentAnswer::Outcome::Failed)
+        throw CommandFailure(answer.text);
+    if (answer.outcome == AgentAnswer::Outcome::NotRunning)
+        std::fputs("LumarooAgent: no agent runs\n", stderr);
+}
+
+void help(const AgentRequest &)
+{
+    print(AgentHelp);
+}
+
+void version(const AgentRequest &)
+{
+    print(qPrintable(QStringLiteral("LumarooAgent %1\n").arg(QCoreApplication::applicationVersion())));
+}
+
+} // namespace
+
+void perform(const AgentRequest &request)
+{
+    using Action = AgentRequest::Action;
+    static const QHash<Action, void (*)(const AgentRequest &)> commands{{Action::PrintSettings, printSettings},
+        {Action::Set, setValue}, {Action::StartAtLogin, startAtLogin}, {Action::Quit, quit}, {Action::Help, help},
+        {Action::Version, version}};
+    commands.value(request.action)(request);
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "agent/AgentArguments.h"
+
+/// What could not be done; what() tells the user why.
+class CommandFailure : public std::runtime_error
+{
+public:
+    explicit CommandFailure(const QString &reason) : std::runtime_error(reason.toStdString()) { }
+};
+
+/// Does what was asked for beside running: prints, sets, quits ... Throws CommandFailure.
+void perform(const AgentRequest &request);
+
+/// Runs the agent of this session until it ends; the program's exit status. Throws CommandFailure when it cannot start.
+/// One that runs already is no failure: a line on standard error says so.
+int runAgent(bool foreground);

@@ -1,0 +1,72 @@
+#include "agent/Agent.h"
+#include "agent/AgentCommands.h"
+#include "agent/linux/AgentName.h"
+#include "agent/linux/AgentObject.h"
+#include "platform/foundation/NSLog.h"
+#include "platform/foundation/linux/EndingSignals.h"
+
+#include <QCoreApplication>
+#include <cstdio>
+
+namespace {
+
+void printLine(const QString &line)
+{
+    std::fprintf(stdout, "%s\n", qPrintable(line));
+    std::fflush(stdout);
+}
+
+/// Says what happens, for people and tests.
+void printEvents(const Agent &agent)
+{
+    QObject::connect(&agent, &Agent::settingsRead, &agent,
+        [&agent] { printLine(QStringLiteral("settings read (%1)").arg(agent.readings())); });
+    QObject::connect(&agent, &Agent::launched, &agent,
+        [&agent] { printLine(QStringLiteral("launched (version %1)").arg(agent.version())); });
+    QObject::connect(&agent, &Agent::terminating, &agent, [] { printLine(QStringLiteral("terminating")); });
+}
+
+/// False when another runs already.
+bool takeName(AgentName &name)
+{
+    switch (name.take()) {
+    case AgentName::Outcome::Owned:
+        break;
+    case AgentName::Outcome::RunsAlready:
+        std::fputs("LumarooAgent: an agent runs already\n", stderr);
+        return false;
+    case AgentName::Outcome::NotGivenBack:
+        throw CommandFailure(QStringLiteral("the agent that ran has announced its end, but does not end"));
+    case AgentName::Outcome::NoAnswer:
+        throw CommandFailure(QStringLiteral("an agent runs already, but does not answer"));
+    case AgentName::Outcome::NoBus:
+        throw CommandFailure(QStringLiteral("there is no session bus to reach the settings window on; not started"));
+    }
+    return true;
+}
+
+void endWithBus()
+{
+    NSLog(QStringLiteral("lumaroo: agent: the session bus has gone; quitting"));
+    QCoreApplication::exit(1);
+}
+
+} // namespace
+
+int runAgent(bool foreground)
+{
+    AgentName name;
+    Agent agent(name);
+    const AgentObject object(agent);
+    if (!takeName(name))
+        return 0;
+    if (foreground)
+        printEvents(agent);
+    const EndingSignals endingSignals;
+    QObject::connect(&endingSignals, &EndingSignals::received, &agent, &Agent::terminate);
+    QObject::connect(&name, &AgentName::busHasGone, qApp, endWithBus);
+    // Queued: it may end before the run loop has begun.
+    QObject::connect(&agent, &Agent::ended, qApp, &QCoreApplication::exit, Qt::QueuedConnection);
+    agent.launch();
+    return QCoreApplication::exec();
+}

@@ -1,0 +1,49 @@
+#include "agent/linux/AgentObject.h"
+
+#include "agent/Agent.h"
+#include "agent/SettingsJson.h"
+#include "agent/linux/AgentBus.h"
+
+#include <QDBusConnection>
+
+namespace {
+
+// The bus ends the connection of whoever sends it more than it takes.
+constexpr qsizetype largestAnswer = 1024 * 1024;
+
+} // namespace
+
+AgentObject::AgentObject(Agent &agent) : agent_(agent)
+{
+    QDBusConnection::sessionBus().registerObject(agentPath(), this, QDBusConnection::ExportScriptableSlots);
+}
+
+AgentObject::~AgentObject()
+{
+    QDBusConnection::sessionBus().unregisterObject(agentPath());
+}
+
+int AgentObject::Version() const
+{
+    return agent_.version();
+}
+
+QString AgentObject::Settings() const
+{
+    const QByteArray json = settingsJson(agent_.version(), agent_.readings(), agent_.settings());
+    if (json.size() <= largestAnswer)
+        return QString::fromUtf8(json);
+    sendErrorReply(QDBusError::LimitsExceeded, QStringLiteral("what the agent has read is too large to be shown"));
+    return {};
+}
+
+void AgentObject::ReadSettings()
+{
+    agent_.readSettings();
+}
+
+void AgentObject::Quit()
+{
+    // Later, so that the answer goes first.
+    QMetaObject::invokeMethod(&agent_, &Agent::terminate, Qt::QueuedConnection);
+}

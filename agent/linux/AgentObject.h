@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QDBusContext>
+#include <QObject>
+
+class Agent;
+
+/// The running agent on the session bus, for its own command line and for one that starts beside it.
+class AgentObject : public QObject, protected QDBusContext
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "com.quorvane.LumarooAgent")
+
+public:
+    /// Call it before the name is taken: whoever sees the name must find the object.
+    explicit AgentObject(Agent &agent);
+    ~AgentObject() override;
+
+public Q_SLOTS:
+    // The interface on the bus.
+    Q_SCRIPTABLE int Version() const;
+    Q_SCRIPTABLE QString Settings() const;
+    Q_SCRIPTABLE void ReadSettings();
+    Q_SCRIPTABLE void Quit();
+
+private:
+    Agent &agent_;
+};

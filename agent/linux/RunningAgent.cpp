@@ -1,0 +1,57 @@
+#include "agent/linux/RunningAgent.h"
+
+#include "agent/linux/AgentBus.h"
+
+#include <QDBusConnection>
+#include <QDBusError>
+#include <QDBusServiceWatcher>
+#include <QEventLoop>
+#include <QTimer>
+
+namespace {
+
+constexpr int longestAnswer = 5000; // milliseconds
+constexpr int longestEnd = 10000;
+
+AgentAnswer failure(const QDBusError &error)
+{
+    if (error.type() == QDBusError::ServiceUnknown)
+        return {AgentAnswer::Outcome::NotRunning, {}};
+    if (error.type() == QDBusError::NoReply || error.type() == QDBusError::Timeout)
+        return {AgentAnswer::Outcome::Failed, QStringLiteral("the running agent does not answer")};
+    return {AgentAnswer::Outcome::Failed, error.message()};
+}
+
+} // namespace
+
+AgentAnswer askRunningAgent(const QString &method)
+{
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected())
+        return {AgentAnswer::Outcome::Failed, QStringLiteral("there is no session bus")};
+    const QDBusMessage answer = bus.call(agentCall(method), QDBus::Block, longestAnswer);
+    if (answer.type() != QDBusMessage::ReplyMessage)
+        return failure(QDBusError(answer));
+    return {AgentAnswer::Outcome::Answered, answer.arguments().value(0).toString()};
+}
+
+AgentAnswer quitRunningAgent()
+{
+    bool hasGone = false;
+    QEventLoop loop;
+    // Watches before it asks, so that the end cannot be missed.
+    const QDBusServiceWatcher end(
+        agentService(), QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForUnregistration);
+    QObject::connect(&end, &QDBusServiceWatcher::serviceUnregistered, &loop, [&hasGone, &loop] {
+        hasGone = true;
+        loop.quit();
+    });
+    const AgentAnswer answer = askRunningAgent(QStringLiteral("Quit"));
+    if (answer.outcome != AgentAnswer::Outcome::Answered)
+        return answer;
+    QTimer::singleShot(longestEnd, &loop, &QEventLoop::quit);
+    loop.exec();
+    if (!hasGone)
+        return {AgentAnswer::Outcome::Failed, QStringLiteral("the running agent does not end")};
+    return answer;
+}
