@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr qint64 largestText = 1024 * 1024;
+constexpr qint64 largestText = qint64(1024) * 1024;
 
 QByteArray readBounded(const QString &path)
 {

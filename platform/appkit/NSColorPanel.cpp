@@ -149,8 +149,8 @@ NSColorWell *NSColorPanel::activeWell()
 
 void NSColorPanel::colorWasSet(const NSColorWell *well)
 {
-    if (well == activeWell())
-        instance()->showColor(well->color());
+    if (NSColorPanel *panel = instance(); panel && panel->activeWell_ == well)
+        panel->showColor(well->color());
 }
 
 void NSColorPanel::showColor(const NSColorRef &color)

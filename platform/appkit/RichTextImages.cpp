@@ -8,8 +8,8 @@
 namespace {
 
 constexpr int mostImages = 32;
-constexpr qint64 mostPixels = 16 * 1024 * 1024;
-constexpr qint64 largestFile = 4 * 1024 * 1024;
+constexpr qint64 mostPixels = qint64(16) * 1024 * 1024;
+constexpr qint64 largestFile = qint64(4) * 1024 * 1024;
 constexpr int longestSide = 2048;
 
 bool isWithinBounds(const QSize &size, qint64 pixelsLeft)

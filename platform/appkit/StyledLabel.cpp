@@ -32,8 +32,8 @@ QColor mixed(const QColor &color, const QColor &other, double share)
 
 QColor palerText(const QColor &text, const QColor &window)
 {
-    for (double share = 0.4; share > 0; share -= 0.05) {
-        const QColor pale = mixed(text, window, share);
+    for (int percent = 40; percent > 0; percent -= 5) {
+        const QColor pale = mixed(text, window, percent / 100.0);
         if (contrastRatio(pale, window) >= LeastContrast)
             return pale;
     }

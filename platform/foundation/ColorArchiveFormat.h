@@ -37,6 +37,6 @@ inline constexpr char TextType[] = "+";
 
 // No colour comes near these.
 inline constexpr int MaximumFallbacks = 16;
-inline constexpr qsizetype MaximumSize = 64 * 1024;
+inline constexpr qsizetype MaximumSize = qsizetype(64) * 1024;
 
 } // namespace ColorArchive

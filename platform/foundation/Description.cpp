@@ -12,7 +12,7 @@ QString describe(const QVariant &value, int level);
 
 QString blanks(int level)
 {
-    return QString(4 * level, u' ');
+    return QString(qsizetype(4) * level, u' ');
 }
 
 QString hexadecimal(const QByteArray &data)

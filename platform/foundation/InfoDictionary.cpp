@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr qint64 largestFile = 1024 * 1024;
+constexpr qint64 largestFile = qint64(1024) * 1024;
 
 InfoDictionaryReading dictionaryIn(const QByteArray &data)
 {
