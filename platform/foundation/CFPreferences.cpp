@@ -1,6 +1,7 @@
 #include "platform/foundation/CFPreferences.h"
 
 #include "platform/foundation/PreferencesDomain.h"
+#include "platform/foundation/PropertyListValue.h"
 
 #include <limits>
 
@@ -64,12 +65,6 @@ CFTypeID CFGetTypeID(const QVariant &value)
     switch (value.typeId()) {
     case QMetaType::Bool:
         return CFTypeID::Boolean;
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::Long:
-    case QMetaType::ULong:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
     case QMetaType::Float:
     case QMetaType::Double:
         return CFTypeID::Number;
@@ -85,7 +80,7 @@ CFTypeID CFGetTypeID(const QVariant &value)
     case QMetaType::QVariantMap:
         return CFTypeID::Dictionary;
     default:
-        return CFTypeID::None;
+        return integerKind(value) != IntegerKind::None ? CFTypeID::Number : CFTypeID::None;
     }
 }
 

@@ -1,4 +1,5 @@
 #include "platform/foundation/PropertyList.h"
+#include "platform/foundation/PropertyListValue.h"
 
 #include <QDateTime>
 #include <bit>
@@ -23,19 +24,7 @@ bool equalMaps(const QVariantMap &left, const QVariantMap &right)
 
 bool isInteger(const QVariant &value)
 {
-    switch (value.typeId()) {
-    case QMetaType::Short:
-    case QMetaType::UShort:
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::Long:
-    case QMetaType::ULong:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-        return true;
-    default:
-        return false;
-    }
+    return integerKind(value) != IntegerKind::None;
 }
 
 bool isList(const QVariant &value)

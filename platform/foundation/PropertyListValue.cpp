@@ -51,26 +51,20 @@ private:
         case QMetaType::QByteArray:
         case QMetaType::QString:
             return value;
-        case QMetaType::Short:
-        case QMetaType::Int:
-        case QMetaType::Long:
-        case QMetaType::LongLong:
-            return value.toLongLong();
-        case QMetaType::UShort:
-        case QMetaType::UInt:
-        case QMetaType::ULong:
-        case QMetaType::ULongLong:
-            return convertedUnsigned(value.toULongLong());
         case QMetaType::QDateTime:
             return value.toDateTime().isValid() ? QVariant(value.toDateTime().toUTC()) : QVariant();
         default:
-            return {};
+            return convertedInteger(value);
         }
     }
 
-    static QVariant convertedUnsigned(qulonglong value)
+    static QVariant convertedInteger(const QVariant &value)
     {
-        return qlonglong(value) < 0 ? QVariant(value) : QVariant(qlonglong(value));
+        const IntegerKind kind = integerKind(value);
+        if (kind == IntegerKind::None)
+            return {};
+        const bool isBeyondSigned = kind == IntegerKind::Unsigned && value.toLongLong() < 0;
+        return isBeyondSigned ? QVariant(value.toULongLong()) : QVariant(value.toLongLong());
     }
 
     QVariant convertedList(const QVariantList &list, int depth)
@@ -101,6 +95,24 @@ private:
 };
 
 } // namespace
+
+IntegerKind integerKind(const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Short:
+    case QMetaType::Int:
+    case QMetaType::Long:
+    case QMetaType::LongLong:
+        return IntegerKind::Signed;
+    case QMetaType::UShort:
+    case QMetaType::UInt:
+    case QMetaType::ULong:
+    case QMetaType::ULongLong:
+        return IntegerKind::Unsigned;
+    default:
+        return IntegerKind::None;
+    }
+}
 
 QVariant propertyListValue(const QVariant &value)
 {

@@ -107,6 +107,8 @@ TEST_F(SettingsValues, everyKindOfValueHasItsType)
     EXPECT_EQ(CFGetTypeID(true), CFBooleanGetTypeID());
     EXPECT_EQ(CFGetTypeID(1), CFTypeID::Number);
     EXPECT_EQ(CFGetTypeID(1LL), CFTypeID::Number);
+    EXPECT_EQ(CFGetTypeID(QVariant::fromValue(short(1))), CFTypeID::Number);
+    EXPECT_EQ(CFGetTypeID(QVariant::fromValue(ushort(1))), CFTypeID::Number);
     EXPECT_EQ(CFGetTypeID(1.0f), CFTypeID::Number);
     EXPECT_EQ(CFGetTypeID(1.0), CFTypeID::Number);
     EXPECT_EQ(CFGetTypeID("text"), CFTypeID::String);
