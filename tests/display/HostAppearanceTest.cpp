@@ -171,6 +171,7 @@ TEST_F(AnAppearance, hasReadableTextInBothSchemes)
         for (const auto &[text, ground] : texts)
             EXPECT_GE(contrast(palette.color(text), palette.color(ground)), 4.5)
                 << "dark " << int(scheme) << " role " << text << " on " << ground;
+        EXPECT_GE(contrast(palette.color(QPalette::Highlight), palette.color(QPalette::Window)), 3);
     }
 }
 
