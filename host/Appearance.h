@@ -9,8 +9,8 @@ class DesktopColorScheme;
 
 /// The application's style and palette.
 ///
-/// Where the desktop brings a Qt theme of its own it is left as it is. Elsewhere the style is Fusion, in the desktop's
-/// colour scheme, which is followed. A fixed scheme counts everywhere and follows nothing.
+/// Where the desktop brings a Qt theme of its own it is left as it is. Elsewhere the style is Fusion with clear
+/// outlines, in the desktop's colour scheme, which is followed. A fixed scheme counts everywhere and follows nothing.
 class Appearance : public QObject
 {
     Q_OBJECT

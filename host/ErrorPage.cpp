@@ -59,7 +59,8 @@ ErrorPage::ErrorPage(QWidget *parent)
     icon->setAlignment(Qt::AlignHCenter);
     QFont font = heading_->font();
     font.setBold(true);
-    font.setPointSizeF(font.pointSizeF() * 1.25);
+    if (font.pointSizeF() > 0)
+        font.setPointSizeF(font.pointSizeF() * 1.25);
     heading_->setFont(font);
     detail_->setForegroundRole(QPalette::PlaceholderText);
 

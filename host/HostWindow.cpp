@@ -203,8 +203,11 @@ void HostWindow::hideView(QWidget *view)
     onScreen_ = {};
     QWidget *focus = focusWidget();
     lastFocus_[view] = isWithin(focus, view) ? focus : nullptr;
-    stack_->removeWidget(pageAround(view));
-    pageAround(view)->hide();
+    // A pane may have taken its view out of the window.
+    if (QWidget *page = pageAround(view)) {
+        stack_->removeWidget(page);
+        page->hide();
+    }
 }
 
 void HostWindow::showIcon()

@@ -59,8 +59,7 @@ PaneFailureReport PaneController::select(const QString &bundlePath)
 {
     Q_ASSERT(currentPath_.isEmpty());
     if (!panes_.contains(bundlePath)) {
-        const PaneFailureReport report = load(bundlePath);
-        if (report)
+        if (PaneFailureReport report = load(bundlePath))
             return report;
     }
     NSPreferencePane *pane = panes_.at(bundlePath).get();
@@ -75,8 +74,9 @@ PaneFailureReport PaneController::select(const QString &bundlePath)
 
 void PaneController::finishSelection()
 {
-    if (std::exchange(selectionUnfinished_, false))
-        call("didSelect", [pane = current()] { pane->didSelect(); });
+    NSPreferencePane *pane = current();
+    if (std::exchange(selectionUnfinished_, false) && pane)
+        call("didSelect", [pane] { pane->didSelect(); });
 }
 
 void PaneController::leave(std::function<void()> afterwards)

@@ -68,7 +68,8 @@ PanePlugIn loadPanePlugIn(const QString &bundlePath)
     if (plugIn.report)
         return plugIn;
     plugIn.bundle = NSBundle::bundleWithPath(bundlePath);
-    plugIn.report = checkExecutable(plugIn.bundle->executablePath());
+    plugIn.report = plugIn.bundle ? checkExecutable(plugIn.bundle->executablePath())
+                                  : PaneFailureReport{PaneFailure::Missing, bundlePath};
     if (!plugIn.report)
         loadCode(plugIn);
     return plugIn;

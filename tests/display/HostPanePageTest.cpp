@@ -1,6 +1,7 @@
 // A pane's view fills the window, and scrolls where it needs more room than there is.
 
 #include "Wait.h"
+#include "host/HostWindow.h"
 #include "host/PanePage.h"
 
 #include <QLabel>
@@ -72,4 +73,17 @@ TEST_F(APanePage, scrollsAsideWhereTheViewIsTooWide)
     view->setMinimumWidth(600);
     show(QSize(300, 700));
     EXPECT_TRUE(scrollsAside());
+}
+
+TEST(AHostWindow, letsGoOfAViewThatItsPaneTookAway)
+{
+    HostWindow window({});
+    QWidget view;
+    window.showView(&view, [] {});
+    view.setParent(nullptr);
+    window.hideView(&view);
+    EXPECT_EQ(view.parentWidget(), nullptr);
+    window.showView(&view, [] {});
+    EXPECT_TRUE(window.isAncestorOf(&view));
+    view.setParent(nullptr);
 }
