@@ -24,7 +24,7 @@ void KTXLumarooPreferencePane::buildHelpAnchors()
 
 void KTXLumarooPreferencePane::displayHelp(QObject *sender) { }
 
-qint32 RegisterMyHelpBook()
+OSStatus RegisterMyHelpBook()
 {
     return fnfErr;
 }

@@ -8,28 +8,36 @@
 
 #include <gtest/gtest.h>
 
-/// The pane with its calls to the agent's control written down; everything else is the real thing.
+/// The pane with its calls to the agent's control written down, and carried out only where a test wishes it; everything
+/// else is the real thing.
 class RecordingPane : public KTXLumarooPreferencePane
 {
 public:
     explicit RecordingPane(QStringList *calls) : calls_(calls) { }
 
+    /// From now on these operations of the agent's control are carried out, too.
+    void carryOut(const QStringList &operations) { carriedOut_ += operations; }
     void switchToTab(const NSNotification &notification) override;
     QStringList outletNames();
     /// Called where the pane would show the agent's state.
     std::function<void()> atAgentVisuals = [] {};
 
-protected:
-    void updatePreferences(const NSNotification &notification) override;
     void updateAgentVisuals() override;
     void setAgentVisualsOn(const NSNotification &notification) override;
     void setAgentVisualsOff() override;
     void relaunch() override;
     void stopAgent() override;
     bool startAgent() override;
+    using KTXLumarooPreferencePane::agentPSN;
+
+protected:
+    void updatePreferences(const NSNotification &notification) override;
 
 private:
+    bool recordedAndWished(const QString &operation);
+
     QStringList *calls_;
+    QStringList carriedOut_;
 };
 
 /// The agent's settings domain, as another process would see and change it.

@@ -28,6 +28,20 @@ void TestBundle::writeFile(const QString &relativePath, const QByteArray &conten
         qFatal("cannot write %s", qPrintable(path));
 }
 
+void TestBundle::writeScript(const QString &relativePath, const QByteArray &text) const
+{
+    writeFile(relativePath, "#!/bin/sh\n" + text);
+    QFile::setPermissions(path_ + u'/' + relativePath, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+void TestBundle::copyProgram(const QString &relativePath, const QString &program) const
+{
+    const QString path = path_ + u'/' + relativePath;
+    QDir().mkpath(QFileInfo(path).path());
+    if (!QFile::copy(program, path))
+        qFatal("cannot copy %s", qPrintable(program));
+}
+
 void TestBundle::writeStringTable(
     const QString &language, const QString &table, const QMap<QString, QString> &texts) const
 {

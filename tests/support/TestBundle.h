@@ -20,6 +20,10 @@ public:
     /// Writes a file below the bundle, folders included.
     void writeFile(const QString &relativePath, const QByteArray &content) const;
 
+    /// Writes a program below the bundle: a shell script of this text, or a copy of a program.
+    void writeScript(const QString &relativePath, const QByteArray &text) const;
+    void copyProgram(const QString &relativePath, const QString &program) const;
+
     /// Writes the string table <language>.lproj/<table> with these texts and their translations.
     void writeStringTable(const QString &language, const QString &table, const QMap<QString, QString> &texts) const;
 

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QByteArray>
+#include <sys/types.h>
+#include <vector>
+
+/// The processes of this user, as they are now.
+std::vector<pid_t> processesOfThisUser();
+
+/// The path of a process's executable, also after its file was removed or replaced; empty where it cannot be read.
+QByteArray executableOf(pid_t process);
+
+/// A variable of the environment that a process was started with, or empty.
+QByteArray environmentVariableOf(pid_t process, const QByteArray &name);

@@ -1,0 +1,177 @@
+#include "TestApplication.h"
+#include "Wait.h"
+
+#include "platform/foundation/Processes.h"
+
+#include <QDir>
+#include <QProcess>
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+namespace {
+
+const QString identifier = QStringLiteral("test.application");
+
+QList<ProcessSerialNumber> allProcesses()
+{
+    QList<ProcessSerialNumber> processes;
+    ProcessSerialNumber process;
+    while (GetNextProcess(&process) == noErr)
+        processes += process;
+    EXPECT_EQ(process, kNoProcess) << "what the end of the list leaves";
+    return processes;
+}
+
+QVariantMap informationAbout(const ProcessSerialNumber &process)
+{
+    return ProcessInformationCopyDictionary(process, kProcessDictionaryIncludeAllInformationMask);
+}
+
+QString identifierOf(const ProcessSerialNumber &process)
+{
+    return informationAbout(process).value(kCFBundleIdentifierKey).toString();
+}
+
+ProcessSerialNumber thisProcess()
+{
+    return {0, quint32(::getpid())};
+}
+
+} // namespace
+
+TEST(Processes, theListHoldsEachProcessOnceAndThisOneToo)
+{
+    TestApplication application;
+    const ProcessSerialNumber launched = application.launch();
+    const QList<ProcessSerialNumber> processes = allProcesses();
+    EXPECT_EQ(processes.count(thisProcess()), 1);
+    EXPECT_EQ(processes.count(launched), 1);
+    EXPECT_FALSE(processes.contains(kNoProcess));
+    for (const ProcessSerialNumber &process : processes)
+        EXPECT_EQ(processes.count(process), 1);
+}
+
+TEST(Processes, aProcessThatIsNotInTheListEndsTheWalk)
+{
+    ProcessSerialNumber process{0, 0x7fffffff};
+    EXPECT_EQ(GetNextProcess(&process), procNotFound);
+    EXPECT_EQ(process, kNoProcess);
+    EXPECT_EQ(GetNextProcess(nullptr), paramErr);
+}
+
+TEST(Processes, aWalkGoesOnFromWhereItsCallerStands)
+{
+    const QList<ProcessSerialNumber> processes = allProcesses();
+    ASSERT_GE(processes.size(), 2);
+    ProcessSerialNumber process;
+    ASSERT_EQ(GetNextProcess(&process), noErr);
+    process = processes.first();
+    ASSERT_EQ(GetNextProcess(&process), noErr);
+    EXPECT_EQ(process, processes[1]);
+    process = processes.first();
+    ASSERT_EQ(GetNextProcess(&process), noErr);
+    EXPECT_EQ(process, processes[1]) << "a step back";
+}
+
+TEST(Processes, aProcessStartedDuringAWalkIsInTheNextOne)
+{
+    TestApplication application;
+    ProcessSerialNumber process;
+    ASSERT_EQ(GetNextProcess(&process), noErr);
+    const ProcessSerialNumber launched = application.launch();
+    bool isSeen = false;
+    while (GetNextProcess(&process) == noErr)
+        isSeen = isSeen || process == launched;
+    EXPECT_FALSE(isSeen);
+    EXPECT_TRUE(allProcesses().contains(launched));
+}
+
+TEST(Processes, aProcessThatVanishesBetweenTwoStepsIsPassedOver)
+{
+    TestApplication application;
+    const ProcessSerialNumber launched = application.launch();
+    ProcessSerialNumber process;
+    while (process != launched)
+        ASSERT_EQ(GetNextProcess(&process), noErr);
+    killProcess(pid_t(launched.lowLongOfPSN));
+    EXPECT_TRUE(informationAbout(process).isEmpty());
+    while (GetNextProcess(&process) == noErr)
+        EXPECT_NE(process, launched);
+    EXPECT_EQ(process, kNoProcess);
+}
+
+TEST(Processes, anApplicationHasTheIdentifierOfItsBundle)
+{
+    TestApplication application;
+    const QVariantMap information = informationAbout(application.launch());
+    EXPECT_EQ(information.value(kCFBundleIdentifierKey), identifier);
+    EXPECT_EQ(information.value(kCFBundleExecutableKey), application.program());
+}
+
+TEST(Processes, aProgramOutsideAnApplicationHasNoIdentifier)
+{
+    EXPECT_FALSE(informationAbout(thisProcess()).contains(kCFBundleIdentifierKey));
+    EXPECT_FALSE(informationAbout(kNoProcess).contains(kCFBundleIdentifierKey));
+}
+
+TEST(Processes, aProcessThatMerelyHasTheSameFileNameHasNoIdentifier)
+{
+    const TestApplication application;
+    QProcess process;
+    process.start(TestApplication::idleProgram(), {});
+    ASSERT_TRUE(process.waitForStarted());
+    EXPECT_EQ(identifierOf({0, quint32(process.processId())}), QString());
+    process.kill();
+    process.waitForFinished();
+}
+
+TEST(Processes, anApplicationStartedByHandHasItsIdentifierToo)
+{
+    const TestApplication application;
+    QProcess process;
+    process.start(application.program(), {});
+    ASSERT_TRUE(process.waitForStarted());
+    EXPECT_EQ(identifierOf({0, quint32(process.processId())}), identifier);
+    process.kill();
+    process.waitForFinished();
+}
+
+TEST(Processes, anApplicationKeepsItsIdentifierWhenItsProgramIsReplacedWhileItRuns)
+{
+    TestApplication application;
+    const ProcessSerialNumber process = application.launch();
+    ASSERT_TRUE(QFile::remove(application.program()));
+    application.bundle().copyProgram(QStringLiteral("Contents/Linux/idle"), TestApplication::idleProgram());
+    EXPECT_EQ(identifierOf(process), identifier);
+}
+
+TEST(Processes, anApplicationKeepsItsIdentifierWhenItsBundleIsMovedAway)
+{
+    TestApplication application;
+    const ProcessSerialNumber process = application.launch();
+    const QString moved = QFileInfo(application.path()).path() + QStringLiteral("/Elsewhere.app");
+    ASSERT_TRUE(QDir().rename(application.path(), moved));
+    EXPECT_EQ(identifierOf(process), identifier);
+}
+
+TEST(Processes, anApplicationKeepsItsIdentifierWhenItsBundleIsExchangedForAnother)
+{
+    TestApplication application;
+    const ProcessSerialNumber process = application.launch();
+    const QString moved = QFileInfo(application.path()).path() + QStringLiteral("/Old.app");
+    ASSERT_TRUE(QDir().rename(application.path(), moved));
+    ASSERT_TRUE(QDir(moved).removeRecursively());
+    EXPECT_EQ(identifierOf(process), identifier) << "nothing in its place";
+    const TestApplication another(identifier);
+    ASSERT_TRUE(QDir().rename(another.path(), application.path()));
+    EXPECT_EQ(identifierOf(process), identifier);
+}
+
+TEST(Processes, aProcessThatHasEndedHasNoInformation)
+{
+    TestApplication application;
+    const ProcessSerialNumber process = application.launch();
+    killProcess(pid_t(process.lowLongOfPSN));
+    EXPECT_TRUE(informationAbout(process).isEmpty());
+}
