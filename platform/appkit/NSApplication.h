@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/appkit/Export.h"
+
+#include <functional>
+
+class QObject;
+
+/// The application that the panes run in. Main thread only.
+class LM_APPKIT NSApplication
+{
+public:
+    static NSApplication *sharedApplication();
+
+    /// Asks the application to end, as its user would: it may ask the shown pane first, and it may stay. Returns before
+    /// it has ended.
+    void terminate(QObject *sender);
+    /// How this application ends; set by its main program. Without one it closes its windows and quits.
+    void setTerminationHandler(std::function<void()> handler) { terminationHandler_ = std::move(handler); }
+
+    /// Brings the application's window to the front and gives it the focus; where the desktop refuses that, and with
+    /// false, which leaves the focus to whoever has it, the window asks for the user's attention.
+    void activateIgnoringOtherApps(bool ignoresOthers);
+
+private:
+    NSApplication() = default;
+    std::function<void()> terminationHandler_;
+};
