@@ -5,6 +5,7 @@
 #include "host/SettingsApplication.h"
 #include "host/linux/SingleInstance.h"
 #include "host/linux/WindowActivation.h"
+#include "platform/appkit/NSApplication.h"
 #include "platform/foundation/linux/EndingSignals.h"
 
 #include <QApplication>
@@ -60,9 +61,11 @@ int run(SettingsApplication &settings, SingleInstance &instance, const QString &
         &instance, &SingleInstance::requested, &settings, &SettingsApplication::open, Qt::QueuedConnection);
     QObject::connect(
         &settings, &SettingsApplication::takesRequestsChanged, &instance, &SingleInstance::setTakesRequests);
+    NSApplication::sharedApplication()->setTerminationHandler([&settings] { settings.terminate(); });
     settings.start(request);
     const int status = QCoreApplication::exec();
     settings.finish();
+    NSApplication::sharedApplication()->setTerminationHandler({});
     return status;
 }
 

@@ -1,23 +1,121 @@
 #include "pane/KTXLumarooPreferencePane.h"
 
-void KTXLumarooPreferencePane::toggleAgent(QObject *sender) { }
+#include "KTXConstants.h"
+#include "platform/appkit/NSApplication.h"
+#include "platform/foundation/CFPreferences.h"
+#include "platform/foundation/Description.h"
+#include "platform/foundation/LaunchServices.h"
+#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/NSDistributedNotificationCenter.h"
+#include "platform/foundation/NSException.h"
+#include "platform/foundation/NSLog.h"
+#include "platform/foundation/NSNotificationCenter.h"
+#include "platform/foundation/NSTask.h"
+#include "platform/foundation/Processes.h"
 
-void KTXLumarooPreferencePane::updateAgentVisuals() { }
+namespace {
 
-void KTXLumarooPreferencePane::setAgentVisualsOn(const NSNotification &notification) { }
+const QString agentName = QStringLiteral("LumarooAgent");
 
-void KTXLumarooPreferencePane::setAgentVisualsOff() { }
-
-void KTXLumarooPreferencePane::relaunch() { }
-
-void KTXLumarooPreferencePane::stopAgent() { }
-
-bool KTXLumarooPreferencePane::startAgent()
+[[noreturn]] void failToStartAgent(const KTXLumarooPreferencePane *pane, int line, const QString &description)
 {
-    return false;
+    handleFailureInMethodObjectFileLineNumberDescription(
+        QStringLiteral("startAgent"), pane, QStringLiteral("KTXLumarooPreferencePane"), line, description);
+}
+
+} // namespace
+
+void KTXLumarooPreferencePane::toggleAgent(QObject *sender)
+{
+    if (state(sender) == NSOnState)
+        startAgent();
+    else
+        stopAgent();
 }
 
 ProcessSerialNumber KTXLumarooPreferencePane::agentPSN() const
 {
-    return kNoProcess;
+    ProcessSerialNumber process = kNoProcess;
+    while (GetNextProcess(&process) == noErr) {
+        const QVariantMap information =
+            ProcessInformationCopyDictionary(process, kProcessDictionaryIncludeAllInformationMask);
+        if (information.value(kCFBundleIdentifierKey) == QStringLiteral("com.quorvane.%1").arg(agentName))
+            break;
+    }
+    return process;
+}
+
+bool KTXLumarooPreferencePane::agentIsRunning() const
+{
+    return agentPSN().lowLongOfPSN != 0;
+}
+
+void KTXLumarooPreferencePane::updateAgentVisuals()
+{
+    if (agentIsRunning())
+        setAgentVisualsOn({});
+    else
+        setAgentVisualsOff();
+}
+
+void KTXLumarooPreferencePane::setAgentVisualsOn(const NSNotification &notification)
+{
+    logIfDebugging(QStringLiteral("setAgentVisualsOn"));
+    if (intValue(notification.userInfo.value(KTXLMAgentVersion)) > loadedVersion())
+        relaunch();
+    NSNotificationCenter::defaultCenter()->postNotificationNameObject(KTXLMAgentLaunched);
+    setState(toggleStateButton_, NSOnState);
+    setTextColor(enabledState_, Qt::black);
+    setStringValue(enabledState_, localized(QStringLiteral("Lumaroo Enabled")));
+}
+
+void KTXLumarooPreferencePane::setAgentVisualsOff()
+{
+    logIfDebugging(QStringLiteral("setAgentVisualsOff"));
+    setState(toggleStateButton_, NSOffState);
+    setTextColor(enabledState_, Qt::red);
+    setStringValue(enabledState_, localized(QStringLiteral("Lumaroo Disabled")));
+}
+
+bool KTXLumarooPreferencePane::startAgent()
+{
+    logIfDebugging(QStringLiteral("startAgent"));
+    FSRef application;
+    if (FSPathMakeRef(bundle()->pathForResourceOfType(agentName, QStringLiteral("app")), &application) != noErr)
+        failToStartAgent(this, 47, QStringLiteral("No path found for Lumaroo.agent"));
+    if (agentIsRunning())
+        return true;
+    const LSApplicationParameters parameters{0, kLSLaunchDontSwitch | kLSLaunchAsync, &application};
+    if (LSOpenApplication(&parameters, &agentPSN_) != noErr)
+        failToStartAgent(this, 63, QStringLiteral("Can't Launch Lumaroo.agent"));
+    return true;
+}
+
+void KTXLumarooPreferencePane::stopAgent()
+{
+    logIfDebugging(QStringLiteral("stopAgent"));
+    NSDistributedNotificationCenter::defaultCenter()->postNotificationNameObjectUserInfoDeliverImmediately(
+        KTXLMAgentShouldTerminate, KTXLMAppID, {}, true);
+}
+
+void KTXLumarooPreferencePane::relaunch()
+{
+    const bool isDebugging = CFPreferencesGetAppBooleanValue(KTXShouldDebug, KTXLMAppID);
+    const auto log = [isDebugging](const QString &text) {
+        if (isDebugging)
+            NSLog(QStringLiteral("Lumaroo prefPane: ") + text);
+    };
+    log(QStringLiteral("relaunch"));
+    const QString launcher = bundle()->pathForResourceOfType(QStringLiteral("launcher"), {});
+    if (launcher.isEmpty()) {
+        log(QStringLiteral("relaunch -- no path found for launcher"));
+        return;
+    }
+    log(QStringLiteral("relaunch -- path found"));
+    NSTask task;
+    task.setLaunchPath(launcher);
+    task.setArguments({bundle()->bundlePath(), isDebugging ? QStringLiteral("Yes") : QStringLiteral("No")});
+    task.setStandardInput(NSPipe::pipe());
+    task.launch();
+    NSApplication::sharedApplication()->terminate(this);
 }

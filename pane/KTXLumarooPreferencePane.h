@@ -97,6 +97,7 @@ protected: // privateMethods
     virtual void stopAgent();
     virtual bool startAgent();
     ProcessSerialNumber agentPSN() const;
+    bool agentIsRunning() const;
     SUUpdater *updater() const;
 
 private:
