@@ -1,4 +1,6 @@
+#include "KTXConstants.h"
 #include "platform/appkit/NSPreferencePane.h"
+#include "platform/foundation/CFPreferences.h"
 #include "platform/foundation/NSBundle.h"
 
 #include <QPluginLoader>
@@ -15,6 +17,8 @@ QString productBundle()
 
 TEST(PlugIn, theBundlesExecutableYieldsAPaneThatLoadsItsView)
 {
+    // Not its first run: the agent stays as it is.
+    CFPreferencesSetAppValue(KTXFirstLaunch, false, KTXLMAppID);
     NSBundle *bundle = NSBundle::bundleWithPath(productBundle());
     ASSERT_NE(bundle, nullptr);
     QPluginLoader loader(bundle->executablePath());
