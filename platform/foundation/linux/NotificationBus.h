@@ -18,7 +18,7 @@ struct NotificationFilter
     QString name;
     QString object;
 
-    std::strong_ordering operator<=>(const NotificationFilter &) const = default;
+    std::strong_ordering operator<=>(const NotificationFilter &) const = default; // NOLINT(modernize-use-nullptr)
     bool accepts(const NSNotification &notification) const;
 };
 
