@@ -125,13 +125,14 @@ void KTXLumarooPreferencePane::readHotKeys()
     // One table under two names from here on: what is stored or captured replaces the defaults for the rest of the
     // pane's life.
     keyCodes_ = defaultKeyCodes_;
+    const QWidgetList fields = viewsWithTagsBelow(mainView(), int(keyCodePrefNames_.size()));
     for (int row = 0; row < keyCodePrefNames_.size(); ++row) {
         const QVariant entry = CFPreferencesCopyAppValue(keyCodePrefNames_.at(row), KTXLMAppID);
         const QVariantMap hotKey = CFGetTypeID(entry) == CFTypeID::Dictionary ? entry.toMap() : QVariantMap();
         if (hotKey.contains(KTXKeycode))
             keyCodes_->replace(row, intValue(hotKey.value(KTXKeycode)));
         const QString name = KeyCodeTranslator::stringForKeyCodeWithModifierFlags(quint16(keyCodes_->at(row)), 0);
-        setStringValue(viewWithTag(mainView(), row), name);
+        setStringValue(fields.at(row), name);
     }
 }
 

@@ -6,6 +6,7 @@
 
 #include <QColor>
 #include <QString>
+#include <QWidget>
 
 class QWidget;
 class QObject;
@@ -70,3 +71,5 @@ LM_APPKIT void performClick(QObject *control);
 /// The first view with a tag: depth first, `root` included, not into a matrix, tab pages by index, otherwise children
 /// in order. Null without one.
 LM_APPKIT QWidget *viewWithTag(QWidget *root, int viewTag);
+/// What viewWithTag finds for each of the tags from 0 up to, and without, `count`; in one walk.
+LM_APPKIT QWidgetList viewsWithTagsBelow(QWidget *root, int count);

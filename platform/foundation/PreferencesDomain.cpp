@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <cstdlib>
 #include <memory>
 #include <unordered_map>
 #include <utility>
@@ -32,9 +33,36 @@ QString settingsFolder()
     return folder + QStringLiteral("/lumaroo");
 }
 
+/// What a domain's path depends on, for comparison.
+struct DomainLookup
+{
+    QByteArray configurationFolder = std::getenv("XDG_CONFIG_HOME");
+    QByteArray home = std::getenv("HOME");
+    QString name;
+};
+
+bool isStillValid(const DomainLookup &lookup, const QString &name)
+{
+    return lookup.name == name && lookup.configurationFolder == std::getenv("XDG_CONFIG_HOME")
+        && lookup.home == std::getenv("HOME");
+}
+
 } // namespace
 
+/// Every key that is read or written asks, mostly for the same domain as the one before.
 PreferencesDomain *PreferencesDomain::named(const QString &name)
+{
+    static DomainLookup last;
+    static PreferencesDomain *lastAnswer = nullptr;
+    if (!lastAnswer || !isStillValid(last, name)) {
+        lastAnswer = find(name);
+        last = DomainLookup();
+        last.name = name;
+    }
+    return lastAnswer;
+}
+
+PreferencesDomain *PreferencesDomain::find(const QString &name)
 {
     if (!canNameADomain(name)) {
         NSLog(QStringLiteral("lumaroo: settings: \"%1\" cannot name a domain; nothing is read or written").arg(name));

@@ -26,6 +26,7 @@ public:
 
 private:
     explicit PreferencesDomain(const QByteArray &path);
+    static PreferencesDomain *find(const QString &name);
     QVariantMap withPendingChanges(const QVariantMap &stored) const;
     void setWhatDiffers(const QVariantMap &values);
 

@@ -64,50 +64,6 @@ TEST_F(SettingsStore, anXMLFileIsReadAndBecomesBinaryWithTheFirstChange)
     EXPECT_TRUE(isEqualPropertyList(stored(), QVariantMap{{"key", 1}, {"other", 2}}));
 }
 
-TEST_F(SettingsStore, whatAnotherProcessWroteIsReadWithoutAFlush)
-{
-    store({{"key", 1}});
-    EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), 1);
-    store({{"key", 2}});
-    EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), 2);
-    ASSERT_TRUE(QFile::remove(path()));
-    EXPECT_FALSE(CFPreferencesCopyAppValue("key", Domain).isValid());
-}
-
-TEST_F(SettingsStore, aChangeOfEqualSizeWithinTheSameInstantIsSeen)
-{
-    const auto inWholeSeconds = [](int result, struct stat *status) {
-        status->st_mtim.tv_nsec = status->st_ctim.tv_nsec = 0;
-        return result;
-    };
-    systemCalls().stat = [=](const char *name, struct stat *status) {
-        return inWholeSeconds(::stat(name, status), status);
-    };
-    systemCalls().fstat = [=](int file, struct stat *status) { return inWholeSeconds(::fstat(file, status), status); };
-    for (int value = 0; value < 200; ++value) {
-        putFile(writeBinaryPropertyList(QVariantMap{{"key", value}}));
-        ASSERT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), value);
-        ASSERT_EQ(wholeDomain().value("key").toInt(), value);
-    }
-}
-
-TEST_F(SettingsStore, aFileThatHasNotChangedForAWhileIsNotReadAgain)
-{
-    store({{"key", 1}});
-    systemCalls().realTime = [original = systemCalls().realTime] { return original() + std::chrono::seconds(10); };
-    EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), 1);
-    int opened = 0;
-    int read = 0;
-    observe(&SystemCalls::open, [&opened] { ++opened; });
-    observe(&SystemCalls::pread, [&read] { ++read; });
-    for (int round = 0; round < 10; ++round)
-        EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), 1);
-    EXPECT_EQ(opened + read, 0);
-    store({{"key", 2}});
-    EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), 2);
-    EXPECT_EQ(opened, 1);
-}
-
 TEST_F(SettingsStore, anUnflushedWriteStandsAboveWhatAnotherProcessWrites)
 {
     CFPreferencesSetAppValue("mine", 1, Domain);
@@ -220,6 +176,17 @@ TEST_F(SettingsStore, aRelativeConfigurationFolderCountsAsNone)
     ASSERT_TRUE(CFPreferencesAppSynchronize("com.example.relative"));
     EXPECT_TRUE(QFile::remove(QDir::homePath() + "/.config/lumaroo/com.example.relative.plist"));
     EXPECT_FALSE(QFileInfo::exists("somewhere"));
+}
+
+TEST_F(SettingsStore, theConfigurationFolderOfThisMomentCounts)
+{
+    const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+    CFPreferencesSetAppValue("key", 1, Domain);
+    ASSERT_TRUE(CFPreferencesAppSynchronize(Domain));
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(makeFolder("another")));
+    EXPECT_FALSE(CFPreferencesCopyAppValue("key", Domain).isValid());
+    qputenv("XDG_CONFIG_HOME", before);
+    EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), 1);
 }
 
 TEST_F(SettingsStore, aNameThatWouldLeaveTheFolderIsRefused)

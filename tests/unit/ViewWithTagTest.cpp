@@ -77,3 +77,22 @@ TEST(ViewWithTag, pagesCountByIndexWhicheverWasShownLast)
     first->raise();
     EXPECT_EQ(viewWithTag(&stack, 5), first);
 }
+
+TEST(ViewWithTag, severalAreTheOnesThatEachIsAlone)
+{
+    QTabWidget tabs;
+    for (int index = 0; index < 2; ++index)
+        tabs.addTab(new QWidget, QString::number(index));
+    tagged(2, tabs.widget(1));
+    tagged(0, tabs.widget(1));
+    tagged(-3, tabs.widget(0));
+    tagged(4, tabs.widget(0));
+    tagged(2, tabs.widget(0));
+    tagged<QCheckBox>(1, tagged<NSMatrix>(9, tabs.widget(0)));
+    const QWidgetList views = viewsWithTagsBelow(&tabs, 4);
+    ASSERT_EQ(views.size(), 4);
+    for (int viewTag = 0; viewTag < 4; ++viewTag)
+        EXPECT_EQ(views.at(viewTag), viewWithTag(&tabs, viewTag)) << viewTag;
+    EXPECT_EQ(views.at(1), nullptr) << "the cells of a matrix do not count";
+    EXPECT_EQ(viewsWithTagsBelow(nullptr, 2), QWidgetList({nullptr, nullptr}));
+}

@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <cerrno>
+#include <cstring>
 #include <fcntl.h>
 
 using namespace std::chrono_literals;
@@ -90,11 +91,15 @@ bool StoredSettings::isSettled() const
     return bytesReadAt_ - changed > LongestTimeStep;
 }
 
+/// With one call, since every key that is read soon after a change asks: a byte more than expected is asked for, and
+/// shows that there is one.
 bool StoredSettings::holdsTheSameBytes()
 {
     const auto now = systemCalls().realTime();
-    QByteArray bytes;
-    if (!readAll(file_.get(), bytes_.size(), &bytes) || bytes != bytes_)
+    bytesNow_.resize(bytes_.size() + 1);
+    const ssize_t count = uninterrupted(
+        [this] { return systemCalls().pread(file_.get(), bytesNow_.data(), size_t(bytesNow_.size()), 0); });
+    if (count != bytes_.size() || std::memcmp(bytesNow_.constData(), bytes_.constData(), size_t(count)) != 0)
         return false;
     bytesReadAt_ = now;
     return true;

@@ -43,6 +43,7 @@ private:
     std::shared_ptr<FileDescriptor> outdatedFile_; ///< the one before, until the run loop has time to close it
     struct stat status_ = {};
     QByteArray bytes_;
+    QByteArray bytesNow_; ///< what the last comparison read; kept for its memory
     std::chrono::nanoseconds bytesReadAt_{}; ///< when the bytes were last seen to be these
     Content content_ = Content::Values;
     QVariantMap values_;
