@@ -51,7 +51,7 @@ AlertWindow::AlertWindow(const AlertContent &content, QWidget *parent) : QDialog
 {
     setModal(true);
     setWindowModality(Qt::ApplicationModal);
-    setWindowTitle(QGuiApplication::applicationDisplayName());
+    setWindowTitle(parent ? parent->window()->windowTitle() : QGuiApplication::applicationDisplayName());
     setAccessibleName(content.message);
     setAccessibleDescription(content.information);
 

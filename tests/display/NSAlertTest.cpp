@@ -64,6 +64,18 @@ protected:
     NSAlert alert;
 };
 
+TEST_F(AnAlert, bearsTheTitleOfTheWindowItAsksFor)
+{
+    QWidget asking;
+    asking.setWindowTitle("Some settings");
+    asking.show();
+    ASSERT_TRUE(waitUntil([&] { return asking.isActiveWindow(); }));
+    run([] {
+        EXPECT_EQ(window()->windowTitle(), "Some settings");
+        pressKey(KeyEscape);
+    });
+}
+
 TEST_F(AnAlert, startsOnCancelAndReturnPressesIt)
 {
     EXPECT_EQ(run([] {
