@@ -25,7 +25,8 @@ void setOutlineColors(QPalette &palette, QPalette::ColorGroup group)
 {
     palette.setColor(group, QPalette::Window, outlineColor(palette, group).lighter(fusionDarkensOutlinesBy));
     // What has the focus is outlined in a darker shade of the highlight.
-    palette.setColor(group, QPalette::Highlight, palette.color(group, QPalette::Link));
+    if (group != QPalette::Disabled)
+        palette.setColor(group, QPalette::Highlight, palette.color(group, QPalette::Link));
 }
 
 /// Fills, since lines may fall beside the pixels of a display whose scale is not whole.

@@ -192,6 +192,18 @@ TEST_F(AnAppearance, outlinesItsControlsVisiblyInBothSchemes)
     }
 }
 
+TEST_F(AnAppearance, paintsASliderThatIsDisabledWithoutColour)
+{
+    const Appearance appearance(ColorScheme::Dark);
+    QSlider slider(Qt::Horizontal);
+    slider.setValue(slider.maximum());
+    slider.setEnabled(false);
+    slider.resize(200, slider.sizeHint().height());
+    const QImage picture = slider.grab().toImage();
+    for (int y = 0; y < picture.height(); ++y)
+        EXPECT_LT(picture.pixelColor(50, y).saturation(), 64) << y;
+}
+
 TEST_F(AnAppearance, isLightWithoutAPortal)
 {
     const Appearance appearance(std::nullopt);
