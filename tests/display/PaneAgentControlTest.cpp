@@ -3,6 +3,7 @@
 
 #include "CapturedLog.h"
 #include "PaneOnRealStore.h"
+#include "RunningPrograms.h"
 #include "TestApplication.h"
 #include "Wait.h"
 

@@ -55,13 +55,22 @@ QString title(xcb_window_t window)
     return QString::fromUtf8(property(window, "_NET_WM_NAME"));
 }
 
+QPoint position(xcb_window_t window)
+{
+    const Owned<xcb_translate_coordinates_reply_t> reply(
+        xcb_translate_coordinates_reply(
+            connection(), xcb_translate_coordinates(connection(), window, rootWindow(), 0, 0), nullptr),
+        &std::free);
+    return reply ? QPoint(reply->dst_x, reply->dst_y) : QPoint();
+}
+
 } // namespace
 
 QList<DesktopWindow> desktopWindows()
 {
     QList<DesktopWindow> windows;
     for (const quint32 id : numbers(property(rootWindow(), "_NET_CLIENT_LIST")))
-        windows.append({id, numbers(property(id, "_NET_WM_PID")).value(0), title(id)});
+        windows.append({id, numbers(property(id, "_NET_WM_PID")).value(0), title(id), position(id)});
     return windows;
 }
 

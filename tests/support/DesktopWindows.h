@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QList>
+#include <QPoint>
 #include <QStringList>
 
 /// A top-level window as the window manager lists it.
@@ -10,6 +11,7 @@ struct DesktopWindow
     quint32 id = 0;
     qint64 processID = 0;
     QString title;
+    QPoint position; ///< of its content, on the screen
 };
 
 /// All windows that the window manager shows, in the order in which it took them over.

@@ -1,11 +1,9 @@
 #include "TestApplication.h"
 
-#include "Wait.h"
+#include "RunningPrograms.h"
 
 #include "platform/foundation/LaunchServices.h"
 
-#include <QFile>
-#include <csignal>
 #include <gtest/gtest.h>
 
 TestApplication::TestApplication(const QString &identifier) : bundle_(QStringLiteral("Sample.app"))
@@ -35,19 +33,4 @@ ProcessSerialNumber TestApplication::launch()
     if (process != kNoProcess)
         launched_ += pid_t(process.lowLongOfPSN);
     return process;
-}
-
-bool processRuns(pid_t process)
-{
-    QFile status(QStringLiteral("/proc/%1/stat").arg(process));
-    if (!status.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray text = status.readAll();
-    return !text.mid(text.lastIndexOf(')')).startsWith(") Z");
-}
-
-void killProcess(pid_t process)
-{
-    ::kill(process, SIGKILL);
-    EXPECT_TRUE(waitUntil([process] { return !processRuns(process); }));
 }

@@ -29,8 +29,3 @@ private:
     TestBundle bundle_;
     QList<pid_t> launched_;
 };
-
-/// Whether a process exists that has not ended; one that waits to be collected has.
-bool processRuns(pid_t process);
-/// Kills a process, and returns once it is gone.
-void killProcess(pid_t process);

@@ -1,3 +1,4 @@
+#include "RunningPrograms.h"
 #include "TestApplication.h"
 #include "Wait.h"
 

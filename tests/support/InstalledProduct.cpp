@@ -1,0 +1,101 @@
+#include "InstalledProduct.h"
+
+#include "ProgramResult.h"
+#include "RunningPrograms.h"
+#include "Wait.h"
+
+#include "KTXConstants.h"
+#include "platform/foundation/CFPreferences.h"
+#include "platform/foundation/Description.h"
+#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/NSUserDefaults.h"
+#include "platform/foundation/PropertyList.h"
+
+#include <QDir>
+#include <QSaveFile>
+
+namespace {
+
+void setVersion(const QString &bundle, int version)
+{
+    QVariantMap info = NSBundle::infoDictionaryOnDisk(bundle);
+    ASSERT_FALSE(info.isEmpty());
+    info.insert(QStringLiteral("CFBundleVersion"), QString::number(version));
+    QSaveFile file(bundle + QStringLiteral("/Contents/Info.plist"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(writeXMLPropertyList(info));
+    ASSERT_TRUE(file.commit());
+}
+
+} // namespace
+
+InstalledProduct::InstalledProduct()
+{
+    qputenv("XDG_DATA_HOME", QFile::encodeName(folder_.path()));
+    const QString panes = folder_.filePath(QStringLiteral("PreferencePanes"));
+    EXPECT_TRUE(QDir().mkpath(panes));
+    EXPECT_EQ(runProgram(QStringLiteral("cp"), {QStringLiteral("-a"), SettingsProgram::builtPane(), panes}).status, 0);
+    pane_ = QDir(panes).canonicalPath() + QStringLiteral("/Lumaroo.prefPane");
+    NSUserDefaults::standardUserDefaults()->setPersistentDomainForName({}, KTXLMAppID);
+}
+
+InstalledProduct::~InstalledProduct()
+{
+    // The launchers first: they would bring back what is killed after them.
+    for (const QString &program : {launcher(), HostProgram::builtExecutable(), agentProgram()})
+        killProcessesOf(program);
+    qputenv("XDG_DATA_HOME", previousData_);
+}
+
+QString InstalledProduct::agentProgram() const
+{
+    return pane_ + QStringLiteral("/Contents/Resources/LumarooAgent.app/Contents/Linux/LumarooAgent");
+}
+
+void InstalledProduct::install(int version) const
+{
+    setVersion(pane_ + QStringLiteral("/Contents/Resources/LumarooAgent.app"), version);
+    setVersion(pane_, version);
+}
+
+int InstalledProduct::installedVersion() const
+{
+    return intValue(NSBundle::infoDictionaryOnDisk(pane_).value(QStringLiteral("CFBundleVersion")));
+}
+
+QList<pid_t> InstalledProduct::agents() const
+{
+    return processesOf(agentProgram());
+}
+
+QList<pid_t> InstalledProduct::hosts() const
+{
+    return processesOf(QFileInfo(HostProgram::builtExecutable()).canonicalFilePath());
+}
+
+bool InstalledProduct::comesBack(pid_t before) const
+{
+    return waitUntil([&] {
+        const QList<pid_t> running = hosts();
+        if (running.size() != 1 || running.first() == before || !processesOf(launcher()).isEmpty())
+            return false;
+        const QList<DesktopWindow> windows = desktopWindowsOfProcess(running.first());
+        return windows.size() == 1 && windows.first().title == QStringLiteral("Lumaroo");
+    });
+}
+
+bool InstalledProduct::agentStarts() const
+{
+    return waitUntil([this] { return agents().size() == 1; });
+}
+
+bool InstalledProduct::agentEnds() const
+{
+    return waitUntil([this] { return agents().isEmpty(); });
+}
+
+void InstalledProduct::storeOutside(const QString &key, const QVariant &value) const
+{
+    CFPreferencesSetAppValue(key, value, KTXLMAppID);
+    EXPECT_TRUE(CFPreferencesAppSynchronize(KTXLMAppID));
+}

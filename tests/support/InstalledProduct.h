@@ -1,0 +1,41 @@
+#pragma once
+
+#include "BusRecorder.h"
+#include "SettingsProgram.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <memory>
+#include <sys/types.h>
+
+/// The whole product as a user has it: a copy of the built pane bundle among the user's own panes, with settings of its
+/// own; the settings application and the agent are real, and whatever of them runs is killed with the object.
+class InstalledProduct : public testing::Test
+{
+protected:
+    InstalledProduct();
+    ~InstalledProduct() override;
+
+    QString pane() const { return pane_; }
+    QString agentProgram() const;
+    QString launcher() const { return pane_ + QStringLiteral("/Contents/Resources/launcher"); }
+    /// Puts code of a version in place of what is there, as an installer does: pane and agent.
+    void install(int version) const;
+    int installedVersion() const;
+
+    QList<pid_t> agents() const;
+    QList<pid_t> hosts() const;
+    /// Whether one host, other than `before`, comes to show the pane and no launcher waits any more.
+    bool comesBack(pid_t before) const;
+    bool agentStarts() const;
+    bool agentEnds() const;
+
+    void storeOutside(const QString &key, const QVariant &value) const;
+
+    BusRecorder bus;
+
+private:
+    QTemporaryDir folder_;
+    QByteArray previousData_ = qgetenv("XDG_DATA_HOME");
+    QString pane_;
+};

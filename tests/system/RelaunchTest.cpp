@@ -1,0 +1,156 @@
+// The real settings make way for newer code: they end, and the real launcher brings them back with the pane.
+
+#include "AgentProgram.h"
+#include "InstalledProduct.h"
+#include "KTXConstants.h"
+#include "KeyPress.h"
+#include "RunningPrograms.h"
+#include "Wait.h"
+
+#include <QProcess>
+#include <csignal>
+#include <linux/input-event-codes.h>
+
+namespace {
+
+constexpr int newVersion = 200;
+
+class Relaunch : public InstalledProduct
+{
+protected:
+    Relaunch() { storeOutside(KTXFirstLaunch, true); }
+
+    void startSettings(const QStringList &arguments, const QString &title = QStringLiteral("Lumaroo"))
+    {
+        settings = std::make_unique<SettingsProgram>(arguments);
+        ASSERT_TRUE(settings->waitForWindows(1));
+        ASSERT_EQ(settings->windows().first().title, title);
+        settings->settledPicture();
+    }
+
+    void announceAgent(int version) { bus.post(KTXLMAgentLaunched, KTXLMAgentID, {{KTXLMAgentVersion, version}}); }
+
+    /// The settings ask whether to leave, since two movement keys are the same.
+    void makeLeavingAQuestion() const
+    {
+        const QVariantMap up{{KTXKeycode, QStringLiteral("126")}};
+        storeOutside(KTXUpPref, up);
+        storeOutside(KTXDownPref, up);
+    }
+
+    bool launcherWaits() const
+    {
+        return waitUntil([this] { return processesOf(launcher()).size() == 1; });
+    }
+
+    qsizetype countOf(const QString &name) { return bus.names().count(name); }
+
+    std::unique_ptr<SettingsProgram> settings;
+};
+
+} // namespace
+
+TEST_F(Relaunch, aNewerAgentBringsTheSettingsBackWithTheNewCode)
+{
+    startSettings({pane()});
+    const pid_t before = pid_t(settings->processId());
+    install(newVersion);
+    AgentProgram agent({"--foreground"}, agentProgram());
+    EXPECT_TRUE(comesBack(before));
+    EXPECT_EQ(settings->exitStatus(), 0);
+    const pid_t after = hosts().value(0);
+    // It knows the version now: the same announcement leaves it alone, and what comes after it still arrives.
+    bus.clear();
+    announceAgent(newVersion);
+    bus.post(KTXLMPrefsChanged, KTXLMAgentID);
+    EXPECT_TRUE(waitUntil([this] { return countOf(KTXLMPrefsChanged) == 2; }));
+    EXPECT_EQ(hosts(), QList<pid_t>{after});
+    EXPECT_TRUE(processesOf(launcher()).isEmpty());
+    EXPECT_TRUE(agent.isRunning());
+}
+
+TEST_F(Relaunch, anAgentThatReplacedItselfBringsTheSettingsBackToo)
+{
+    AgentProgram agent({"--foreground"}, agentProgram());
+    ASSERT_TRUE(agent.waitForLaunch());
+    startSettings({pane()});
+    const pid_t before = pid_t(settings->processId());
+    install(newVersion);
+    // As a pane shown elsewhere would say.
+    bus.post(KTXLMPrefPaneLaunched, KTXLMAppID);
+    EXPECT_TRUE(comesBack(before));
+    EXPECT_EQ(agents().size(), 1);
+}
+
+TEST_F(Relaunch, aHigherVersionPutInPlaceBeforeThePaneIsOpenedBringsTheSettingsBack)
+{
+    startSettings({}, QStringLiteral("Settings"));
+    const pid_t before = pid_t(settings->processId());
+    install(newVersion);
+    SettingsProgram request({pane()});
+    EXPECT_EQ(request.exitStatus(), 0) << "handed over";
+    EXPECT_TRUE(comesBack(before));
+}
+
+TEST_F(Relaunch, theVersionThatIsLoadedOrALowerOneLeavesTheSettingsAlone)
+{
+    startSettings({pane()});
+    bus.clear();
+    announceAgent(installedVersion());
+    announceAgent(-1);
+    bus.post(KTXLMAgentLaunched, KTXLMAgentID, {{KTXLMAgentVersion, QStringLiteral("newest")}});
+    bus.post(KTXLMPrefsChanged, KTXLMAgentID);
+    EXPECT_TRUE(waitUntil([this] { return countOf(KTXLMPrefsChanged) == 2; }));
+    EXPECT_TRUE(settings->isRunning());
+    EXPECT_TRUE(processesOf(launcher()).isEmpty());
+}
+
+TEST_F(Relaunch, threeAnnouncementsInARowEndInOneHost)
+{
+    startSettings({pane()});
+    const pid_t before = pid_t(settings->processId());
+    for (int times = 0; times < 3; ++times)
+        announceAgent(newVersion);
+    EXPECT_TRUE(comesBack(before));
+    EXPECT_EQ(settings->exitStatus(), 0);
+}
+
+TEST_F(Relaunch, settingsThatAreKilledOnTheirWayOutComeBackToo)
+{
+    makeLeavingAQuestion();
+    startSettings({pane()});
+    const pid_t before = pid_t(settings->processId());
+    announceAgent(newVersion);
+    ASSERT_TRUE(settings->waitForWindows(2));
+    ASSERT_TRUE(launcherWaits());
+    settings->signal(SIGKILL);
+    EXPECT_TRUE(comesBack(before));
+}
+
+TEST_F(Relaunch, whoCancelsLeavingKeepsTheSettingsAndTheNextQuitBringsThemBack)
+{
+    makeLeavingAQuestion();
+    startSettings({pane()});
+    const pid_t before = pid_t(settings->processId());
+    announceAgent(newVersion);
+    ASSERT_TRUE(settings->waitForWindows(2));
+    pressKey(KEY_ESC);
+    ASSERT_TRUE(settings->waitForWindows(1));
+    EXPECT_TRUE(launcherWaits());
+    EXPECT_TRUE(settings->isRunning());
+    pressKey(KEY_Q, {KEY_LEFTCTRL});
+    ASSERT_TRUE(settings->waitForWindows(2));
+    pressKey(KEY_Q);
+    EXPECT_TRUE(comesBack(before));
+}
+
+TEST_F(Relaunch, withoutALauncherTheSettingsStay)
+{
+    ASSERT_TRUE(QFile::remove(launcher()));
+    startSettings({pane()});
+    bus.clear();
+    announceAgent(newVersion);
+    bus.post(KTXLMPrefsChanged, KTXLMAgentID);
+    EXPECT_TRUE(waitUntil([this] { return countOf(KTXLMPrefsChanged) == 2; }));
+    EXPECT_TRUE(settings->isRunning());
+}
