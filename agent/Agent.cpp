@@ -50,7 +50,7 @@ void Agent::observePane()
         NSDistributedNotificationCenter::defaultCenter()->addObserverSelectorNameObject(
             this, [this, reaction](const NSNotification &) { (this->*reaction)(); }, name, KTXLMAppID);
     };
-    observe(KTXLMPrefsChanged, &Agent::readSettings);
+    observe(KTXLMPrefsChanged, &Agent::readChange);
     observe(KTXLMAgentShouldTerminate, &Agent::terminate);
     observe(KTXLMPrefPaneLaunched, &Agent::giveWayToNewer);
 }
@@ -60,6 +60,13 @@ void Agent::readSettings()
     settings_ = effectiveSettings(NSUserDefaults::standardUserDefaults()->persistentDomainForName(KTXLMAppID));
     ++readings_;
     Q_EMIT settingsRead();
+}
+
+void Agent::readChange()
+{
+    readSettings();
+    // The pane fills in its defaults by writing the whole domain anew, and that may have overtaken our mark.
+    markFirstLaunch();
 }
 
 void Agent::markFirstLaunch()

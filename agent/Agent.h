@@ -35,6 +35,7 @@ Q_SIGNALS:
 
 private:
     void observePane();
+    void readChange();
     void markFirstLaunch();
     void announceLaunch();
     void announceEnd();

@@ -83,6 +83,17 @@ TEST_F(AgentForTheFirstTime, marksThatItWasStartedAndSaysSo)
     EXPECT_TRUE(runningAgentsSetting(KTXFirstLaunch).toBool());
 }
 
+TEST_F(AgentForTheFirstTime, marksItAgainWhenThePaneOverwroteTheMark)
+{
+    const AgentProgram agent;
+    ASSERT_TRUE(announces({changedByAgent(), launched()}));
+    recorder.clear();
+    store({{KTXAnimate, true}});
+    paneAnnounces(KTXLMPrefsChanged);
+    EXPECT_TRUE(announces({{KTXLMPrefsChanged, KTXLMAppID, {}, true}, changedByAgent()}));
+    EXPECT_EQ(stored(), QVariantMap({{KTXAnimate, true}, {KTXFirstLaunch, true}}));
+}
+
 TEST_F(AgentForTheFirstTime, announcesItselfAlsoWhenNothingCanBeWritten)
 {
     ASSERT_TRUE(QDir(configFolder()).mkdir("lumaroo"));
