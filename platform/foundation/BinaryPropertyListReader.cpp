@@ -110,7 +110,8 @@ void BinaryPropertyListReader::readDictionary(Object &object, qint64 offset, int
         const qint64 keyReference = references.offset + i * referenceSize_;
         const QVariant key = member(object, keyReference, depth).value;
         require(key.typeId() == QMetaType::QString, "a key is no text", keyReference);
-        map.insert(key.toString(), member(object, keyReference + references.count * referenceSize_, depth).value);
+        const QVariant &value = member(object, keyReference + references.count * referenceSize_, depth).value;
+        map.insert(map.cend(), key.toString(), value); // most writers sort the keys, ours does
     }
     object.value = map;
 }
