@@ -10,20 +10,20 @@
 
 namespace {
 
-void printLine(const QString &line)
+void printLine(const char *format, qint64 number = 0)
 {
-    std::fprintf(stdout, "%s\n", qPrintable(line));
+    std::printf(format, qlonglong(number));
     std::fflush(stdout);
 }
 
 /// Says what happens, for people and tests.
 void printEvents(const Agent &agent)
 {
-    QObject::connect(&agent, &Agent::settingsRead, &agent,
-        [&agent] { printLine(QStringLiteral("settings read (%1)").arg(agent.readings())); });
-    QObject::connect(&agent, &Agent::launched, &agent,
-        [&agent] { printLine(QStringLiteral("launched (version %1)").arg(agent.version())); });
-    QObject::connect(&agent, &Agent::terminating, &agent, [] { printLine(QStringLiteral("terminating")); });
+    QObject::connect(
+        &agent, &Agent::settingsRead, &agent, [&agent] { printLine("settings read (%lld)\n", agent.readings()); });
+    QObject::connect(
+        &agent, &Agent::launched, &agent, [&agent] { printLine("launched (version %lld)\n", agent.version()); });
+    QObject::connect(&agent, &Agent::terminating, &agent, [] { printLine("terminating\n"); });
 }
 
 /// False when another runs already.

@@ -6,6 +6,7 @@
 #include "platform/foundation/CFPreferences.h"
 #include "platform/foundation/NSNumber.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -16,12 +17,14 @@ QVariant asBoolean(const QVariant &value)
     return CFGetTypeID(value) == CFTypeID::Boolean ? value : QVariant();
 }
 
+/// A real counts by its whole part, as it does for the pane.
 QVariant asModifierMask(const QVariant &value)
 {
-    const bool isInteger = value.typeId() == QMetaType::LongLong;
-    const qlonglong number = isInteger ? value.toLongLong() : std::numeric_limits<qlonglong>::max();
-    const bool fits = number >= std::numeric_limits<qint32>::min() && number <= std::numeric_limits<qint32>::max();
-    return fits ? QVariant(number & KTXAllModifiers) : QVariant();
+    constexpr double least = std::numeric_limits<qint32>::min();
+    constexpr double most = std::numeric_limits<qint32>::max();
+    const bool isNumber = CFGetTypeID(value) == CFTypeID::Number;
+    const double number = isNumber ? value.toDouble() : std::numeric_limits<double>::quiet_NaN();
+    return number > least - 1 && number < most + 1 ? QVariant(qlonglong(number) & KTXAllModifiers) : QVariant();
 }
 
 QVariant asFloat(const QVariant &value)
@@ -116,6 +119,15 @@ QList<AgentSetting> allSettings()
     return beforeTheKeys + actionKeySettings() + afterTheKeys;
 }
 
+/// In the order of a dictionary, which is then filled at its end without a search.
+QList<AgentSetting> sortedSettings()
+{
+    QList<AgentSetting> settings = agentSettings();
+    std::sort(
+        settings.begin(), settings.end(), [](const auto &left, const auto &right) { return left.key < right.key; });
+    return settings;
+}
+
 } // namespace
 
 const QList<AgentSetting> &agentSettings()
@@ -126,10 +138,12 @@ const QList<AgentSetting> &agentSettings()
 
 QVariantMap effectiveSettings(const QVariantMap &stored)
 {
+    static const QList<AgentSetting> settings = sortedSettings();
     QVariantMap effective;
-    for (const AgentSetting &setting : agentSettings()) {
-        const QVariant value = accepted(setting.type, stored.value(setting.key));
-        effective.insert(setting.key, value.isValid() ? value : setting.defaultValue);
+    for (const AgentSetting &setting : settings) {
+        const auto found = stored.constFind(setting.key);
+        const QVariant value = found == stored.cend() ? QVariant() : accepted(setting.type, *found);
+        effective.insert(effective.cend(), setting.key, value.isValid() ? value : setting.defaultValue);
     }
     return effective;
 }

@@ -15,10 +15,10 @@ constexpr int longestEnd = 10000;
 
 AgentAnswer failure(const QDBusError &error)
 {
-    if (error.type() == QDBusError::ServiceUnknown)
-        return {AgentAnswer::Outcome::NotRunning, {}};
     if (error.type() == QDBusError::NoReply || error.type() == QDBusError::Timeout)
         return {AgentAnswer::Outcome::Failed, QStringLiteral("the running agent does not answer")};
+    if (meansNoOwner(error))
+        return {AgentAnswer::Outcome::NotRunning, {}};
     return {AgentAnswer::Outcome::Failed, error.message()};
 }
 
