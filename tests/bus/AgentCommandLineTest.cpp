@@ -1,0 +1,240 @@
+// The agent's program as people and scripts use it.
+
+#include "AgentSession.h"
+#include "KTXConstants.h"
+#include "Wait.h"
+#include "agent/AgentArguments.h"
+#include "agent/AgentSettings.h"
+#include "platform/foundation/NSBundle.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDateTime>
+#include <QDir>
+#include <QTimeZone>
+#include <QXmlStreamReader>
+#include <csignal>
+
+namespace {
+
+class TheCommandLine : public AgentSessionAfterFirstLaunch
+{
+protected:
+    void expectStored(const QStringList &arguments, const QVariant &value)
+    {
+        const ProgramResult result = runAgent(QStringList{"--set", "key"} + arguments);
+        EXPECT_EQ(result.status, 0) << result.errors;
+        EXPECT_EQ(result.output + result.errors, "");
+        EXPECT_EQ(stored().value("key"), value);
+        EXPECT_EQ(stored().value("key").typeId(), value.typeId());
+    }
+};
+
+/// Each method of an interface with its arguments and their types, in order.
+QStringList methodsOf(const QByteArray &description, const QString &interface)
+{
+    QStringList methods;
+    QXmlStreamReader reader(description);
+    bool isInside = false;
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        const auto attribute = [&reader](const char *name) {
+            return reader.attributes().value(QLatin1String(name)).toString();
+        };
+        if (reader.name() == u"interface")
+            isInside = attribute("name") == interface;
+        else if (isInside && reader.name() == u"method")
+            methods += attribute("name");
+        else if (isInside && reader.name() == u"arg")
+            methods.last() += " " + attribute("direction") + " " + attribute("type");
+    }
+    EXPECT_FALSE(reader.hasError());
+    return methods;
+}
+
+} // namespace
+
+TEST_F(TheCommandLine, printsWhatTheRunningAgentHasRead)
+{
+    store({{KTXFirstLaunch, true}, {KTXOverlayColor, QByteArray("\x01\x02\x03")}, {KTXRepeatRate, 0.5F},
+        {KTXLeftPref, QVariantMap{{KTXKeycode, "0"}}}});
+    AgentProgram agent;
+    ASSERT_TRUE(agent.waitForLaunch());
+    const QJsonObject shown = runningAgent();
+    EXPECT_EQ(shown.value("version").toInt(), builtVersion());
+    EXPECT_EQ(shown.value("readings").toInt(), 1);
+    EXPECT_EQ(shown.value("settings").toObject().size(), agentSettings().size());
+    EXPECT_EQ(runningAgentsSetting(KTXOverlayColor), QJsonValue("AQID"));
+    EXPECT_EQ(runningAgentsSetting(KTXRepeatRate), QJsonValue(0.5));
+    EXPECT_EQ(runningAgentsSetting(KTXLeftPref), QJsonValue(QJsonObject{{"keycode", "0"}}));
+}
+
+TEST_F(TheCommandLine, hasNothingToPrintWhereNoAgentRuns)
+{
+    const ProgramResult result = runAgent({"--print-settings"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.errors, "LumarooAgent: no agent runs\n");
+}
+
+TEST_F(TheCommandLine, doesNotWaitWithoutEndForAnAgentThatDoesNotAnswer)
+{
+    AgentProgram agent;
+    ASSERT_TRUE(agent.waitForLaunch());
+    agent.signal(SIGSTOP);
+    const ProgramResult result = runAgent({"--print-settings"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, "LumarooAgent: the running agent does not answer\n");
+}
+
+TEST_F(TheCommandLine, setsValuesOfEachType)
+{
+    expectStored({"text"}, "text");
+    expectStored({"-string", "-5"}, "-5");
+    expectStored({"-bool", "YES"}, true);
+    expectStored({"-int", "-7"}, qlonglong(-7));
+    expectStored({"-float", "0.1"}, 0.1F);
+    expectStored({"-date", "2001-02-03T04:05:06Z"}, QDateTime({2001, 2, 3}, {4, 5, 6}, QTimeZone::utc()));
+    expectStored({"-data", "00ff"}, QByteArray("\x00\xff", 2));
+    expectStored({"-dict", "keycode", "126"}, QVariantMap({{"keycode", "126"}}));
+    EXPECT_TRUE(stored().contains(KTXFirstLaunch));
+}
+
+TEST_F(TheCommandLine, announcesAChangeOnTheAgentsSide)
+{
+    EXPECT_EQ(runAgent({"--set", KTXHWrap, "-bool", "false"}).status, 0);
+    EXPECT_EQ(stored().value(KTXHWrap), false);
+    EXPECT_EQ(recorder.notifications(), QList({changedByAgent()}));
+}
+
+TEST_F(TheCommandLine, hasTheRunningAgentReadAChangeBeforeItIsAnnounced)
+{
+    AgentProgram agent;
+    ASSERT_TRUE(agent.waitForLaunch());
+    recorder.clear();
+    EXPECT_EQ(runAgent({"--set", KTXHSort, "Center"}).status, 0);
+    EXPECT_EQ(runningAgentsSetting(KTXHSort).toString(), "Center");
+    EXPECT_EQ(runningAgent().value("readings").toInt(), 2);
+    EXPECT_EQ(recorder.notifications(), QList({changedByAgent()}));
+}
+
+TEST_F(TheCommandLine, saysThatAChangeCouldNotBeStoredAndAnnouncesNothing)
+{
+    const QString folder = configFolder() + "/lumaroo";
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner);
+    const ProgramResult result = runAgent({"--set", KTXHWrap, "-bool", "false"});
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(result.errors.find("LumarooAgent: the settings of com.quorvane.Lumaroo could not be changed\n"),
+        std::string::npos)
+        << result.errors;
+    EXPECT_FALSE(stored().contains(KTXHWrap));
+    EXPECT_TRUE(recorder.notifications().isEmpty());
+}
+
+TEST_F(TheCommandLine, storesWithoutASessionBusAndSaysThatNobodyHeard)
+{
+    const QByteArray address = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere/bus");
+    const ProgramResult set = runAgent({"--set", KTXHWrap, "-bool", "false"});
+    const ProgramResult print = runAgent({"--print-settings"});
+    const ProgramResult quit = runAgent({"--quit"});
+    qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+    EXPECT_EQ(set.status, 1);
+    EXPECT_EQ(set.errors, "LumarooAgent: the change is stored, but there is no session bus\n");
+    EXPECT_EQ(stored().value(KTXHWrap), false);
+    EXPECT_EQ(print.status, 1);
+    EXPECT_EQ(print.errors, "LumarooAgent: there is no session bus\n");
+    EXPECT_EQ(quit.status, 1);
+    EXPECT_EQ(quit.errors, "LumarooAgent: there is no session bus\n");
+}
+
+TEST_F(TheCommandLine, switchesStartingAtLoginOnAndOff)
+{
+    const QString entry = configFolder() + "/autostart/com.quorvane.LumarooAgent.desktop";
+    EXPECT_EQ(runAgent({"--start-at-login", "on"}).status, 0);
+    QFile file(entry);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().contains("\nTryExec=" + QFile::encodeName(AgentProgram::builtExecutable()) + '\n'));
+    EXPECT_EQ(runAgent({"--start-at-login", "off"}).status, 0);
+    EXPECT_FALSE(QFile::exists(entry));
+    EXPECT_EQ(stored().keys(), QStringList(KTXFirstLaunch));
+    EXPECT_TRUE(recorder.notifications().isEmpty());
+}
+
+TEST_F(TheCommandLine, doesNotStartAtLoginUnlessTold)
+{
+    AgentProgram agent;
+    ASSERT_TRUE(agent.waitForLaunch());
+    EXPECT_FALSE(QFile::exists(configFolder() + "/autostart"));
+}
+
+TEST_F(TheCommandLine, saysThatTheEntryForLoginCouldNotBeWritten)
+{
+    QFile file(configFolder() + "/autostart");
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    const ProgramResult result = runAgent({"--start-at-login", "on"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, "LumarooAgent: cannot make the folder " + configFolder().toStdString() + "/autostart\n");
+}
+
+TEST_F(TheCommandLine, explainsItselfWhereItMakesNoSense)
+{
+    for (const QStringList &arguments : QList<QStringList>{{"--bogus"}, {"bogus"}, {"-foreground"}, {"--set"},
+             {"--set", "key"}, {"--set", "--quit"}, {"--set", "key", "-bool"}, {"--set", "key", "-bool", "maybe"},
+             {"--set", "key", "-5"}, {"--set", "key", "a", "b"}, {"--start-at-login"}, {"--start-at-login", "perhaps"},
+             {"--quit", "--print-settings"}, {"--foreground", "now"}, {""}}) {
+        const ProgramResult result = runAgent(arguments);
+        EXPECT_EQ(result.status, 2) << arguments.join(' ').toStdString();
+        EXPECT_EQ(result.output, "");
+        EXPECT_TRUE(result.errors.starts_with("LumarooAgent: "));
+        EXPECT_NE(result.errors.find("usage: LumarooAgent"), std::string::npos);
+    }
+    EXPECT_EQ(stored().keys(), QStringList(KTXFirstLaunch));
+    EXPECT_TRUE(recorder.notifications().isEmpty());
+}
+
+TEST_F(TheCommandLine, helpsAndTellsItsVersionOnStandardOutput)
+{
+    for (const QString &option : QStringList{"--help", "-h"}) {
+        const ProgramResult help = runAgent({option});
+        EXPECT_EQ(help.status, 0);
+        EXPECT_EQ(help.output, AgentHelp);
+        EXPECT_EQ(help.errors, "");
+    }
+    const ProgramResult version = runAgent({"--version"});
+    EXPECT_EQ(version.status, 0);
+    const QString shortVersion =
+        NSBundle::infoDictionaryOnDisk(AgentProgram::builtBundle()).value("CFBundleShortVersionString").toString();
+    EXPECT_EQ(version.output, "LumarooAgent " + shortVersion.toStdString() + "\n");
+}
+
+TEST_F(TheCommandLine, saysInTheForegroundWhatHappensAndOtherwiseNothing)
+{
+    for (const bool foreground : {true, false}) {
+        recorder.clear();
+        AgentProgram agent(foreground ? QStringList("--foreground") : QStringList());
+        EXPECT_TRUE(announces({launched()}));
+        paneAnnounces(KTXLMPrefsChanged);
+        paneAnnounces(KTXLMAgentShouldTerminate);
+        EXPECT_EQ(agent.exitStatus(), 0);
+        const QStringList all{"settings read (1)", QString("launched (version %1)").arg(builtVersion()),
+            "settings read (2)", "terminating"};
+        EXPECT_EQ(agent.lines(), foreground ? all : QStringList());
+        EXPECT_EQ(agent.errors(), "");
+    }
+}
+
+TEST_F(TheCommandLine, findsTheAgentThroughTheCheckedInInterface)
+{
+    AgentProgram agent;
+    ASSERT_TRUE(agent.waitForLaunch());
+    const QDBusMessage answer = QDBusConnection::sessionBus().call(QDBusMessage::createMethodCall(
+        KTXLMAgentID, "/com/quorvane/LumarooAgent", "org.freedesktop.DBus.Introspectable", "Introspect"));
+    QFile file(qEnvironmentVariable("LUMAROO_SOURCE") + "/agent/com.quorvane.LumarooAgent.xml");
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QStringList described = methodsOf(file.readAll(), KTXLMAgentID);
+    EXPECT_EQ(described, QStringList({"Version out i", "Settings out s", "ReadSettings", "Quit"}));
+    EXPECT_EQ(methodsOf(answer.arguments().value(0).toString().toUtf8(), KTXLMAgentID), described);
+}

@@ -1,0 +1,122 @@
+// How the agent ends: asked by the pane, by its command line, by signals, or because the session does.
+
+#include "AgentSession.h"
+#include "KTXConstants.h"
+#include "Wait.h"
+
+#include <QDBusConnectionInterface>
+#include <csignal>
+#include <list>
+#include <optional>
+
+namespace {
+
+class RunningAgent : public AgentSessionAfterFirstLaunch
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(agent.waitForLaunch());
+        recorder.clear();
+    }
+
+    AgentProgram agent;
+};
+
+bool nameIsOwned()
+{
+    return QDBusConnection::sessionBus().interface()->isServiceRegistered(KTXLMAgentID);
+}
+
+BusNotification shouldTerminate()
+{
+    return {KTXLMAgentShouldTerminate, KTXLMAppID, {}, true};
+}
+
+} // namespace
+
+TEST_F(RunningAgent, quitsWhenThePaneAsksAndSaysSoFirst)
+{
+    paneAnnounces(KTXLMAgentShouldTerminate);
+    EXPECT_EQ(agent.exitStatus(), 0);
+    EXPECT_EQ(recorder.notifications(), QList({shouldTerminate(), terminating()}));
+    EXPECT_FALSE(nameIsOwned());
+}
+
+TEST_F(RunningAgent, announcesItsEndOnceHoweverOftenItIsAsked)
+{
+    agent.signal(SIGSTOP);
+    for (int time = 0; time < 3; ++time)
+        paneAnnounces(KTXLMAgentShouldTerminate);
+    agent.signal(SIGTERM);
+    agent.signal(SIGCONT);
+    EXPECT_EQ(agent.exitStatus(), 0);
+    EXPECT_EQ(recorder.names().count(KTXLMAgentIsTerminating), 1);
+}
+
+TEST_F(RunningAgent, announcesItsEndWhenASignalEndsIt)
+{
+    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
+        AgentProgram *current = &agent;
+        std::optional<AgentProgram> another;
+        if (!agent.isRunning()) {
+            another.emplace();
+            ASSERT_TRUE(another->waitForLaunch());
+            current = &*another;
+        }
+        recorder.clear();
+        current->signal(number);
+        EXPECT_EQ(current->exitStatus(), 0);
+        EXPECT_EQ(recorder.notifications(), QList({terminating()})) << number;
+    }
+}
+
+TEST_F(RunningAgent, goesOnWhenAStrangerTellsItToQuit)
+{
+    recorder.post(KTXLMAgentShouldTerminate, "com.example.stranger");
+    recorder.post(KTXLMAgentShouldTerminate, {});
+    recorder.post(KTXLMAgentShouldTerminate, KTXLMAgentID);
+    paneAnnounces(KTXLMPrefsChanged);
+    EXPECT_TRUE(agent.waitForLine("settings read (2)"));
+    EXPECT_TRUE(agent.isRunning());
+    EXPECT_FALSE(recorder.names().contains(KTXLMAgentIsTerminating));
+}
+
+TEST_F(RunningAgent, quitsOnItsCommandLineWhichWaitsForTheEnd)
+{
+    const ProgramResult result = runAgent({"--quit"});
+    EXPECT_FALSE(nameIsOwned());
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output + result.errors, "");
+    EXPECT_EQ(agent.exitStatus(), 0);
+    EXPECT_EQ(recorder.notifications(), QList({terminating()}));
+    EXPECT_EQ(agent.lines().last(), "terminating");
+}
+
+TEST_F(RunningAgent, canBeStartedAgainRightAfterItWasAskedToQuit)
+{
+    std::list<AgentProgram> next;
+    for (int time = 0; time < 10; ++time) {
+        recorder.clear();
+        paneAnnounces(KTXLMAgentShouldTerminate);
+        ASSERT_TRUE(waitUntil([this] { return recorder.names().contains(KTXLMAgentIsTerminating); }));
+        next.emplace_back();
+        ASSERT_TRUE(next.back().waitForLaunch()) << next.back().errors().toStdString();
+    }
+}
+
+TEST_F(AgentSessionAfterFirstLaunch, askingNobodyToQuitIsDoneAndSaidSo)
+{
+    const ProgramResult result = runAgent({"--quit"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errors, "LumarooAgent: no agent runs\n");
+}
+
+TEST_F(RunningAgent, thatDoesNotAnswerIsNotWaitedForWithoutEnd)
+{
+    agent.signal(SIGSTOP);
+    const ProgramResult result = runAgent({"--quit"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, "LumarooAgent: the running agent does not answer\n");
+    agent.signal(SIGCONT);
+}
