@@ -1,6 +1,7 @@
 #include "agent/linux/RunningAgent.h"
 
 #include "agent/linux/AgentBus.h"
+#include "platform/foundation/linux/SessionBus.h"
 
 #include <QDBusConnection>
 #include <QDBusError>
@@ -30,8 +31,12 @@ AgentAnswer askRunningAgent(const QString &method)
     if (!bus.isConnected())
         return {AgentAnswer::Outcome::Failed, QStringLiteral("there is no session bus")};
     const QDBusMessage answer = bus.call(agentCall(method), QDBus::Block, longestAnswer);
-    if (answer.type() != QDBusMessage::ReplyMessage)
+    if (answer.type() != QDBusMessage::ReplyMessage) {
+        // The bus library's thread still has to do with a call that was not answered; a program must not exit
+        // meanwhile.
+        waitForSessionBus();
         return failure(QDBusError(answer));
+    }
     return {AgentAnswer::Outcome::Answered, answer.arguments().value(0).toString()};
 }
 
