@@ -2,6 +2,7 @@
 
 #include "platform/foundation/linux/SystemCalls.h"
 
+#include <QList>
 #include <array>
 #include <charconv>
 #include <climits>
