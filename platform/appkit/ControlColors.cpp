@@ -5,9 +5,11 @@
 #include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QPalette>
 #include <QWidget>
+#include <algorithm>
 
 namespace {
 
@@ -32,6 +34,16 @@ ColorRoles rolesOf(const QWidget *control)
     return {QPalette::WindowText, QPalette::Window};
 }
 
+/// The background of the control's kind here, whatever the control itself was given.
+QColor ownBackground(const QObject *control)
+{
+    const auto *widget = qobject_cast<const QWidget *>(control);
+    if (!widget)
+        return Qt::white;
+    const QWidget *parent = widget->parentWidget();
+    return (parent ? parent->palette() : QGuiApplication::palette()).color(rolesOf(widget).background);
+}
+
 void setColors(QObject *control, const QColor &text, const QColor &background)
 {
     auto *widget = qobject_cast<QWidget *>(control);
@@ -50,10 +62,11 @@ void setColors(QObject *control, const QColor &text, const QColor &background)
 
 void setTextColor(QObject *control, const QColor &color)
 {
-    // Paper white goes with every colour that is not too light for it: 3 is the least contrast for a line of large
-    // text.
-    const bool readsOnWhite = contrastRatio(color, Qt::white) >= 3;
-    setColors(control, color, readsOnWhite ? Qt::white : Qt::black);
+    // Its own background where the colour reads on that, else paper: 3 is the least contrast for a line of large text.
+    const QList<QColor> backgrounds{ownBackground(control), Qt::white, Qt::black};
+    const auto readable = [&color](const QColor &background) { return contrastRatio(color, background) >= 3; };
+    const auto background = std::find_if(backgrounds.cbegin(), backgrounds.cend(), readable);
+    setColors(control, color, background == backgrounds.cend() ? QColor(Qt::black) : *background);
 }
 
 void setBackgroundColor(QObject *control, const QColor &color)

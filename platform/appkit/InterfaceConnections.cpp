@@ -4,6 +4,7 @@
 #include "platform/appkit/NSColorWell.h"
 #include "platform/appkit/NSMatrix.h"
 #include "platform/appkit/NSTabViewDelegate.h"
+#include "platform/appkit/PageTurning.h"
 #include "platform/foundation/Boundary.h"
 #include "platform/foundation/NSLog.h"
 
@@ -140,6 +141,7 @@ void InterfaceConnections::connectDelegate(QObject *object, const QString &deleg
 
 void InterfaceConnections::connectTabView(QTabWidget *tabView)
 {
+    addPageTurningKeys(tabView);
     NSTabViewDelegate *delegate = owner_.tabViewDelegate;
     if (!delegate)
         return log(tabView, QStringLiteral("%1 is no delegate of a tab view").arg(owner_.className));

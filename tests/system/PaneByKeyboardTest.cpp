@@ -73,6 +73,18 @@ TEST_F(PaneByKeyboard, turnsEveryPageAndEachLooksDifferent)
     }
 }
 
+TEST_F(PaneByKeyboard, turnsThePagesFromWhateverControlHasTheFocus)
+{
+    SettingsProgram settings;
+    ASSERT_TRUE(settings.waitForWindows(1));
+    for (int page = 0; page < pageCount; ++page) {
+        pressKey(KEY_TAB); // into the page
+        const QImage shown = settings.settledPicture();
+        pressKey(KEY_TAB, {KEY_LEFTCTRL});
+        ASSERT_FALSE(settings.pictureAfterChangeFrom(shown).isNull()) << "page " << page;
+    }
+}
+
 TEST_F(PaneByKeyboard, anOutsideChangeShowsAtOnce)
 {
     SettingsProgram settings;

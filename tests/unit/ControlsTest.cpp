@@ -175,13 +175,19 @@ TEST(Controls, aNamedColourBringsAnotherThatItReadsOn)
     setBackgroundColor(&field, QColor(20, 40, 80));
     EXPECT_EQ(field.palette().color(QPalette::Text), QColor(Qt::white));
 
-    QLabel label;
+    const QColor lightWindow(240, 240, 240), darkWindow(80, 80, 80);
+    QWidget window;
+    QLabel label(&window);
+    window.setPalette(lightWindow);
     setTextColor(&label, Qt::red);
     EXPECT_EQ(label.palette().color(QPalette::WindowText), QColor(Qt::red));
-    EXPECT_EQ(label.palette().color(QPalette::Window), QColor(Qt::white));
+    EXPECT_EQ(label.palette().color(QPalette::Window), lightWindow) << "it reads there";
     EXPECT_TRUE(label.autoFillBackground());
     setTextColor(&label, Qt::yellow);
     EXPECT_EQ(label.palette().color(QPalette::Window), QColor(Qt::black));
+    window.setPalette(darkWindow);
+    setTextColor(&label, Qt::red);
+    EXPECT_EQ(label.palette().color(QPalette::Window), QColor(Qt::white));
 }
 
 TEST(Controls, namedColoursOutlastAChangeOfThemeAndTheOthersFollowIt)

@@ -3,6 +3,8 @@
 #include "platform/appkit/Controls.h"
 #include "platform/foundation/NSException.h"
 
+#include <QApplication>
+#include <QComboBox>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -45,6 +47,30 @@ TEST_F(TabView, thePageTheUserTurnsToReachesTheDelegate)
     EXPECT_EQ(interface.sent, QStringList("selected first"));
     QTest::keyClick(bar, Qt::Key_Right);
     EXPECT_EQ(interface.sent, QStringList({"selected first", "selected second"}));
+}
+
+TEST_F(TabView, keysTurnThePagesRoundAndRoundFromAnyControl)
+{
+    interface.load(tabView());
+    auto *tabs = interface.find<QTabWidget>("tabs");
+    QList<QComboBox *> popUps;
+    for (int page = 0; page < tabs->count(); ++page)
+        popUps += new QComboBox(tabs->widget(page));
+    interface.root->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(interface.root));
+    const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers) {
+        popUps[tabs->currentIndex()]->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+        return tabs->currentIndex();
+    };
+    EXPECT_EQ(press(Qt::Key_Tab, Qt::ControlModifier), 2);
+    EXPECT_EQ(press(Qt::Key_Tab, Qt::ControlModifier), 0);
+    EXPECT_EQ(press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier), 2);
+    EXPECT_EQ(press(Qt::Key_PageUp, Qt::ControlModifier), 1);
+    EXPECT_EQ(press(Qt::Key_PageDown, Qt::ControlModifier), 2);
+    tabs->setTabEnabled(0, false);
+    EXPECT_EQ(press(Qt::Key_Tab, Qt::ControlModifier), 1) << "a disabled page is passed over";
+    EXPECT_EQ(interface.sent.size(), 6);
 }
 
 TEST_F(TabView, thePageThatCodeSelectsReachesTheDelegate)

@@ -2,6 +2,7 @@
 // Usage: walk BUILD-FOLDER SCREENSHOT-FOLDER [ARGUMENT...], inside a session with a bus, a display and a window
 // manager. The arguments are the settings' own: --theme dark, -reverse.
 
+#include "AgentProgram.h"
 #include "KeyPress.h"
 #include "SettingsProgram.h"
 #include "Wait.h"
@@ -66,6 +67,19 @@ void turnEveryPage(SettingsProgram &settings, const QString &folder)
     say(QStringLiteral("- turned every page"));
 }
 
+void turnTheAgentOffAndOn(SettingsProgram &settings, const QString &folder)
+{
+    const auto pressSwitch = [] { pressKey(KEY_L, {KEY_LEFTALT}); };
+    require(waitUntil([] { return !runningAgent().isEmpty(); }), QStringLiteral("the first opening started the agent"));
+    const QImage whileOn = settings.settledPicture();
+    pressSwitch();
+    require(waitUntil([] { return runningAgent().isEmpty(); }), QStringLiteral("the switch turned the agent off"));
+    save(settings.pictureAfterChangeFrom(whileOn), folder, QStringLiteral("agent-off"));
+    pressSwitch();
+    require(
+        waitUntil([] { return !runningAgent().isEmpty(); }), QStringLiteral("the switch turned the agent on again"));
+}
+
 void letAnOutsideChangeArrive(SettingsProgram &settings, const QString &folder)
 {
     for (int page = int(pages.size()) - 1; page > behaviourPage; --page)
@@ -75,6 +89,8 @@ void letAnOutsideChangeArrive(SettingsProgram &settings, const QString &folder)
         QStringLiteral("-bool"), QStringLiteral("false")});
     save(settings.pictureAfterChangeFrom(before), folder, QStringLiteral("outside-change"));
     say(QStringLiteral("- a change made outside (EnableHorizontalWrap off) arrived and shows"));
+    require(waitUntil([] { return runningAgentsSetting(QStringLiteral("EnableHorizontalWrap")) == QJsonValue(false); }),
+        QStringLiteral("the pane passed it on: the agent has read EnableHorizontalWrap as false"));
 }
 
 void walk(const QString &folder, const QStringList &arguments)
@@ -82,11 +98,13 @@ void walk(const QString &folder, const QStringList &arguments)
     QDir().mkpath(folder);
     SettingsProgram settings(arguments + QStringList{SettingsProgram::builtPane()});
     require(settings.waitForWindows(1), QStringLiteral("the settings open with the Lumaroo pane"));
+    turnTheAgentOffAndOn(settings, folder);
     turnEveryPage(settings, folder);
     say(QStringLiteral("- what is stored now:\n") + runDefaults({QStringLiteral("read")}));
     letAnOutsideChangeArrive(settings, folder);
     pressKey(KEY_Q, {KEY_LEFTCTRL});
     require(settings.exitStatus() == 0, QStringLiteral("the settings quit"));
+    require(runAgent({QStringLiteral("--quit")}).status == 0, QStringLiteral("the agent was still there, and quits"));
 }
 
 } // namespace
