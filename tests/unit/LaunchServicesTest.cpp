@@ -19,7 +19,7 @@ report=${0%/*}/report
 {
     echo "process $$"
     cat /proc/$$/stat
-    grep -E '^Sig(Blk|Ign)' /proc/$$/status
+    grep -E '^Sig(Blk|Ign)' /proc/self/status
     readlink /proc/$$/cwd
     ls -l /proc/$$/fd
 } >"$report.new"
