@@ -30,7 +30,17 @@ protected:
         return content.mid(content.indexOf("VmRSS:") + 6).trimmed().split(' ').first().toLongLong();
     }
 
-    AgentProgram agent;
+    AgentProgram agent{{"--foreground"}, AgentProgram::builtExecutable(), withoutQuarantine()};
+
+private:
+    /// The address sanitizer keeps what is freed, which would look like growth.
+    static QProcessEnvironment withoutQuarantine()
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        const QString options = environment.value("ASAN_OPTIONS");
+        environment.insert("ASAN_OPTIONS", options + ":quarantine_size_mb=0:thread_local_quarantine_size_kb=0");
+        return environment;
+    }
 };
 
 QDBusMessage signalWith(const QVariantList &arguments)
@@ -189,5 +199,5 @@ TEST_F(RunningAgent, doesNotGrowOverAThousandReadings)
     const qint64 before = residentKibibytes();
     readOften(1200);
     EXPECT_EQ(runningAgentsSetting(KTXInitialDelay).toDouble(), 1200);
-    EXPECT_LE(residentKibibytes(), before + 512);
+    EXPECT_LE(residentKibibytes(), before + 2048); // a copy of the colour alone would be 5000 at each
 }
