@@ -5,6 +5,7 @@
 #include "KTXConstants.h"
 #include "Wait.h"
 
+#include <QDBusConnectionInterface>
 #include <QDir>
 
 namespace {
@@ -124,8 +125,8 @@ TEST_F(AgentWhoseBundleChanges, staysWhenWhatIsNewerIsAnotherProgram)
 
 TEST_F(AgentWhoseBundleChanges, staysWhenTheNewerOneHasNoProgramInItsBundle)
 {
-    for (const QVariant &name : {QVariant(), QVariant(""), QVariant("Missing"), QVariant("../../../../../bin/true"),
-             QVariant("."), QVariant(true)}) {
+    for (const QVariant &name : {QVariant(), QVariant(""), QVariant("Missing"),
+             QVariant(QString("../").repeated(30) + "bin/true"), QVariant("."), QVariant(true)}) {
         QVariantMap info = AgentBundle::builtInfo();
         info.insert("CFBundleVersion", "130");
         info.remove("CFBundleExecutable");
@@ -154,6 +155,19 @@ TEST_F(AgentWhoseBundleChanges, goesOnAndSaysSoWhenTheNewerProgramDoesNotStart)
     recorder.clear();
     paneAnnounces(KTXLMAgentShouldTerminate);
     EXPECT_EQ(agent.exitStatus(), 0);
+}
+
+TEST_F(AgentWhoseBundleChanges, endsWhenAnotherTookItsPlaceBeforeTheNewerProgramFailed)
+{
+    QDBusConnection waiting = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "waiting");
+    waiting.interface()->registerService(KTXLMAgentID, QDBusConnectionInterface::QueueService);
+    bundle.replaceExecutable("no program at all");
+    bundle.setVersion("130");
+    paneAnnounces(KTXLMPrefPaneLaunched);
+    EXPECT_EQ(agent.exitStatus(), 0);
+    EXPECT_EQ(recorder.names(), QStringList({KTXLMPrefPaneLaunched, KTXLMAgentIsTerminating}));
+    waiting.unregisterService(KTXLMAgentID);
+    QDBusConnection::disconnectFromBus("waiting");
 }
 
 TEST_F(AgentWhoseBundleChanges, staysTheOnlyOneWhenItsFolderIsExchangedForAnother)
