@@ -22,7 +22,8 @@ LM_FOUNDATION int CFPreferencesGetAppIntegerValue(
     const QString &key, const QString &applicationID, bool *keyExistsAndHasValidFormat = nullptr);
 
 /// Sets a key; no value removes it. Pending, and seen by this process's reads at once, until
-/// CFPreferencesAppSynchronize.
+/// CFPreferencesAppSynchronize. What is set after a reading of a file that could not be read (no permission, a failing
+/// disk) is stored only where the file turns out not to hold the key; a line tells which keys stayed as they were.
 LM_FOUNDATION void CFPreferencesSetAppValue(const QString &key, const QVariant &value, const QString &applicationID);
 
 /// Flushes this process's pending writes of a domain and picks up what others wrote.

@@ -80,7 +80,8 @@ PreferencesDomain::PreferencesDomain(const QByteArray &path) : file_(path) { }
 
 QVariant PreferencesDomain::value(const QString &key)
 {
-    if (const auto pending = pending_.constFind(key); pending != pending_.constEnd())
+    const auto pending = pending_.constFind(key);
+    if (pending != pending_.constEnd() && !(blind_.contains(key) && givesWayTo(file_.values(), key)))
         return *pending;
     return replacement_ ? replacement_->value(key) : file_.values().value(key);
 }
@@ -98,7 +99,29 @@ void PreferencesDomain::setValue(const QString &key, const QVariant &value)
             "lumaroo: settings: the value for \"%1\" is no property-list value (%2); the key keeps what it has")
                   .arg(key, QString::fromLatin1(value.typeName())));
     else
-        pending_.insert(key, converted);
+        addPending(key, converted);
+}
+
+void PreferencesDomain::addPending(const QString &key, const QVariant &value)
+{
+    pending_.insert(key, value);
+    if (file_.wasReadable())
+        blind_.remove(key);
+    else
+        blind_.insert(key);
+}
+
+bool PreferencesDomain::givesWayTo(const QVariantMap &stored, const QString &key) const
+{
+    return !replacement_ && blind_.contains(key) && stored.contains(key);
+}
+
+QStringList PreferencesDomain::keysThatGiveWayTo(const QVariantMap &stored) const
+{
+    QStringList keys(blind_.begin(), blind_.end());
+    keys.removeIf([&](const QString &key) { return !givesWayTo(stored, key); });
+    keys.sort();
+    return keys;
 }
 
 bool PreferencesDomain::replace(const QVariantMap &values)
@@ -111,11 +134,13 @@ bool PreferencesDomain::replace(const QVariantMap &values)
     }
     const auto before = std::exchange(replacement_, converted.toMap());
     const QVariantMap pendingBefore = std::exchange(pending_, {});
+    const QSet<QString> blindBefore = std::exchange(blind_, {});
     if (flush())
         return true;
     if (!file_.isReadable()) {
         replacement_ = before;
         pending_ = pendingBefore;
+        blind_ = blindBefore;
         setWhatDiffers(converted.toMap());
     }
     return false;
@@ -126,20 +151,29 @@ void PreferencesDomain::setWhatDiffers(const QVariantMap &values)
     const QVariantMap seen = this->values();
     for (auto entry = seen.begin(); entry != seen.end(); ++entry) {
         if (!values.contains(entry.key()))
-            pending_.insert(entry.key(), QVariant());
+            addPending(entry.key(), QVariant());
     }
     for (auto entry = values.begin(); entry != values.end(); ++entry) {
         if (!seen.contains(entry.key()) || !isEqualPropertyList(seen.value(entry.key()), entry.value()))
-            pending_.insert(entry.key(), entry.value());
+            addPending(entry.key(), entry.value());
     }
 }
 
 bool PreferencesDomain::flush()
 {
-    if (!file_.update([this](const QVariantMap &stored) { return withPendingChanges(stored); }))
+    QStringList kept;
+    const auto change = [&](const QVariantMap &stored) {
+        kept = keysThatGiveWayTo(stored);
+        return withPendingChanges(stored);
+    };
+    if (!file_.update(change))
         return false;
+    if (!kept.isEmpty())
+        NSLog(QStringLiteral("lumaroo: settings: can be read again; what is stored stays for %1")
+                  .arg(kept.join(QStringLiteral(", "))));
     replacement_.reset();
     pending_.clear();
+    blind_.clear();
     return true;
 }
 
@@ -147,6 +181,8 @@ QVariantMap PreferencesDomain::withPendingChanges(const QVariantMap &stored) con
 {
     QVariantMap values = replacement_.value_or(stored);
     for (auto change = pending_.begin(); change != pending_.end(); ++change) {
+        if (givesWayTo(stored, change.key()))
+            continue;
         if (change.value().isValid())
             values.insert(change.key(), change.value());
         else

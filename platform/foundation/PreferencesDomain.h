@@ -2,6 +2,7 @@
 
 #include "platform/foundation/linux/SettingsFile.h"
 
+#include <QSet>
 #include <optional>
 
 /// One settings domain as this process sees it: the file, under this process's changes that are not flushed yet.
@@ -15,6 +16,8 @@ public:
     QVariantMap values();
 
     /// Pending until flush(); no value removes the key. What is no property-list value is logged and changes nothing.
+    /// What is set after a look at a file that could not be read fills in what the file turns out to lack, and changes
+    /// nothing that it holds: whoever set it saw nothing there.
     void setValue(const QString &key, const QVariant &value);
 
     /// Replaces everything at once; pending as a whole where that fails. While the file cannot be read, only what
@@ -29,8 +32,12 @@ private:
     static PreferencesDomain *find(const QString &name);
     QVariantMap withPendingChanges(const QVariantMap &stored) const;
     void setWhatDiffers(const QVariantMap &values);
+    void addPending(const QString &key, const QVariant &value);
+    bool givesWayTo(const QVariantMap &stored, const QString &key) const;
+    QStringList keysThatGiveWayTo(const QVariantMap &stored) const;
 
     SettingsFile file_;
     std::optional<QVariantMap> replacement_; ///< stands for the file's content
     QVariantMap pending_; ///< over both; no value means removal
+    QSet<QString> blind_; ///< the pending keys that were set after a look at a file that could not be read
 };

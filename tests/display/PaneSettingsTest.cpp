@@ -3,6 +3,7 @@
 
 #include "KTXConstants.h"
 #include "platform/foundation/NSArchiver.h"
+#include "platform/foundation/CFPreferences.h"
 #include "platform/foundation/PropertyList.h"
 
 #include <sys/stat.h>
@@ -129,6 +130,29 @@ TEST_F(PaneSettings, keysThePaneDoesNotKnowStayAsTheyAre)
     QVariantMap expected = factoryDomain();
     expected.insert(foreign);
     EXPECT_TRUE(isEqualPropertyList(store().domain(), expected));
+}
+
+TEST_F(PaneSettings, showingThePaneWhileTheFileCannotBeReadChangesNoneOfTheSettings)
+{
+    const QVariantMap chosen{{KTXFirstLaunch, true}, {KTXAnimate, true}, {KTXAutoRepeat, false}, {KTXRepeatRate, 0.5f},
+        {KTXInitialDelay, 0.25f}, {KTXHSort, QStringLiteral("Center")}, {KTXVSort, QStringLiteral("LeadingEdge")},
+        {KTXHWrap, false}, {KTXVWrap, false}, {KTXModifierMask, qlonglong(0x200)},
+        {KTXOverlayColor, QByteArray("mine")}};
+    store().set(chosen);
+    ASSERT_TRUE(QFile::setPermissions(StoreOnDisk::path(), QFile::Permissions()));
+    {
+        const CapturedLog log;
+        showPane();
+        EXPECT_EQ(log.linesContaining(QStringLiteral("cannot be read")).size(), 1);
+    }
+    ASSERT_TRUE(QFile::setPermissions(StoreOnDisk::path(), QFile::ReadOwner | QFile::WriteOwner));
+    const CapturedLog log;
+    EXPECT_TRUE(CFPreferencesAppSynchronize(KTXLMAppID));
+    EXPECT_TRUE(isEqualPropertyList(store().domain(), chosen));
+    pane().willSelect();
+    EXPECT_TRUE(isEqualPropertyList(store().domain(), chosen));
+    EXPECT_TRUE(isShown("animateButton"));
+    EXPECT_EQ(log.linesContaining(QStringLiteral("what is stored stays for")).size(), 1);
 }
 
 TEST_F(PaneSettings, aDomainOfNothingButWrongTypesIsRepairedWhereItIsCheckedAndElseUsedAsItComes)

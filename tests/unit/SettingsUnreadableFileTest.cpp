@@ -16,23 +16,70 @@ protected:
         const QFile::Permissions permissions = QFile::ReadOwner | QFile::WriteOwner;
         ASSERT_TRUE(QFile::setPermissions(path(), readable ? permissions : QFile::Permissions()));
     }
-    void expectStoredAfterFlush(const QVariantMap &expected)
+    /// Once the file can be read again: what is stored, and which keys a line says were kept as they were.
+    void expectStoredAfterFlush(const QVariantMap &expected, const QString &kept)
     {
         EXPECT_EQ(log.linesContaining("cannot be read").size(), 1);
         log.clear();
         makeReadable(true);
+        EXPECT_TRUE(isEqualPropertyList(wholeDomain(), expected)) << "before the flush";
         EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
         EXPECT_TRUE(isEqualPropertyList(stored(), expected)) << stored().keys().join(' ').toStdString();
+        const QStringList lines = kept.isEmpty()
+            ? QStringList()
+            : QStringList{"lumaroo: settings: can be read again; what is stored stays for " + kept};
+        EXPECT_EQ(log.lines(), lines);
+        log.clear();
     }
 };
+
+TEST_F(SettingsUnreadableFile, keepsWhatIsStoredFromWhoSawNothingThere)
+{
+    EXPECT_TRUE(wholeDomain().isEmpty());
+    CFPreferencesSetAppValue("mine", 7, Domain);
+    CFPreferencesSetAppValue("theirs", QVariant(), Domain);
+    EXPECT_FALSE(CFPreferencesAppSynchronize(Domain));
+    EXPECT_EQ(CFPreferencesCopyAppValue("mine", Domain), QVariant(7)) << "meanwhile it is seen as it was set";
+    expectStoredAfterFlush({{"mine", 1}, {"theirs", 2}}, "mine, theirs");
+    EXPECT_EQ(CFPreferencesCopyAppValue("mine", Domain), QVariant(1));
+}
+
+TEST_F(SettingsUnreadableFile, takesWhatWasSetWithoutALook)
+{
+    CFPreferencesSetAppValue("mine", 7, Domain);
+    EXPECT_FALSE(CFPreferencesAppSynchronize(Domain));
+    expectStoredAfterFlush({{"mine", 7}, {"theirs", 2}}, {});
+}
+
+TEST_F(SettingsUnreadableFile, takesWhatTheFileLacks)
+{
+    EXPECT_TRUE(wholeDomain().isEmpty());
+    CFPreferencesSetAppValue("added", true, Domain);
+    EXPECT_FALSE(CFPreferencesAppSynchronize(Domain));
+    expectStoredAfterFlush({{"mine", 1}, {"theirs", 2}, {"added", true}}, {});
+}
+
+TEST_F(SettingsUnreadableFile, takesWhatIsSetAgainOnceItCanBeRead)
+{
+    EXPECT_TRUE(wholeDomain().isEmpty());
+    CFPreferencesSetAppValue("mine", 7, Domain);
+    EXPECT_FALSE(CFPreferencesAppSynchronize(Domain));
+    log.clear();
+    makeReadable(true);
+    EXPECT_EQ(wholeDomain().size(), 2);
+    CFPreferencesSetAppValue("mine", 8, Domain);
+    EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
+    EXPECT_TRUE(isEqualPropertyList(stored(), QVariantMap{{"mine", 8}, {"theirs", 2}}));
+}
 
 TEST_F(SettingsUnreadableFile, keepsTheKeysThatAReplacementOfTheDomainDoesNotHave)
 {
     QVariantMap domain = wholeDomain();
     domain.insert("mine", 7);
+    domain.insert("added", true);
     replaceDomain(domain);
-    EXPECT_TRUE(isEqualPropertyList(wholeDomain(), QVariantMap{{"mine", 7}}));
-    expectStoredAfterFlush({{"mine", 7}, {"theirs", 2}});
+    EXPECT_TRUE(isEqualPropertyList(wholeDomain(), domain));
+    expectStoredAfterFlush({{"mine", 1}, {"theirs", 2}, {"added", true}}, "mine");
 }
 
 TEST_F(SettingsUnreadableFile, losesNoKeyThatAReplacementTakesBack)
@@ -40,5 +87,5 @@ TEST_F(SettingsUnreadableFile, losesNoKeyThatAReplacementTakesBack)
     CFPreferencesSetAppValue("added", true, Domain);
     replaceDomain({{"more", 1.5}});
     EXPECT_TRUE(isEqualPropertyList(wholeDomain(), QVariantMap{{"more", 1.5}}));
-    expectStoredAfterFlush({{"mine", 1}, {"theirs", 2}, {"more", 1.5}});
+    expectStoredAfterFlush({{"mine", 1}, {"theirs", 2}, {"more", 1.5}}, {});
 }

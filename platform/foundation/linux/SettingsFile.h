@@ -20,6 +20,9 @@ public:
     /// Whether values() is what is stored, rather than empty because the file could not be read.
     bool isReadable() { return current() == StoredSettings::Content::Values; }
 
+    /// The same of the last look at the file, without another.
+    bool wasReadable() const { return stored_.content() == StoredSettings::Content::Values; }
+
     /// Applies a change to what the file holds, with no other writer in between. Writes nothing, and makes no system
     /// call that writes, where it changes nothing. False, with one line logged, where the change could not be made to
     /// last; the old or the new file then stands whole.

@@ -18,6 +18,8 @@ public:
     explicit StoredSettings(const QByteArray &path) : path_(path) { }
 
     Content refresh();
+    /// The last refresh's answer.
+    Content content() const { return content_; }
     /// As of the last refresh; empty unless its answer was Values.
     const QVariantMap &values() const { return values_; }
     /// Why the last refresh did not answer Values.
