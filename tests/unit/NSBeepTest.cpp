@@ -1,0 +1,10 @@
+#include "platform/appkit/NSBeep.h"
+
+#include <QGuiApplication>
+#include <gtest/gtest.h>
+
+TEST(TheBeep, needsNoXDisplay)
+{
+    ASSERT_EQ(QGuiApplication::platformName(), "offscreen");
+    NSBeep();
+}
