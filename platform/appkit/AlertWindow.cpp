@@ -3,6 +3,7 @@
 #include "platform/foundation/Boundary.h"
 
 #include <QAccessible>
+#include <QCheckBox>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QImageReader>
@@ -47,10 +48,10 @@ QPixmap iconPixmap(const QString &path, double ratio)
 
 } // namespace
 
-AlertWindow::AlertWindow(const AlertContent &content, QWidget *parent) : QDialog(parent), content_(content)
+AlertWindow::AlertWindow(const AlertContent &content, Qt::WindowModality modality, QWidget *parent)
+    : QDialog(parent), content_(content)
 {
-    setModal(true);
-    setWindowModality(Qt::ApplicationModal);
+    setWindowModality(modality);
     setWindowTitle(parent ? parent->window()->windowTitle() : QGuiApplication::applicationDisplayName());
     setAccessibleName(content.message);
     setAccessibleDescription(content.information);
@@ -67,6 +68,10 @@ AlertWindow::AlertWindow(const AlertContent &content, QWidget *parent) : QDialog
     QVBoxLayout *column = makeTexts();
     column->addStretch();
     column->addSpacing(12);
+    if (!content.suppressionTitle.isEmpty()) {
+        column->addWidget(makeSuppressionBox());
+        column->addSpacing(12);
+    }
     column->addLayout(makeButtonRow());
     all->addLayout(column, 1);
     all->setSizeConstraint(QLayout::SetFixedSize);
@@ -111,6 +116,7 @@ QLayout *AlertWindow::makeButtonRow()
         row->addWidget(*button);
     for (int index = 1; index < buttons_.size(); ++index)
         setTabOrder(buttons_[index - 1], buttons_[index]);
+    firstFocus()->setDefault(true);
     return row;
 }
 
@@ -136,7 +142,22 @@ QWidget *AlertWindow::makeHelpButton()
     button->setAccessibleName(content_.helpTitle);
     button->setToolTip(content_.helpTitle);
     connect(button, &QToolButton::clicked, this, [this] { runAtBoundary("alert help button", content_.openHelp); });
+    connect(
+        new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, button, [button] { button->click(); });
     return button;
+}
+
+QCheckBox *AlertWindow::makeSuppressionBox()
+{
+    suppressionBox_ = new QCheckBox(content_.suppressionTitle, this);
+    suppressionBox_->setObjectName(QStringLiteral("suppression"));
+    suppressionBox_->setChecked(content_.suppressionIsOn);
+    return suppressionBox_;
+}
+
+bool AlertWindow::suppressionIsOn() const
+{
+    return suppressionBox_ && suppressionBox_->isChecked();
 }
 
 void AlertWindow::press(int index)
@@ -154,7 +175,7 @@ void AlertWindow::reject()
 void AlertWindow::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
-    buttons_[qMax(0, content_.cancelButton)]->setFocus();
+    firstFocus()->setFocus();
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
 }

@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <functional>
 
+class QCheckBox;
 class QPushButton;
 class QVBoxLayout;
 
@@ -22,6 +23,8 @@ struct AlertContent
     QString iconFile;
     QList<Button> buttons;
     int cancelButton = -1; ///< the button that Escape presses, -1 for none
+    QString suppressionTitle; ///< of the check box; empty for none
+    bool suppressionIsOn = false;
     QString helpTitle;
     std::function<void()> openHelp; ///< empty for no help button
 };
@@ -32,10 +35,11 @@ class AlertWindow : public QDialog
     Q_OBJECT
 
 public:
-    AlertWindow(const AlertContent &content, QWidget *parent);
+    AlertWindow(const AlertContent &content, Qt::WindowModality modality, QWidget *parent);
 
     /// The index of the button that was pressed, -1 while there is none.
     int pressedButton() const { return pressedButton_; }
+    bool suppressionIsOn() const;
 
     void reject() override;
 
@@ -48,9 +52,12 @@ private:
     QLayout *makeButtonRow();
     QPushButton *makeButton(int index);
     QWidget *makeHelpButton();
+    QCheckBox *makeSuppressionBox();
+    QPushButton *firstFocus() const { return buttons_[qMax(0, content_.cancelButton)]; }
     void press(int index);
 
     AlertContent content_;
     QList<QPushButton *> buttons_;
+    QCheckBox *suppressionBox_ = nullptr;
     int pressedButton_ = -1;
 };

@@ -1,6 +1,7 @@
 #include "platform/appkit/NSAlert.h"
 
-#include "platform/appkit/AlertWindow.h"
+#include "platform/appkit/AlertSheets.h"
+#include "platform/appkit/Controls.h"
 #include "platform/appkit/NSHelpManager.h"
 #include "platform/foundation/NSBundle.h"
 
@@ -13,6 +14,13 @@ QString localized(const NSBundle *bundle, const QString &text)
     return bundle ? bundle->localizedStringForKeyValueTable(text) : text;
 }
 
+void openHelp(const QString &anchor, const NSBundle *bundle)
+{
+    const QVariantMap info = bundle ? bundle->infoDictionary() : QVariantMap();
+    const QString book = info.value(QStringLiteral("CFBundleHelpBookName")).toString();
+    NSHelpManager::sharedHelpManager()->openHelpAnchorInBook(anchor, book);
+}
+
 } // namespace
 
 class NSAlert::Private
@@ -20,11 +28,11 @@ class NSAlert::Private
 public:
     bool isCancel(const QString &title) const;
     int indexOfCancelButton() const;
-    void openHelp() const;
     AlertContent finishedContent() const;
 
     AlertContent content;
     bool showsHelp = false;
+    bool showsSuppressionButton = false;
     QString helpAnchor;
     NSBundle *helpBundle = nullptr;
 };
@@ -46,13 +54,6 @@ int NSAlert::Private::indexOfCancelButton() const
     return content.buttons.size() == 1 ? 0 : -1;
 }
 
-void NSAlert::Private::openHelp() const
-{
-    const QVariantMap info = helpBundle ? helpBundle->infoDictionary() : QVariantMap();
-    const QString book = info.value(QStringLiteral("CFBundleHelpBookName")).toString();
-    NSHelpManager::sharedHelpManager()->openHelpAnchorInBook(helpAnchor, book);
-}
-
 AlertContent NSAlert::Private::finishedContent() const
 {
     AlertContent finished = content;
@@ -63,7 +64,10 @@ AlertContent NSAlert::Private::finishedContent() const
     }
     finished.helpTitle = localized(NSBundle::mainBundle(), QStringLiteral("Help"));
     if (showsHelp)
-        finished.openHelp = [this] { openHelp(); };
+        finished.openHelp = [anchor = helpAnchor, bundle = helpBundle] { openHelp(anchor, bundle); };
+    if (showsSuppressionButton)
+        finished.suppressionTitle =
+            localized(NSBundle::mainBundle(), QStringLiteral("&Do not show this message again"));
     return finished;
 }
 
@@ -108,13 +112,41 @@ void NSAlert::setHelpAnchor(const QString &anchor, NSBundle *bundle)
     d->helpBundle = bundle;
 }
 
+void NSAlert::setShowsSuppressionButton(bool shows)
+{
+    d->showsSuppressionButton = shows;
+}
+
+int NSAlert::suppressionButtonState() const
+{
+    return d->content.suppressionIsOn ? NSOnState : NSOffState;
+}
+
+void NSAlert::setSuppressionButtonState(int state)
+{
+    d->content.suppressionIsOn = state == NSOnState;
+}
+
+void NSAlert::beginSheetModalForWindowModalDelegateDidEndSelectorContextInfo(std::unique_ptr<NSAlert> alert,
+    QWidget *view, const QObject *modalDelegate, const DidEnd &didEnd, const QString &contextInfo)
+{
+    const std::shared_ptr<NSAlert> shown = std::move(alert);
+    const auto end = [shown, didEnd, contextInfo](const AlertWindow &window) {
+        shown->d->content.suppressionIsOn = window.suppressionIsOn();
+        if (didEnd)
+            didEnd(shown.get(), NSAlertFirstButtonReturn + window.pressedButton(), contextInfo);
+    };
+    AlertSheets::ofWindow(view)->begin({shown->d->finishedContent(), modalDelegate, end});
+}
+
 int NSAlert::runModal()
 {
     const AlertContent content = d->finishedContent();
     // The window it belongs to may be destroyed while it runs, and takes it along.
-    const QPointer<AlertWindow> window = new AlertWindow(content, QApplication::activeWindow());
+    const QPointer<AlertWindow> window = new AlertWindow(content, Qt::ApplicationModal, QApplication::activeWindow());
     window->exec();
     const int pressed = window ? window->pressedButton() : -1;
+    d->content.suppressionIsOn = window && window->suppressionIsOn();
     delete window;
     if (pressed >= 0)
         return NSAlertFirstButtonReturn + pressed;

@@ -3,9 +3,12 @@
 #include "platform/appkit/Export.h"
 
 #include <QString>
+#include <functional>
 #include <memory>
 
 class NSBundle;
+class QObject;
+class QWidget;
 
 enum NSAlertReturn {
     NSAlertFirstButtonReturn = 1000,
@@ -13,7 +16,8 @@ enum NSAlertReturn {
     NSAlertThirdButtonReturn = 1002
 };
 
-/// A message with an icon, buttons from right to left, and an optional help button.
+/// A message with an icon, buttons from right to left, an optional help button and an optional check box with which the
+/// user wishes not to see its like again.
 class LM_APPKIT NSAlert
 {
 public:
@@ -38,6 +42,23 @@ public:
     /// Shows a help button that opens `anchor` in the help book of `bundle` (CFBundleHelpBookName) with NSHelpManager.
     void setShowsHelp(bool shows);
     void setHelpAnchor(const QString &anchor, NSBundle *bundle);
+
+    /// Shows the suppression check box, above the buttons.
+    void setShowsSuppressionButton(bool shows);
+    /// NSOnState or NSOffState: as it starts and, once the alert has ended, as the user left it.
+    int suppressionButtonState() const;
+    void setSuppressionButtonState(int state);
+
+    /// Told that a button was pressed, NSAlertFirstButtonReturn + its index, when the sheet is gone from the screen.
+    using DidEnd = std::function<void(NSAlert *alert, int returnCode, const QString &contextInfo)>;
+    /// Shows an alert in front of the window around `view`, which takes no input until a button is pressed; returns at
+    /// once. The sheet owns the alert.
+    ///
+    /// A window has one sheet at a time: what is begun meanwhile follows in turn. It is hidden while its window is, and
+    /// one that is begun then comes up with the window. A sheet goes unanswered, and `didEnd` is not called, when the
+    /// window or `modalDelegate` is destroyed. With a null view it stands alone.
+    static void beginSheetModalForWindowModalDelegateDidEndSelectorContextInfo(std::unique_ptr<NSAlert> alert,
+        QWidget *view, const QObject *modalDelegate, const DidEnd &didEnd, const QString &contextInfo);
 
     /// Runs application-modally and returns the button that ended it, NSAlertFirstButtonReturn + its index. When the
     /// application ends meanwhile, it is the button that Escape presses, or else the last.

@@ -100,6 +100,19 @@ QString activeWindowTitle()
     return window == XCB_NONE ? QString() : title(window);
 }
 
+void askToClose(quint32 window)
+{
+    xcb_client_message_event_t message = {};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = window;
+    message.type = atom("_NET_CLOSE_WINDOW");
+    xcb_send_event(connection(), 0, rootWindow(),
+        XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+        reinterpret_cast<const char *>(&message));
+    xcb_flush(connection());
+}
+
 QImage pictureOfWindow(quint32 window)
 {
     return QGuiApplication::primaryScreen()->grabWindow(window).toImage();

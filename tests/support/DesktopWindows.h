@@ -22,5 +22,7 @@ quint32 activeWindow();
 /// The titles of all windows, and that of the one with the focus.
 QStringList openWindowTitles();
 QString activeWindowTitle();
+/// Asks a window to close, as its frame's close button does.
+void askToClose(quint32 window);
 /// What the screen shows of a window.
 QImage pictureOfWindow(quint32 window);

@@ -13,4 +13,6 @@ TEST(AlertTexts, areGermanForAGermanUser)
     ASSERT_NE(host, nullptr);
     EXPECT_EQ(host->localizedStringForKeyValueTable("Help", "untranslated"), "Hilfe");
     EXPECT_EQ(host->localizedStringForKeyValueTable("OK", "untranslated"), "OK");
+    EXPECT_EQ(
+        host->localizedStringForKeyValueTable("&Do not show this message again"), "&Diese Meldung nicht mehr anzeigen");
 }

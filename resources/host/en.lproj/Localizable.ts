@@ -59,5 +59,9 @@
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>&amp;Do not show this message again</source>
+        <translation>&amp;Do not show this message again</translation>
+    </message>
 </context>
 </TS>
