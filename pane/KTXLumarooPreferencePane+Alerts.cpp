@@ -1,7 +1,24 @@
 #include "pane/KTXLumarooPreferencePane.h"
 
+#include "KTXConstants.h"
 #include "platform/appkit/NSAlert.h"
+#include "platform/foundation/CFPreferences.h"
 #include "platform/foundation/NSBundle.h"
+
+namespace {
+
+bool isSuppressed(const QString &suppressionKey)
+{
+    const QVariant stored = CFPreferencesCopyAppValue(suppressionKey, KTXLMAppID);
+    return stored.isValid() && CFGetTypeID(stored) == CFBooleanGetTypeID() && CFBooleanGetValue(stored);
+}
+
+QString iconFile(const NSBundle *bundle)
+{
+    return bundle->resourcePath() + QStringLiteral("/Lumaroo.icns");
+}
+
+} // namespace
 
 bool KTXLumarooPreferencePane::userQuitsDespiteConflicts()
 {
@@ -14,16 +31,36 @@ bool KTXLumarooPreferencePane::userQuitsDespiteConflicts()
     alert.addButtonWithTitle(localized(QStringLiteral("Cancel")));
     alert.setShowsHelp(true);
     alert.setHelpAnchor(QStringLiteral("closeDialog"), bundle());
-    alert.setIconFile(bundle()->resourcePath() + QStringLiteral("/Lumaroo.icns"));
+    alert.setIconFile(iconFile(bundle()));
     return alert.runModal() == NSAlertFirstButtonReturn;
 }
 
 void KTXLumarooPreferencePane::displayAlertwitheMessageAndInformationSuppressionPrefValueAndHelpAnchor(
     const QString &message, const QString &information, const QString &suppressionPrefValue, const QString &helpAnchor)
 {
+    const bool canBeSuppressed = !suppressionPrefValue.isEmpty();
+    if (canBeSuppressed && isSuppressed(suppressionPrefValue))
+        return;
+    auto alert = std::make_unique<NSAlert>();
+    alert->setInformativeText(information);
+    alert->setMessageText(message);
+    alert->setShowsSuppressionButton(canBeSuppressed);
+    alert->setIconFile(iconFile(bundle()));
+    if (!helpAnchor.isEmpty()) {
+        alert->setShowsHelp(true);
+        alert->setHelpAnchor(helpAnchor, bundle());
+    }
+    const auto didEnd = [this](NSAlert *ended, int returnCode, const QString &contextInfo) {
+        alertDidEndReturnCodeContextInfo(ended, returnCode, contextInfo);
+    };
+    NSAlert::beginSheetModalForWindowModalDelegateDidEndSelectorContextInfo(
+        std::move(alert), mainView(), this, didEnd, suppressionPrefValue);
 }
 
-void KTXLumarooPreferencePane::alertDidEndReturnCodeContextInfo(
-    NSAlert *alert, int returnCode, const QString &contextInfo)
+void KTXLumarooPreferencePane::alertDidEndReturnCodeContextInfo(NSAlert *alert, int, const QString &contextInfo)
 {
+    if (alert->suppressionButtonState() != NSOnState)
+        return;
+    CFPreferencesSetAppValue(contextInfo, true, KTXLMAppID);
+    syncPrefsAndNotifyAgent();
 }

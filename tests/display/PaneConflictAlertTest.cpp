@@ -12,6 +12,9 @@ namespace {
 class PaneConflictAlert : public PaneOnRealStore
 {
 protected:
+    /// A showing speaks of conflicts too; here it is about leaving.
+    PaneConflictAlert() { store().set(KTXsuppressHKeysTaken, true); }
+
     void storeKey(const QString &name, int keyCode) const
     {
         store().set(name, QVariantMap{{KTXKeycode, QString::number(keyCode)}});

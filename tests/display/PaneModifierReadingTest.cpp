@@ -45,7 +45,7 @@ TEST_F(PaneModifierReading, aMaskBeyond32BitsIsReplacedByTheDefault)
 
 TEST_F(PaneModifierReading, aMaskWithoutModifiersIsAcceptedAsItIs)
 {
-    store().set(KTXModifierMask, 0);
+    store().set({{KTXModifierMask, 0}, {KTXSuppressModAlert, true}});
     showPane();
     EXPECT_TRUE(isEqualPropertyList(store().value(KTXModifierMask), qlonglong(0)));
     EXPECT_EQ(text("modifiersField"), QString());
@@ -61,28 +61,4 @@ TEST_F(PaneModifierReading, eachModifierHasItsCheckBox)
         for (auto box = boxes.cbegin(); box != boxes.cend(); ++box)
             EXPECT_EQ(isShown(box.value()), box.key() == mask) << box.value();
     }
-}
-
-TEST_F(PaneModifierReading, aCellOfTheMatrixTogglesItsModifierWhateverTheCellShows)
-{
-    auto *matrix = control<NSMatrix>("modifierCheckboxMatrix");
-    pane().readUserPrefs();
-    bus().clear();
-    performClick(matrix->cellWithTag(0x200));
-    EXPECT_TRUE(isEqualPropertyList(store().value(KTXModifierMask), qlonglong(0x1A00)));
-    EXPECT_EQ(text("modifiersField"), QStringLiteral("⇧⌃⌥"));
-    performClick(matrix->cellWithTag(0x800));
-    EXPECT_TRUE(isEqualPropertyList(store().value(KTXModifierMask), qlonglong(0x1200)));
-    EXPECT_EQ(text("modifiersField"), QStringLiteral("⇧⌃"));
-    EXPECT_EQ(bus().names(), (QStringList{KTXLMPrefsChanged, KTXLMPrefsChanged})) << "one for each change";
-}
-
-TEST_F(PaneModifierReading, theCellOfTheOnlyModifierLeftChangesNothing)
-{
-    store().set(KTXModifierMask, 0x800);
-    pane().readUserPrefs();
-    bus().clear();
-    performClick(control<NSMatrix>("modifierCheckboxMatrix")->cellWithTag(0x800));
-    EXPECT_TRUE(isEqualPropertyList(store().value(KTXModifierMask), qlonglong(0x800)));
-    EXPECT_TRUE(bus().names().isEmpty());
 }

@@ -178,7 +178,10 @@ RecordingPane &PaneOnRealStore::pane()
 void PaneOnRealStore::showWindow()
 {
     pane().mainView()->show();
-    EXPECT_TRUE(waitUntil([this] { return pane().mainView()->isActiveWindow(); }));
+    EXPECT_TRUE(waitUntil([this] {
+        const QWidget *active = QApplication::activeWindow();
+        return active && (active == pane().mainView() || active->parentWidget() == pane().mainView());
+    }));
 }
 
 void PaneOnRealStore::showPane()

@@ -49,6 +49,7 @@ public:
     /// Sets a value and flushes it.
     void set(const QString &key, const QVariant &value) const;
     void set(const QString &key, int value) const { set(key, QVariant(qlonglong(value))); }
+    void set(const QString &key, bool value) const { set(key, QVariant(value)); }
     void set(const QVariantMap &domain) const;
     /// What the file itself holds.
     QVariantMap domain() const;
@@ -75,7 +76,7 @@ protected:
     /// The pane, initialised but without its view.
     RecordingPane &paneWithoutView();
     void destroyPane() { pane_.reset(); }
-    /// Shows the pane's view in a window of its own and waits until it is the active one.
+    /// Shows the pane's view in a window of its own and waits until it, or a sheet on it, is the active one.
     void showWindow();
     /// One showing as the host drives it, up to the end of what it deferred.
     void showPane();

@@ -33,8 +33,10 @@ protected:
         bus.post(KTXLMPrefsChanged, KTXLMAgentID);
     }
 
+    /// What a showing says of that is suppressed: these tests are about leaving.
     void giveTwoMovementKeysTheSameCode()
     {
+        CFPreferencesSetAppValue(KTXsuppressHKeysTaken, true, KTXLMAppID);
         const QVariantMap up{{KTXKeycode, QStringLiteral("126")}};
         CFPreferencesSetAppValue(KTXUpPref, up, KTXLMAppID);
         CFPreferencesSetAppValue(KTXDownPref, up, KTXLMAppID);

@@ -30,10 +30,11 @@ protected:
 
     void announceAgent(int version) { bus.post(KTXLMAgentLaunched, KTXLMAgentID, {{KTXLMAgentVersion, version}}); }
 
-    /// The settings ask whether to leave, since two movement keys are the same.
+    /// The settings ask whether to leave, since two movement keys are the same, but say nothing of that when shown.
     void makeLeavingAQuestion() const
     {
         const QVariantMap up{{KTXKeycode, QStringLiteral("126")}};
+        storeOutside(KTXsuppressHKeysTaken, true);
         storeOutside(KTXUpPref, up);
         storeOutside(KTXDownPref, up);
     }
