@@ -1,5 +1,6 @@
 #include "host/PaneCatalogue.h"
 
+#include "host/IconFile.h"
 #include "host/LetterTile.h"
 #include "platform/foundation/NSBundle.h"
 
@@ -132,7 +133,7 @@ QStringList paneKeywords(const QVariant &value)
 
 QIcon paneIcon(const InstalledPane &pane)
 {
-    const QIcon icon(pane.iconFile);
+    const QIcon icon = iconFromFile(pane.iconFile);
     // An icon of an unreadable file is not null, it merely has no picture to give.
     return icon.pixmap(64).isNull() ? letterTile(pane.name) : icon;
 }

@@ -2,8 +2,10 @@
 
 #include "platform/foundation/NSBundle.h"
 
+#include <QIODevice>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
+#include <optional>
 
 namespace {
 
@@ -24,8 +26,11 @@ class Translator
 {
 public:
     Translator(QIODevice *file, const NSBundle *bundle, const QString &nibName)
-        : reader_(file), writer_(&result_.xml), bundle_(bundle), nibName_(nibName)
+        : bundle_(bundle), nibName_(nibName), reader_(result_.xml = file->readAll())
     {
+        // Most readers' language is the one that the file is written in; then it stays as it is.
+        if (!bundle->pathForResourceOfType(nibName, QStringLiteral("qm")).isEmpty())
+            writer_.emplace(&translated_);
     }
 
     InterfaceText run()
@@ -35,10 +40,12 @@ public:
             if (reader_.isStartElement())
                 startElement();
             else if (!reader_.hasError())
-                writer_.writeCurrentToken(reader_);
+                copyToken();
         }
         if (reader_.hasError())
             result_.error = QStringLiteral("line %1: %2").arg(reader_.lineNumber()).arg(reader_.errorString());
+        if (writer_)
+            result_.xml = translated_;
         return result_;
     }
 
@@ -47,12 +54,15 @@ private:
     void checkRoot();
     void translate();
     void copyClassName(QString *name);
+    void copyToken();
+    void replaceText(const QString &text);
 
-    QXmlStreamReader reader_;
-    InterfaceText result_;
-    QXmlStreamWriter writer_;
     const NSBundle *bundle_;
     QString nibName_;
+    InterfaceText result_;
+    QXmlStreamReader reader_;
+    QByteArray translated_;
+    std::optional<QXmlStreamWriter> writer_; ///< where there may be something to translate
     QString property_;
     QString customClass_;
     bool sawRoot_ = false;
@@ -87,26 +97,37 @@ void Translator::startElement()
         copyClassName(&result_.baseClasses[customClass_]);
         inCustomWidget_ = false;
     } else {
-        writer_.writeCurrentToken(reader_);
+        copyToken();
     }
 }
 
 void Translator::translate()
 {
     const bool isText = !isMarkedAsName(reader_) && !listIsOfNames_ && !isName(property_);
-    writer_.writeCurrentToken(reader_);
+    copyToken();
     const QString text = reader_.readElementText();
-    writer_.writeCharacters(
-        isText && !text.isEmpty() ? bundle_->localizedStringForKeyValueTable(text, text, nibName_) : text);
-    writer_.writeEndElement();
+    if (writer_)
+        replaceText(isText && !text.isEmpty() ? bundle_->localizedStringForKeyValueTable(text, text, nibName_) : text);
 }
 
 void Translator::copyClassName(QString *name)
 {
-    writer_.writeCurrentToken(reader_);
+    copyToken();
     *name = reader_.readElementText();
-    writer_.writeCharacters(*name);
-    writer_.writeEndElement();
+    if (writer_)
+        replaceText(*name);
+}
+
+void Translator::copyToken()
+{
+    if (writer_)
+        writer_->writeCurrentToken(reader_);
+}
+
+void Translator::replaceText(const QString &text)
+{
+    writer_->writeCharacters(text);
+    writer_->writeEndElement();
 }
 
 } // namespace

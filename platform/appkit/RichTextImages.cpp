@@ -1,5 +1,7 @@
 #include "platform/appkit/RichTextImages.h"
 
+#include "platform/appkit/PNGReading.h"
+
 #include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
@@ -43,6 +45,7 @@ QImage RichTextImages::load(const QString &fileName)
     QByteArray data = contents(path);
     QBuffer buffer(&data);
     QImageReader reader(&buffer);
+    expectPNGIfItIsOne(reader, data);
     const QSize size = reader.size();
     if (!isWithinBounds(size, pixelsLeft_))
         return {};
