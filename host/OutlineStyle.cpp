@@ -117,3 +117,12 @@ int OutlineStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, co
         return 2;
     return QProxyStyle::pixelMetric(metric, option, widget);
 }
+
+int OutlineStyle::styleHint(
+    StyleHint hint, const QStyleOption *option, const QWidget *widget, QStyleHintReturn *returnData) const
+{
+    // Our alerts have none. The colour panel's dialog would search the icon themes for those of its hidden buttons.
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
+        return 0;
+    return QProxyStyle::styleHint(hint, option, widget, returnData);
+}
