@@ -4,6 +4,7 @@
 #include "KTXActionKeys.h"
 #include "KTXConstants.h"
 #include "pane/KTXLumarooPreferencePane.h"
+#include "platform/foundation/CFPreferences.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/PropertyList.h"
 
@@ -142,6 +143,9 @@ const QLineEdit *lastKeyField(const QWidget *view)
 int main(int argumentCount, char **arguments)
 {
     QApplication application(argumentCount, arguments);
+    // The pane would start the real agent, which writes the file between the stand-in's reading and writing.
+    CFPreferencesSetAppValue(KTXFirstLaunch, true, KTXLMAppID);
+    CFPreferencesAppSynchronize(KTXLMAppID);
     const auto pane = openedPane(QString::fromLocal8Bit(argumentCount > 1 ? arguments[1] : ""));
     if (!pane || !QDBusConnection::sessionBus().isConnected()) {
         std::fputs("usage: PaneBench PANE-BUNDLE, in a session with a bus\n", stderr);
