@@ -237,7 +237,9 @@ void HostWindow::bringToFront(const QString &activationToken)
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
-    activateWindowWithToken(this, activationToken);
+    // A question is answered before anything else.
+    QWidget *question = QApplication::activeModalWidget();
+    activateWindowWithToken(question ? question : this, activationToken);
 }
 
 bool HostWindow::event(QEvent *event)

@@ -12,6 +12,7 @@
 #include <QShortcut>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <QWindow>
 
 namespace {
 
@@ -52,6 +53,9 @@ AlertWindow::AlertWindow(const AlertContent &content, Qt::WindowModality modalit
     : QDialog(parent), content_(content)
 {
     setWindowModality(modality);
+    // It stays in front of its window until it is answered: nothing to minimise or to maximise.
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint
+        | Qt::WindowCloseButtonHint);
     setWindowTitle(parent ? parent->window()->windowTitle() : QGuiApplication::applicationDisplayName());
     setAccessibleName(content.message);
     setAccessibleDescription(content.information);
@@ -175,7 +179,25 @@ void AlertWindow::reject()
 void AlertWindow::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
+    if (parentWidget() && parentWidget()->windowHandle())
+        parentWidget()->windowHandle()->installEventFilter(this);
     firstFocus()->setFocus();
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+}
+
+bool AlertWindow::eventFilter(QObject *object, QEvent *event)
+{
+    // A click gives the keyboard to the window that waits, where it would do nothing.
+    if (event->type() == QEvent::FocusIn)
+        QMetaObject::invokeMethod(this, &AlertWindow::takeFocusBack, Qt::QueuedConnection);
+    return QDialog::eventFilter(object, event);
+}
+
+void AlertWindow::takeFocusBack()
+{
+    if (!isVisible())
+        return;
+    raise();
+    activateWindow();
 }

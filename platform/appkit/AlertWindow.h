@@ -45,6 +45,7 @@ public:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
     QVBoxLayout *makeTexts();
@@ -55,6 +56,7 @@ private:
     QCheckBox *makeSuppressionBox();
     QPushButton *firstFocus() const { return buttons_[qMax(0, content_.cancelButton)]; }
     void press(int index);
+    void takeFocusBack();
 
     AlertContent content_;
     QList<QPushButton *> buttons_;

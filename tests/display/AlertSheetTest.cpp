@@ -11,10 +11,12 @@
 #include "platform/appkit/NSHelpManager.h"
 #include "platform/foundation/NSBundle.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QWindow>
 #include <gtest/gtest.h>
@@ -142,6 +144,21 @@ TEST_F(AnAlertSheet, takesTheInputOfItsWindowButNotOfOthers)
     EXPECT_TRUE(waitUntil([&] { return other.box->isChecked(); }));
     EXPECT_FALSE(window->box->isChecked());
     EXPECT_TRUE(openAlert());
+}
+
+TEST_F(AnAlertSheet, keepsTheKeyboardWhenItsWindowIsClicked)
+{
+    showSheet();
+    bool hadFocus = false;
+    QObject::connect(qApp, &QGuiApplication::focusWindowChanged, window,
+        [&](const QWindow *focused) { hadFocus = hadFocus || focused == window->windowHandle(); });
+    clickOn(window->box);
+    ASSERT_TRUE(waitUntil([&] { return hadFocus; })) << "for a moment";
+    ASSERT_TRUE(alertComesUp());
+    pressKey(KEY_ESC);
+    ASSERT_TRUE(alertGoesBackTo(window));
+    EXPECT_EQ(answers.size(), 1);
+    EXPECT_FALSE(window->box->isChecked());
 }
 
 TEST_F(AnAlertSheet, showsItsMessageBoldAboveTheInformationAndTheBoxAboveTheButton)
@@ -415,6 +432,23 @@ TEST_F(AnAlertSheet, whoseAnswerThrowsIsLoggedAndTheNextFollows)
     EXPECT_EQ(shownMessage(), "Second");
     EXPECT_EQ(log.linesContaining("no place for it").size(), 1);
     atEnd = [] {};
+}
+
+TEST_F(AnAlertSheet, staysUnderAnApplicationModalAlert)
+{
+    showSheet();
+    NSAlert question;
+    question.setMessageText("Question");
+    QTimer::singleShot(0, window, [this] {
+        ASSERT_TRUE(waitUntil([this] { return openAlert()->isActiveWindow() && shownMessage() == "Question"; }));
+        pressKey(KEY_ENTER);
+    });
+    EXPECT_EQ(question.runModal(), NSAlertFirstButtonReturn);
+    ASSERT_TRUE(alertComesUp());
+    EXPECT_EQ(shownMessage(), "First");
+    pressKey(KEY_ENTER);
+    EXPECT_TRUE(alertGoesBackTo(window));
+    EXPECT_EQ(answers.size(), 1);
 }
 
 TEST_F(AnAlertSheet, standsAloneWithoutAWindow)
