@@ -5,6 +5,7 @@
 #include "platform/appkit/NSMatrix.h"
 #include "platform/appkit/NSTabViewDelegate.h"
 #include "platform/appkit/PageTurning.h"
+#include "platform/appkit/TextFieldEvents.h"
 #include "platform/foundation/Boundary.h"
 #include "platform/foundation/NSLog.h"
 
@@ -134,9 +135,20 @@ void InterfaceConnections::connectDelegate(QObject *object, const QString &deleg
         log(object, QStringLiteral("%1 is no delegate").arg(delegate));
     else if (auto *tabView = qobject_cast<QTabWidget *>(object))
         connectTabView(tabView);
-    // Text fields and windows ask their delegate through the field editor.
-    else if (!qobject_cast<QLineEdit *>(object) && !(view && view->isWindow()))
+    else if (auto *field = qobject_cast<QLineEdit *>(object))
+        connectTextField(field);
+    // Windows ask their delegate through the text fields.
+    else if (!view || !view->isWindow())
         log(object, QStringLiteral("a %1 has no delegate").arg(QLatin1StringView(object->metaObject()->className())));
+}
+
+void InterfaceConnections::connectTextField(QLineEdit *field)
+{
+    if (!owner_.textDelegate)
+        return log(field, QStringLiteral("%1 is no delegate of a text field").arg(owner_.className));
+    if (!textFieldEvents_)
+        textFieldEvents_ = new TextFieldEvents(file_, owner_, owner_.object ? owner_.object : field->window());
+    textFieldEvents_->add(field);
 }
 
 void InterfaceConnections::connectTabView(QTabWidget *tabView)

@@ -7,9 +7,11 @@
 #include <functional>
 
 class QComboBox;
+class QLineEdit;
 class QTabWidget;
 class QToolButton;
 class QWidget;
+class TextFieldEvents;
 
 /// Connects the objects of one interface file with its owner; what does not fit is one logged line with file and
 /// object.
@@ -27,6 +29,7 @@ private:
     void connectAction(QObject *control, const QString &selector);
     void connectDelegate(QObject *object, const QString &delegate);
     void connectTabView(QTabWidget *tabView);
+    void connectTextField(QLineEdit *field);
     void giveItemsTheirTags(QComboBox *popUp, const QStringList &tags);
     void useOnlyActionAsDefault(QToolButton *button);
     template <typename Control, typename Signal>
@@ -35,4 +38,5 @@ private:
 
     QString file_;
     InterfaceOwner owner_;
+    TextFieldEvents *textFieldEvents_ = nullptr; // made for the first field, owned by what the actions end with
 };

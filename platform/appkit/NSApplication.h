@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/appkit/Export.h"
+#include "platform/appkit/NSEvent.h"
 
 #include <functional>
 
@@ -22,7 +23,13 @@ public:
     /// false, which leaves the focus to whoever has it, the window asks for the user's attention.
     void activateIgnoringOtherApps(bool ignoresOthers);
 
+    /// What is being handled: a key press while a text field's delegate is asked about it, else of type Other. Set by
+    /// whoever brings events to delegates.
+    NSEvent currentEvent() const { return currentEvent_; }
+    void setCurrentEvent(const NSEvent &event) { currentEvent_ = event; }
+
 private:
     NSApplication() = default;
+    NSEvent currentEvent_;
     std::function<void()> terminationHandler_;
 };

@@ -51,6 +51,7 @@ LoadedWindow::LoadedWindow(const QString &language) : bundle_(QStringLiteral("Wi
     owner.object = &owner_;
     owner.className = QStringLiteral("LoadedWindow");
     owner.tabViewDelegate = this;
+    owner.textDelegate = this;
     for (const QString &selector : actionsOfThePane())
         owner.actions += {selector, [this, selector](QObject *sender) {
                               performedActions_ += PerformedAction{selector, sender};
@@ -86,3 +87,13 @@ void LoadedWindow::showPage(int index) const
 }
 
 void LoadedWindow::tabViewDidSelectTabViewItem(QTabWidget *, QWidget *) { }
+
+bool LoadedWindow::controlTextShouldBeginEditing(QWidget *, FieldEditor *)
+{
+    return false;
+}
+
+bool LoadedWindow::controlTextViewDoCommandBySelector(QWidget *, FieldEditor *, const QString &)
+{
+    return false;
+}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "TestBundle.h"
+#include "platform/appkit/NSControlTextEditingDelegate.h"
 #include "platform/appkit/NSTabViewDelegate.h"
 
 #include <QObject>
@@ -11,7 +12,7 @@
 
 /// The pane's window as its interface file makes it, in one language, with an owner that notes which actions are
 /// performed.
-class LoadedWindow : public NSTabViewDelegate
+class LoadedWindow : public NSTabViewDelegate, public NSControlTextEditingDelegate
 {
 public:
     explicit LoadedWindow(const QString &language = QStringLiteral("en"));
@@ -40,6 +41,8 @@ public:
     const QStringList &complaints() const { return complaints_; }
 
     void tabViewDidSelectTabViewItem(QTabWidget *tabView, QWidget *tabViewItem) override;
+    bool controlTextShouldBeginEditing(QWidget *control, FieldEditor *fieldEditor) override;
+    bool controlTextViewDoCommandBySelector(QWidget *control, FieldEditor *textView, const QString &command) override;
 
 private:
     TestBundle bundle_;

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/appkit/Export.h"
+#include "platform/appkit/NSEvent.h"
+
+#include <QString>
+#include <optional>
+
+class QKeyEvent;
+
+// What a key press means to a text field: something typed, a command, or nothing of its own. The key alone decides,
+// not its text: the layout, Caps Lock, Num Lock and held modifiers change nothing.
+
+/// A key press by its virtual key code; nothing for keys without one.
+LM_APPKIT std::optional<NSEvent> keyDownEvent(const QKeyEvent &event);
+
+/// Whether a key types: letters, digits, signs, space, and the keypad without its Enter.
+LM_APPKIT bool isTypingKey(quint16 keyCode);
+
+/// Whether a text field takes a key before any shortcut or mnemonic on it, whatever is held with it: what types, and
+/// the commands of Return, Enter and the arrows.
+LM_APPKIT bool comesBeforeShortcuts(quint16 keyCode);
+
+/// The command that a key press becomes ("insertNewline:"); empty for none.
+LM_APPKIT QString commandSelector(const NSEvent &event);

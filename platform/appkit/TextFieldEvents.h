@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/appkit/FieldEditor.h"
+#include "platform/appkit/InterfaceOwner.h"
+#include "platform/appkit/NSEvent.h"
+
+#include <QList>
+
+class QKeyEvent;
+
+/// Brings what happens in an interface file's text fields to their delegate and to the window's.
+///
+/// A field takes nothing by itself, no key, paste, drop or input method: what would change its text asks the delegate
+/// first, which may let editing begin. Editing a field lasts from its gaining the focus until another view of its
+/// window has it; a sheet or another window in front only interrupts it.
+class TextFieldEvents : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `file` is the interface file's name for log lines.
+    TextFieldEvents(const QString &file, const InterfaceOwner &owner, QObject *parent);
+
+    void add(QLineEdit *field);
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+private:
+    void focusMoved(QWidget *now);
+    void beginEditing(QLineEdit *field);
+    void endEditing();
+    FieldEditor *editorOf(QLineEdit *field);
+    FieldEditor *askWindowDelegate(QLineEdit *field);
+    bool handleKey(QLineEdit *field, const QKeyEvent &event);
+    bool handleCommand(QLineEdit *field, const NSEvent &event);
+    bool staysUnchanged(QLineEdit *field, const NSEvent &event);
+
+    QByteArray file_;
+    InterfaceOwner owner_;
+    QList<QPointer<QLineEdit>> fields_;
+    QPointer<QLineEdit> edited_;
+    QPointer<FieldEditor> editor_;
+};
