@@ -2,6 +2,8 @@
 
 #include "KTXConstants.h"
 #include "KeyCodeTranslator.h"
+#include "pane/AlertOverEditor.h"
+#include "platform/appkit/FieldEditor.h"
 #include "platform/appkit/NSBeep.h"
 #include "platform/foundation/CFPreferences.h"
 
@@ -67,11 +69,13 @@ void KTXLumarooPreferencePane::warnOfLastModifier()
         NSBeep();
         return;
     }
-    displayAlertwitheMessageAndInformationSuppressionPrefValueAndHelpAnchor(
-        localized(QStringLiteral("At least one modifier must be set")),
-        localized(QStringLiteral("At least one modifier must be set to activate Lumaroo. Please select another "
-                                 "modifier before unselecting this one.")),
-        KTXSuppressModAlert, {});
+    displayOverEditor(FieldEditor::forWindow(mainView()), [this] {
+        displayAlertwitheMessageAndInformationSuppressionPrefValueAndHelpAnchor(
+            localized(QStringLiteral("At least one modifier must be set")),
+            localized(QStringLiteral("At least one modifier must be set to activate Lumaroo. Please select another "
+                                     "modifier before unselecting this one.")),
+            KTXSuppressModAlert, {});
+    });
 }
 
 bool KTXLumarooPreferencePane::refreshConflictMarkers()
@@ -89,7 +93,9 @@ void KTXLumarooPreferencePane::warnOfConflicts(const QString &information)
 {
     if (CFBooleanGetValue(CFPreferencesCopyAppValue(KTXsuppressHKeysTaken, KTXLMAppID)))
         return;
-    displayAlertwitheMessageAndInformationSuppressionPrefValueAndHelpAnchor(
-        localized(QStringLiteral("There are conflicts with the marked keys.")), localized(information),
-        KTXsuppressHKeysTaken, {});
+    displayOverEditor(FieldEditor::forWindow(mainView()), [this, &information] {
+        displayAlertwitheMessageAndInformationSuppressionPrefValueAndHelpAnchor(
+            localized(QStringLiteral("There are conflicts with the marked keys.")), localized(information),
+            KTXsuppressHKeysTaken, {});
+    });
 }

@@ -114,13 +114,14 @@ private:
     void performAfterDelayZero(const char *operation, std::function<void()> perform);
     static void logIfDebugging(const QString &text);
     QString localized(const QString &text) const;
-    // Steps of readUserPrefs
+    // Steps of readUserPrefs, then of editing
     void readKeyRepeatAndAnimation();
     void readSortOrdersAndWrapping();
     void readModifiers();
     void readHotKeys();
     void readOverlayColor();
-    // Steps of editing
+    void takeHotKey(QWidget *control, quint16 keyCode);
+    void refuseHotKey(QWidget *control, FieldEditor *fieldEditor, quint16 keyCode);
     bool refreshConflictMarkers();
     void warnOfConflicts(const QString &information);
     void warnOfLastModifier();
@@ -129,9 +130,8 @@ private:
 
     quint32 modifierStateMask_ = 0, toggleStateMask_ = 0;
     int loadedVersion_ = 0;
-    QStringList helpAnchors_;
+    QStringList helpAnchors_, keyCodePrefNames_;
     QVariantMap infoDictionary_;
-    QStringList keyCodePrefNames_;
     KeyCodeTable defaultKeyCodes_, keyCodes_;
     Outlet<QTextEdit> helpFileView_, creditsField_;
     Outlet<QLabel> modifiersField_, delayTextField_, repeatTextField_, enabledState_;

@@ -51,10 +51,10 @@ void pressKey(int evdevCode, const QList<int> &held)
     waitForServer();
 }
 
-void clickAt(QPoint place)
+void clickAt(QPoint place, MouseButton button)
 {
     send(XCB_MOTION_NOTIFY, 0, place);
-    send(XCB_BUTTON_PRESS, 1);
-    send(XCB_BUTTON_RELEASE, 1);
+    send(XCB_BUTTON_PRESS, quint8(button));
+    send(XCB_BUTTON_RELEASE, quint8(button));
     waitForServer();
 }

@@ -13,5 +13,6 @@ inline constexpr int evdevToX11 = 8;
 void pressKey(int evdevCode, const QList<int> &held = {});
 void keyDown(int evdevCode);
 void keyUp(int evdevCode);
-/// Moves the pointer to a place of the screen (in pixels) and clicks the left button.
-void clickAt(QPoint place);
+enum class MouseButton : quint8 { Left = 1, Middle = 2, Right = 3 };
+/// Moves the pointer to a place of the screen (in pixels) and clicks a button.
+void clickAt(QPoint place, MouseButton button = MouseButton::Left);

@@ -1,0 +1,153 @@
+// A hot key field takes keys, and nothing else puts a text into it.
+
+#include "KeyPress.h"
+#include "OpenAlert.h"
+#include "PaneOnHotKeyPage.h"
+#include "Wait.h"
+
+#include "KTXConstants.h"
+#include "platform/appkit/FieldEditor.h"
+
+#include <QClipboard>
+#include <QDragEnterEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <linux/input-event-codes.h>
+
+namespace {
+
+enum Row { Up, Right, Down, Left, Under, OpenPrefPane, Screenshot, CloseWindow, Preview, Cancel, Snap };
+
+class HotKeyFieldProtection : public PaneOnHotKeyPage
+{
+protected:
+    /// The page with the field for S in focus, and text waiting to be pasted.
+    void showPageWithTextToPaste()
+    {
+        QGuiApplication::clipboard()->setText("pasted", QClipboard::Clipboard);
+        QGuiApplication::clipboard()->setText("selected", QClipboard::Selection);
+        store().set(KTXsuppressHKeysTaken, true);
+        storeKey(Right, 126);
+        showPage();
+        focus(Screenshot);
+        setHidden(viewWithTag(pane().mainView(), 5), true);
+    }
+    void expectUnchanged()
+    {
+        EXPECT_EQ(shown(Screenshot), "S");
+        EXPECT_EQ(keyCode(Screenshot), 1);
+        EXPECT_EQ(focusedRow(), Screenshot);
+        EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+        EXPECT_FALSE(openAlert());
+        expectNothingStored();
+    }
+    void expectMarkersRefreshed() { EXPECT_EQ(markedRows(), (QList<int>{Up, Right})); }
+    void click(MouseButton button)
+    {
+        clickAt(field(Screenshot)->mapToGlobal(field(Screenshot)->rect().center()), button);
+        press(KEY_RIGHTSHIFT); // by then the click has been handled
+    }
+};
+
+} // namespace
+
+TEST_F(HotKeyFieldProtection, pastingByKeysTakesTheKeyOrNothing)
+{
+    showPageWithTextToPaste();
+    press(KEY_INSERT, {KEY_LEFTSHIFT});
+    expectUnchanged();
+    press(KEY_V, {KEY_LEFTCTRL});
+    expectTaken(Screenshot, 9, "V");
+}
+
+TEST_F(HotKeyFieldProtection, pastingByTheMiddleButtonOnlyRefreshesTheMarkers)
+{
+    showPageWithTextToPaste();
+    click(MouseButton::Middle);
+    expectMarkersRefreshed();
+    expectUnchanged();
+}
+
+TEST_F(HotKeyFieldProtection, thereIsNoContextMenu)
+{
+    showPageWithTextToPaste();
+    click(MouseButton::Right);
+    expectUnchanged();
+    press(KEY_COMPOSE);
+    expectUnchanged();
+    press(KEY_F10, {KEY_LEFTSHIFT});
+    expectUnchanged();
+}
+
+TEST_F(HotKeyFieldProtection, deletingKeysDeleteNothing)
+{
+    showPageWithTextToPaste();
+    for (const int key : {KEY_BACKSPACE, KEY_DELETE}) {
+        for (const QList<int> &held : {QList<int>{}, QList<int>{KEY_LEFTCTRL}, QList<int>{KEY_LEFTSHIFT}}) {
+            field(Screenshot)->selectAll();
+            press(key, held);
+            expectUnchanged();
+        }
+    }
+}
+
+TEST_F(HotKeyFieldProtection, thereIsNothingToUndo)
+{
+    showPageWithTextToPaste();
+    press(KEY_B);
+    expectTaken(Screenshot, 11, "B");
+    field(Screenshot)->undo();
+    EXPECT_EQ(shown(Screenshot), "B");
+    press(KEY_BACKSPACE, {KEY_LEFTALT}); // undoes, in a text field
+    EXPECT_EQ(shown(Screenshot), "B");
+    press(KEY_Z, {KEY_LEFTCTRL});
+    expectTaken(Screenshot, 6, "Z");
+}
+
+TEST_F(HotKeyFieldProtection, aDragIsTurnedAway)
+{
+    showPageWithTextToPaste();
+    QMimeData text;
+    text.setText("dropped");
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QApplication::sendEvent(field(Screenshot), &enter);
+    EXPECT_FALSE(enter.isAccepted());
+    EXPECT_FALSE(field(Screenshot)->acceptDrops());
+    expectUnchanged();
+}
+
+TEST_F(HotKeyFieldProtection, inputMethodsAreKeptAwayAndTheirTextRefused)
+{
+    showPageWithTextToPaste();
+    QInputMethodQueryEvent query(Qt::ImEnabled);
+    QApplication::sendEvent(field(Screenshot), &query);
+    EXPECT_FALSE(query.value(Qt::ImEnabled).toBool());
+    QInputMethodEvent text;
+    text.setCommitString("漢");
+    QApplication::sendEvent(field(Screenshot), &text);
+    expectMarkersRefreshed();
+    expectUnchanged();
+}
+
+TEST_F(HotKeyFieldProtection, anEventThatIsNoKeyPressOnlyRefreshesTheMarkers)
+{
+    showPageWithTextToPaste();
+    FieldEditor *editor = FieldEditor::existingForWindow(window());
+    EXPECT_FALSE(pane().controlTextShouldBeginEditing(field(Screenshot), editor));
+    expectMarkersRefreshed();
+    expectUnchanged();
+    EXPECT_FALSE(pane().controlTextViewDoCommandBySelector(field(Screenshot), editor, "moveLeft:"));
+    expectUnchanged();
+}
+
+TEST_F(HotKeyFieldProtection, aViewThatIsNoRowStoresNothing)
+{
+    showPageWithTextToPaste();
+    QLineEdit stranger(window());
+    for (const int strangersTag : {-1, 11, 100}) {
+        stranger.setProperty("tag", strangersTag);
+        EXPECT_FALSE(pane().controlTextShouldBeginEditing(&stranger, FieldEditor::forWindow(window())));
+    }
+    expectUnchanged();
+}

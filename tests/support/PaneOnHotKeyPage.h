@@ -1,0 +1,45 @@
+#pragma once
+
+#include "BellListener.h"
+#include "PaneOnRealStore.h"
+
+#include <QLineEdit>
+
+/// The hot key page on screen, with keys that a test gives it; what a key press changes is compared as a whole.
+class PaneOnHotKeyPage : public PaneOnRealStore
+{
+protected:
+    ~PaneOnHotKeyPage() override;
+
+    /// Stores a key for a row, before the page is shown.
+    void storeKey(int row, int keyCode) const;
+    /// Gives every row a code that no key has, so that every key is free.
+    void storeNoKeys() const;
+    void showPage();
+
+    QLineEdit *field(int row) { return qobject_cast<QLineEdit *>(keyField(row)); }
+    QString shown(int row) { return field(row)->text(); }
+    void focus(int row);
+    /// The row whose field has the focus, -1 for none.
+    int focusedRow();
+    int keyCode(int row) { return pane().keyCodes()->at(row); }
+    QList<int> markedRows();
+
+    /// Presses a key and waits until it has been handled.
+    void press(int evdevCode, const QList<int> &held = {});
+    void pressIn(int row, int evdevCode, const QList<int> &held = {});
+
+    /// From here on changes are counted.
+    void rememberStore();
+    /// Since then exactly this key was stored for a row, the agent was told once, and the field shows the label.
+    void expectTaken(int row, int keyCode, const QString &label);
+    /// Since then nothing was stored and nobody was told anything.
+    void expectNothingStored();
+
+    QWidget *window() { return pane().mainView()->window(); }
+
+    BellListener bell;
+
+private:
+    QVariantMap before_;
+};
