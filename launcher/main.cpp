@@ -22,13 +22,15 @@ int fail(const std::string &what)
     return EXIT_FAILURE;
 }
 
-void waitForEndOfInput()
+/// False where the input cannot be read: then nobody knows whether the settings have ended.
+bool waitForEndOfInput()
 {
     char ignored[256];
     ssize_t size = 0;
     do
         size = read(STDIN_FILENO, ignored, sizeof ignored);
     while (size > 0 || (size < 0 && errno == EINTR));
+    return size == 0;
 }
 
 void emptyInput()
@@ -53,7 +55,7 @@ int openAgain(std::string host, std::string pane)
 
 int main(int argumentCount, char **arguments)
 {
-    openlog(nullptr, LOG_PID, LOG_USER);
+    openlog("launcher", LOG_PID | LOG_PERROR, LOG_USER);
     if (argumentCount != 3)
         return fail("two arguments are needed: the pane's bundle, and Yes or No");
     const char *host = std::getenv(hostVariable);
@@ -62,7 +64,8 @@ int main(int argumentCount, char **arguments)
     const bool isVerbose = arguments[2] == std::string_view("Yes");
     if (isVerbose)
         syslog(LOG_NOTICE, "lumaroo: launcher: waiting for %s to end", host);
-    waitForEndOfInput();
+    if (!waitForEndOfInput())
+        return fail(std::string("cannot read its input: ") + std::strerror(errno));
     if (isVerbose)
         syslog(LOG_NOTICE, "lumaroo: launcher: opening %s with %s", host, arguments[1]);
     return openAgain(host, arguments[1]);

@@ -2,11 +2,11 @@
 
 #include "KTXConstants.h"
 #include "platform/appkit/NSApplication.h"
+#include "platform/foundation/CFNotificationCenter.h"
 #include "platform/foundation/CFPreferences.h"
 #include "platform/foundation/Description.h"
 #include "platform/foundation/LaunchServices.h"
 #include "platform/foundation/NSBundle.h"
-#include "platform/foundation/NSDistributedNotificationCenter.h"
 #include "platform/foundation/NSException.h"
 #include "platform/foundation/NSLog.h"
 #include "platform/foundation/NSNotificationCenter.h"
@@ -94,8 +94,8 @@ bool KTXLumarooPreferencePane::startAgent()
 void KTXLumarooPreferencePane::stopAgent()
 {
     logIfDebugging(QStringLiteral("stopAgent"));
-    NSDistributedNotificationCenter::defaultCenter()->postNotificationNameObjectUserInfoDeliverImmediately(
-        KTXLMAgentShouldTerminate, KTXLMAppID, {}, true);
+    CFNotificationCenterPostNotification(
+        CFNotificationCenterGetDistributedCenter(), KTXLMAgentShouldTerminate, KTXLMAppID, {}, true);
 }
 
 void KTXLumarooPreferencePane::relaunch()

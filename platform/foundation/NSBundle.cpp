@@ -64,11 +64,12 @@ QString NSBundle::Private::existingResource(const QString &fileName)
 
 namespace {
 
+const QString codeFolder = QStringLiteral("/Contents/Linux");
+
 QString folderOfMainBundle()
 {
     const QFileInfo executable(runningExecutablePath());
     const QString folder = executable.path();
-    static const QString codeFolder = QStringLiteral("/Contents/Linux");
     return folder.endsWith(codeFolder) ? folder.chopped(codeFolder.size()) : folder;
 }
 
@@ -112,8 +113,14 @@ QString NSBundle::resourcePath() const
 
 QString NSBundle::executablePath() const
 {
-    const QString executable = infoDictionary().value(QStringLiteral("CFBundleExecutable")).toString();
-    return executable.isEmpty() ? QString() : d->path + QStringLiteral("/Contents/Linux/") + executable;
+    return executablePathNamedBy(infoDictionary(), d->path);
+}
+
+QString NSBundle::executablePathNamedBy(const QVariantMap &infoDictionary, const QString &bundlePath)
+{
+    const QVariant value = infoDictionary.value(QStringLiteral("CFBundleExecutable"));
+    const QString name = value.typeId() == QMetaType::QString ? value.toString() : QString();
+    return name.isEmpty() || name.contains(u'/') ? QString() : bundlePath + codeFolder + u'/' + name;
 }
 
 QString NSBundle::bundleIdentifier() const

@@ -63,6 +63,9 @@ public:
 
     /// Reads an Info.plist afresh from disk; empty when it is missing or unreadable.
     static QVariantMap infoDictionaryOnDisk(const QString &bundlePath);
+    /// Where the program stands that such a dictionary names, whether or not it exists; empty when it names none, or
+    /// one outside the bundle.
+    static QString executablePathNamedBy(const QVariantMap &infoDictionary, const QString &bundlePath);
 
 private:
     explicit NSBundle(const QString &path);

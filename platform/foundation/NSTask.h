@@ -6,8 +6,9 @@
 #include <QStringList>
 #include <memory>
 
-/// A pipe. Its write end stays with this process, and with no other, until this process ends, also after the object is
-/// gone: whoever reads from the other end sees the end of file when this process's life ends, however it ends.
+/// A pipe. Once a task has been launched with it, its write end stays with this process, and with no other, until this
+/// process ends, also after the object is gone: whoever reads from the other end sees the end of file when this
+/// process's life ends, however it ends.
 class LM_FOUNDATION NSPipe
 {
 public:
@@ -18,10 +19,12 @@ public:
     NSPipe &operator=(const NSPipe &) = delete;
 
     int fileDescriptorForReading() const { return readEnd_; }
+    /// From now on the write end outlives the object.
+    void keepWriteEndOpen() { writeEnd_ = -1; }
 
 private:
-    explicit NSPipe(int readEnd) : readEnd_(readEnd) { }
-    int readEnd_;
+    NSPipe(int readEnd, int writeEnd) : readEnd_(readEnd), writeEnd_(writeEnd) { }
+    int readEnd_, writeEnd_;
 };
 
 /// A program run as a process of its own, which outlives this one. The object may go at any time.

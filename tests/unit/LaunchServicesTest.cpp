@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Lets an application write down how it finds itself, and then wait to be ended.
+/// Lets an application write down how it finds itself.
 const QByteArray selfReport = R"(
 report=${0%/*}/report
 {
@@ -34,6 +34,19 @@ protected:
         const FSRef reference{application.path()};
         const LSApplicationParameters parameters{0, kLSLaunchDontSwitch | kLSLaunchAsync, &reference};
         return LSOpenApplication(&parameters, process);
+    }
+
+    OSStatus openWithClosedStreams(ProcessSerialNumber *process)
+    {
+        const int input = ::dup(STDIN_FILENO), output = ::dup(STDOUT_FILENO);
+        ::close(STDIN_FILENO);
+        ::close(STDOUT_FILENO);
+        const OSStatus status = open(process);
+        ::dup2(input, STDIN_FILENO);
+        ::dup2(output, STDOUT_FILENO);
+        ::close(input);
+        ::close(output);
+        return status;
     }
 
     void replaceProgram(const QByteArray &script)
@@ -152,6 +165,33 @@ TEST_F(Launch, aBrokenInfoDictionaryIsAnError)
     EXPECT_EQ(failure(), kLSApplicationNotFoundErr);
     ASSERT_TRUE(QFile::remove(application.path() + QStringLiteral("/Contents/Info.plist")));
     EXPECT_EQ(failure(), kLSApplicationNotFoundErr);
+}
+
+TEST_F(Launch, anInfoDictionaryThatNamesNoProgramOfTheBundleIsAnError)
+{
+    for (const QVariant &name : {QVariant(true), QVariant(7), QVariant(QString()), QVariant("../../outside")}) {
+        application.bundle().writeInfo({{"CFBundleIdentifier", "test.application"}, {"CFBundleExecutable", name}});
+        EXPECT_EQ(failure(), kLSApplicationNotFoundErr) << name.typeName();
+    }
+}
+
+TEST_F(Launch, worksWhereOurOwnStandardStreamsAreClosed)
+{
+    replaceProgram(selfReport);
+    ProcessSerialNumber process;
+    const OSStatus status = openWithClosedStreams(&process);
+    EXPECT_EQ(status, noErr);
+    const QStringList lines = report();
+    EXPECT_EQ(lines.filter(QStringLiteral(" 0 -> /dev/null")).size(), 1);
+    EXPECT_EQ(lines.filter(QStringLiteral(" 1 -> ")).size(), 1);
+}
+
+TEST_F(Launch, reportsAFailureWhereOurOwnStandardStreamsAreClosed)
+{
+    ASSERT_TRUE(QFile::remove(application.program()));
+    ProcessSerialNumber process;
+    const OSStatus status = openWithClosedStreams(&process);
+    EXPECT_EQ(status, kLSNoExecutableErr);
 }
 
 TEST_F(Launch, whatTheCallerMustGiveIsChecked)

@@ -65,10 +65,24 @@ TEST_F(Launcher, waitsUntilTheEndHoweverMuchIsWritten)
     EXPECT_EQ(output().first(), paneBundle);
 }
 
+TEST_F(Launcher, saysWhatItDoesOnlyWhenAskedTo)
+{
+    start({paneBundle, QStringLiteral("No")});
+    EXPECT_EQ(exitStatus(), 0);
+    EXPECT_EQ(process.readAllStandardError(), QByteArray());
+    start({paneBundle, QStringLiteral("Yes")});
+    EXPECT_EQ(exitStatus(), 0);
+    const QStringList lines = QString::fromUtf8(process.readAllStandardError()).trimmed().split(u'\n');
+    ASSERT_EQ(lines.size(), 2);
+    EXPECT_TRUE(lines[0].endsWith(QStringLiteral("waiting for %1 to end").arg(host())));
+    EXPECT_TRUE(lines[1].endsWith(QStringLiteral("opening %1 with %2").arg(host(), paneBundle)));
+}
+
 TEST_F(Launcher, failsWithoutTwoArguments)
 {
     start({paneBundle});
     EXPECT_EQ(exitStatus(), 1);
+    EXPECT_TRUE(process.readAllStandardError().contains("two arguments are needed"));
 }
 
 TEST_F(Launcher, failsWhenNobodyNamesTheSettingsApplication)

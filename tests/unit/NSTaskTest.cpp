@@ -4,6 +4,7 @@
 #include "platform/foundation/NSException.h"
 #include "platform/foundation/NSTask.h"
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <csignal>
@@ -99,10 +100,13 @@ TEST_F(Task, theProgramWaitsForAsLongAsTheLaunchingProcessLives)
     EXPECT_FALSE(isDone());
 }
 
-TEST_F(Task, aProgramThatCannotBeRunIsAnException)
+TEST_F(Task, aProgramThatCannotBeRunIsAnExceptionAndLeavesNothingOpen)
 {
+    const auto openFiles = [] { return QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::System).size(); };
+    const qsizetype before = openFiles();
     QFile::setPermissions(program(), QFile::ReadOwner);
     EXPECT_THROW(launchWithPipe(), NSException);
+    EXPECT_EQ(openFiles(), before);
     ASSERT_TRUE(QFile::remove(program()));
     EXPECT_THROW(launchWithPipe(), NSException);
 }

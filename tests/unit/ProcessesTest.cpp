@@ -156,17 +156,31 @@ TEST(Processes, anApplicationKeepsItsIdentifierWhenItsBundleIsMovedAway)
     EXPECT_EQ(identifierOf(process), identifier);
 }
 
-TEST(Processes, anApplicationKeepsItsIdentifierWhenItsBundleIsExchangedForAnother)
+TEST(Processes, anApplicationKeepsItsIdentifierWhenItsBundleIsMovedAwayAndRemoved)
 {
     TestApplication application;
     const ProcessSerialNumber process = application.launch();
     const QString moved = QFileInfo(application.path()).path() + QStringLiteral("/Old.app");
     ASSERT_TRUE(QDir().rename(application.path(), moved));
     ASSERT_TRUE(QDir(moved).removeRecursively());
-    EXPECT_EQ(identifierOf(process), identifier) << "nothing in its place";
+    EXPECT_EQ(identifierOf(process), identifier);
+}
+
+TEST(Processes, anApplicationStartedByHandKeepsItsIdentifierWhenItsBundleIsExchangedInPlace)
+{
+    const TestApplication application;
+    QProcess process;
+    process.start(application.program(), {});
+    ASSERT_TRUE(process.waitForStarted());
+    ASSERT_TRUE(QDir(application.path()).removeRecursively());
+    const ProcessSerialNumber number{0, quint32(process.processId())};
+    EXPECT_EQ(identifierOf(number), QString()) << "nobody can tell now";
     const TestApplication another(identifier);
     ASSERT_TRUE(QDir().rename(another.path(), application.path()));
-    EXPECT_EQ(identifierOf(process), identifier);
+    EXPECT_EQ(identifierOf(number), identifier);
+    EXPECT_EQ(informationAbout(number).value(kCFBundleExecutableKey), application.program());
+    process.kill();
+    process.waitForFinished();
 }
 
 TEST(Processes, aProcessThatHasEndedHasNoInformation)

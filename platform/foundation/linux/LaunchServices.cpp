@@ -2,6 +2,7 @@
 
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSLog.h"
+#include "platform/foundation/Processes.h"
 #include "platform/foundation/linux/ApplicationIdentifier.h"
 #include "platform/foundation/linux/ProgramStart.h"
 
@@ -67,9 +68,8 @@ OSStatus LSOpenApplication(const LSApplicationParameters *parameters, ProcessSer
     const QString &path = parameters->application->path;
     // As it stands now: the bundle may have been exchanged since this process first looked at it.
     const QVariantMap info = NSBundle::infoDictionaryOnDisk(path);
-    const QString program = info.value(QStringLiteral("CFBundleExecutable")).toString();
+    const QString program = NSBundle::executablePathNamedBy(info, path);
     if (program.isEmpty())
         return kLSApplicationNotFoundErr;
-    return launch(path + QStringLiteral("/Contents/Linux/") + program,
-        info.value(QStringLiteral("CFBundleIdentifier")).toString(), process);
+    return launch(program, info.value(kCFBundleIdentifierKey).toString(), process);
 }

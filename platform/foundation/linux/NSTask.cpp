@@ -18,13 +18,14 @@ std::shared_ptr<NSPipe> NSPipe::pipe()
         throw NSException(QStringLiteral("NSFileHandleOperationException"),
             QStringLiteral("no pipe: %1").arg(QString::fromLocal8Bit(std::strerror(errno))));
     }
-    // The write end is left open on purpose: the system closes it when this process ends.
-    return std::shared_ptr<NSPipe>(new NSPipe(ends[0]));
+    return std::shared_ptr<NSPipe>(new NSPipe(ends[0], ends[1]));
 }
 
 NSPipe::~NSPipe()
 {
     ::close(readEnd_);
+    if (writeEnd_ >= 0)
+        ::close(writeEnd_);
 }
 
 void NSTask::launch()
@@ -40,4 +41,6 @@ void NSTask::launch()
         throw NSException(QStringLiteral("NSInvalidArgumentException"),
             QStringLiteral("%1 cannot be run: %2").arg(launchPath_, QString::fromLocal8Bit(std::strerror(error))));
     }
+    if (standardInput_)
+        standardInput_->keepWriteEndOpen(); // on purpose: the system closes it when this process ends
 }

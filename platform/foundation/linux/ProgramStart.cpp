@@ -40,19 +40,28 @@ std::vector<char *> pointersTo(QByteArrayList &texts)
     return pointers;
 }
 
+/// The same open file under a number that no standard stream has; closed on exec.
+FileDescriptor aboveStandardStreams(int descriptor)
+{
+    return FileDescriptor(::fcntl(descriptor, F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
+}
+
 /// Everything that the new process needs, made before there is one: between fork and exec nothing may be allocated.
 struct PreparedStart
 {
     explicit PreparedStart(const ProgramStart &start)
         : argumentTexts(QByteArrayList{start.executable} + start.arguments),
           environmentTexts(environmentWith(start.environment)), arguments(pointersTo(argumentTexts)),
-          environment(pointersTo(environmentTexts)), standardInput(start.standardInput)
+          environment(pointersTo(environmentTexts)),
+          nothing(aboveStandardStreams(FileDescriptor::opened("/dev/null", O_RDWR).get()))
     {
+        if (start.standardInput >= 0)
+            standardInput = aboveStandardStreams(start.standardInput);
     }
 
     QByteArrayList argumentTexts, environmentTexts;
     std::vector<char *> arguments, environment;
-    int standardInput;
+    FileDescriptor nothing, standardInput;
 };
 
 /// What the new process tells before it becomes the program; once it has, the pipe's end tells that.
@@ -68,6 +77,25 @@ void tell(int pipe, const Report &report)
     [[maybe_unused]] const ssize_t written = uninterrupted([&] { return ::write(pipe, &report, sizeof report); });
 }
 
+/// Blocks every signal for its lifetime: what reaches the new process before it is the program must not run our
+/// handlers in it.
+class BlockedSignals
+{
+public:
+    BlockedSignals()
+    {
+        sigset_t all;
+        ::sigfillset(&all);
+        ::pthread_sigmask(SIG_SETMASK, &all, &before_);
+    }
+    ~BlockedSignals() { ::pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+    BlockedSignals(const BlockedSignals &) = delete;
+    BlockedSignals &operator=(const BlockedSignals &) = delete;
+
+private:
+    sigset_t before_;
+};
+
 void resetSignals()
 {
     struct sigaction asDefault = {};
@@ -79,30 +107,23 @@ void resetSignals()
     ::sigprocmask(SIG_SETMASK, &none, nullptr);
 }
 
-void closeOthersOnExec()
+bool closeOthersOnExec()
 {
-    constexpr unsigned firstOther = STDERR_FILENO + 1;
-    if (::close_range(firstOther, UINT_MAX, CLOSE_RANGE_CLOEXEC) == 0)
-        return;
-    // An older kernel.
-    const long last = ::sysconf(_SC_OPEN_MAX);
-    for (long descriptor = firstOther; descriptor < last; ++descriptor)
-        ::fcntl(int(descriptor), F_SETFD, FD_CLOEXEC);
+    return ::close_range(STDERR_FILENO + 1, UINT_MAX, CLOSE_RANGE_CLOEXEC) == 0;
 }
 
-bool connectStandardStreams(int standardInput)
+bool connectStandardStreams(int standardInput, int nothing)
 {
-    const int nothing = ::open("/dev/null", O_RDWR | O_CLOEXEC);
     const int input = standardInput >= 0 ? standardInput : nothing;
-    return nothing >= 0 && ::dup2(input, STDIN_FILENO) >= 0 && ::dup2(nothing, STDOUT_FILENO) >= 0
+    return ::dup2(input, STDIN_FILENO) >= 0 && ::dup2(nothing, STDOUT_FILENO) >= 0
         && ::dup2(nothing, STDERR_FILENO) >= 0;
 }
 
 [[noreturn]] void becomeProgram(const PreparedStart &start, int pipe)
 {
     tell(pipe, {::getpid(), 0});
-    if (::setsid() >= 0 && connectStandardStreams(start.standardInput) && ::chdir("/") == 0) {
-        closeOthersOnExec();
+    if (::setsid() >= 0 && connectStandardStreams(start.standardInput.get(), start.nothing.get()) && ::chdir("/") == 0
+        && closeOthersOnExec()) {
         resetSignals();
         ::execve(start.arguments.front(), start.arguments.data(), start.environment.data());
     }
@@ -113,7 +134,7 @@ bool connectStandardStreams(int standardInput)
 /// The process in between ends at once, so that the program is the system's child and not ours.
 [[noreturn]] void leaveProgramToTheSystem(const PreparedStart &start, int pipe)
 {
-    const pid_t process = ::fork();
+    const pid_t process = ::_Fork(); // runs no handlers of other threads' libraries
     if (process == 0)
         becomeProgram(start, pipe);
     if (process < 0)
@@ -142,12 +163,17 @@ StartedProgram startProgram(const ProgramStart &start)
     std::array<int, 2> ends;
     if (::pipe2(ends.data(), O_CLOEXEC) != 0)
         return {0, errno};
-    FileDescriptor reading(ends[0]), writing(ends[1]);
+    FileDescriptor reading(ends[0]), lowWriting(ends[1]);
+    FileDescriptor writing = aboveStandardStreams(lowWriting.get());
+    if (!writing || !prepared.nothing)
+        return {0, errno};
+    const BlockedSignals blocked;
     const pid_t between = ::fork();
     if (between < 0)
         return {0, errno};
     if (between == 0)
         leaveProgramToTheSystem(prepared, writing.get());
+    lowWriting.close();
     writing.close();
     const StartedProgram started = hear(reading.get());
     uninterrupted([&] { return ::waitpid(between, nullptr, 0); });

@@ -7,5 +7,7 @@
 
 QString runningExecutablePath()
 {
-    return QFile::decodeName(executableOf(getpid()));
+    // Where it stood at first: a program that is replaced later may be moved out of the way for that.
+    static const QString path = QFile::decodeName(executableOf(getpid()));
+    return path;
 }

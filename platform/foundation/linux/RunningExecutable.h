@@ -2,5 +2,5 @@
 
 #include <QString>
 
-/// The path of this process's executable, also before there is an application object and after the file was replaced.
+/// The path of this process's executable when it was first asked for, also before there is an application object.
 QString runningExecutablePath();
