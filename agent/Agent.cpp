@@ -11,6 +11,7 @@
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSLog.h"
 #include "platform/foundation/NSUserDefaults.h"
+#include "platform/foundation/linux/SessionBus.h"
 
 #include <QCoreApplication>
 #include <utility>
@@ -37,8 +38,9 @@ Agent::Agent(AgentName &name)
 
 void Agent::launch()
 {
-    // First, so that no change falls between reading and hearing.
+    // First, and until the bus knows it, so that no change falls between reading and hearing.
     observePane();
+    waitForSessionBus();
     readSettings();
     markFirstLaunch();
     announceLaunch();
@@ -53,6 +55,7 @@ void Agent::observePane()
     observe(KTXLMPrefsChanged, &Agent::readChange);
     observe(KTXLMAgentShouldTerminate, &Agent::terminate);
     observe(KTXLMPrefPaneLaunched, &Agent::giveWayToNewer);
+    observe(KTXLMRunTutorial, &Agent::hearTutorialRequest);
 }
 
 void Agent::readSettings()
@@ -71,10 +74,12 @@ void Agent::readChange()
 
 void Agent::markFirstLaunch()
 {
-    if (settings_.value(KTXFirstLaunch).isValid())
+    // A mark that could not be stored is seen by us alone, and tried again.
+    if (settings_.value(KTXFirstLaunch).isValid() && !markIsPending_)
         return;
     CFPreferencesSetAppValue(KTXFirstLaunch, true, KTXLMAppID);
-    if (!CFPreferencesAppSynchronize(KTXLMAppID))
+    markIsPending_ = !CFPreferencesAppSynchronize(KTXLMAppID);
+    if (markIsPending_)
         return;
     readSettings();
     announce(KTXLMPrefsChanged);
@@ -109,6 +114,12 @@ void Agent::giveWayToNewer()
         return;
     announceEnd();
     goOn(program, replaceProgram(program, QCoreApplication::arguments().mid(1)));
+}
+
+void Agent::hearTutorialRequest()
+{
+    NSLog(QStringLiteral("lumaroo: agent: the tutorial was asked for; this version has none"));
+    Q_EMIT tutorialRequested();
 }
 
 void Agent::goOn(const QString &program, const QString &error)

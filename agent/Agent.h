@@ -30,6 +30,7 @@ Q_SIGNALS:
     void settingsRead();
     void launched();
     void terminating();
+    void tutorialRequested();
     /// Nothing more comes of this agent; the program exits with `status`.
     void ended(int status);
 
@@ -40,6 +41,7 @@ private:
     void announceLaunch();
     void announceEnd();
     void giveWayToNewer();
+    void hearTutorialRequest();
     void goOn(const QString &program, const QString &error);
 
     AgentName &name_;
@@ -48,4 +50,5 @@ private:
     QVariantMap settings_;
     qint64 readings_ = 0;
     bool hasEnded_ = false;
+    bool markIsPending_ = false; ///< of the first launch, since it could not be stored
 };

@@ -2,7 +2,10 @@
 #include "agent/AgentCommands.h"
 #include "agent/linux/AgentName.h"
 #include "agent/linux/AgentObject.h"
+#include "agent/linux/ProgramReplacement.h"
+#include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSLog.h"
+#include "platform/foundation/linux/ApplicationIdentifier.h"
 #include "platform/foundation/linux/EndingSignals.h"
 
 #include <QCoreApplication>
@@ -24,6 +27,19 @@ void printEvents(const Agent &agent)
     QObject::connect(
         &agent, &Agent::launched, &agent, [&agent] { printLine("launched (version %lld)\n", agent.version()); });
     QObject::connect(&agent, &Agent::terminating, &agent, [] { printLine("terminating\n"); });
+    QObject::connect(&agent, &Agent::tutorialRequested, &agent, [] { printLine("tutorial requested\n"); });
+}
+
+/// Once its bundle is gone a process is known by what it was launched with. Who starts this one by hand or at login
+/// does not say that, so it starts anew, with that said.
+void startAnewWithIdentifier()
+{
+    const QString identifier = NSBundle::mainBundle()->bundleIdentifier();
+    if (identifier.isEmpty() || qEnvironmentVariableIsSet(applicationIdentifierVariable))
+        return;
+    qputenv(applicationIdentifierVariable, identifier.toUtf8());
+    const QString error = replaceProgram(QCoreApplication::applicationFilePath(), QCoreApplication::arguments().mid(1));
+    NSLog(QStringLiteral("lumaroo: agent: cannot start anew: %1; going on").arg(error));
 }
 
 /// False when another runs already.
@@ -55,6 +71,7 @@ void endWithBus()
 
 int runAgent(bool foreground)
 {
+    startAnewWithIdentifier();
     AgentName name;
     Agent agent(name);
     const AgentObject object(agent);

@@ -113,6 +113,20 @@ TEST_F(AgentForTheFirstTime, announcesItselfAlsoWhenNothingCanBeWritten)
     EXPECT_TRUE(stored().isEmpty());
 }
 
+TEST_F(AgentForTheFirstTime, marksItAtTheNextChangeWhenNothingCouldBeWrittenBefore)
+{
+    ASSERT_TRUE(QDir(configFolder()).mkdir("lumaroo"));
+    const QString folder = configFolder() + "/lumaroo";
+    ASSERT_TRUE(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
+    const AgentProgram agent;
+    ASSERT_TRUE(announces({launched()}));
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    recorder.clear();
+    paneAnnounces(KTXLMPrefsChanged);
+    EXPECT_TRUE(announces({{KTXLMPrefsChanged, KTXLMAppID, {}, true}, changedByAgent()}));
+    EXPECT_EQ(stored().keys(), QStringList(KTXFirstLaunch));
+}
+
 TEST_F(Agent, aSecondOneEndsWithALineAndWithoutAWordToThePane)
 {
     AgentProgram first;
