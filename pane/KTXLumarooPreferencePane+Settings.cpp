@@ -156,6 +156,12 @@ void KTXLumarooPreferencePane::syncPrefsAndNotifyAgent()
         CFNotificationCenterGetDistributedCenter(), KTXLMPrefsChanged, KTXLMAppID, {}, true);
 }
 
+void KTXLumarooPreferencePane::storeAndSync(const QString &key, const QVariant &value)
+{
+    CFPreferencesSetAppValue(key, value, KTXLMAppID);
+    syncPrefsAndNotifyAgent();
+}
+
 void KTXLumarooPreferencePane::updatePreferences(const NSNotification &)
 {
     readUserPrefs();

@@ -127,6 +127,10 @@ private:
     void warnOfLastModifier();
     void setOnAgainAfterDelayZero(QObject *button);
     void storeModifierMask();
+    // Steps of enableChecked:
+    void storeAndSync(const QString &key, const QVariant &value);
+    void activateByDoubleClick(QObject *checkBox);
+    void storeSelectedItem(QObject *popUp);
 
     quint32 modifierStateMask_ = 0, toggleStateMask_ = 0;
     int loadedVersion_ = 0;
