@@ -4,7 +4,11 @@
 #include "platform/appkit/SystemColors.h"
 #include "platform/foundation/NSBundle.h"
 
+#include <QClipboard>
+#include <QDragEnterEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
@@ -22,11 +26,21 @@ void paintCheckerboard(QPainter *painter, const QRect &area)
     }
 }
 
+/// The colour that a drop or the clipboard holds, or no valid one.
+QColor colorIn(const QMimeData *data)
+{
+    if (data && data->hasColor())
+        return qvariant_cast<QColor>(data->colorData());
+    const QString text = data ? data->text().trimmed() : QString();
+    return text.startsWith(u'#') ? QColor(text) : QColor();
+}
+
 } // namespace
 
 NSColorWell::NSColorWell(QWidget *parent) : QAbstractButton(parent), color_(NSColor::whiteColor())
 {
     setFocusPolicy(Qt::StrongFocus);
+    setAcceptDrops(true);
     connect(this, &QAbstractButton::clicked, this, &NSColorWell::activate);
     describeColor();
 }
@@ -108,6 +122,10 @@ void NSColorWell::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         click();
+    else if (event->matches(QKeySequence::Copy))
+        copyColor();
+    else if (event->matches(QKeySequence::Paste))
+        takeColor(QGuiApplication::clipboard()->mimeData());
     else
         QAbstractButton::keyPressEvent(event);
 }
@@ -115,4 +133,34 @@ void NSColorWell::keyPressEvent(QKeyEvent *event)
 void NSColorWell::activate()
 {
     NSColorPanel::sharedColorPanel()->orderFrontForWell(this);
+}
+
+void NSColorWell::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (colorIn(event->mimeData()).isValid())
+        event->acceptProposedAction();
+}
+
+void NSColorWell::dropEvent(QDropEvent *event)
+{
+    event->acceptProposedAction();
+    takeColor(event->mimeData());
+}
+
+void NSColorWell::takeColor(const QMimeData *offered)
+{
+    const QColor color = colorIn(offered);
+    if (!color.isValid())
+        return;
+    setColor(calibratedColor(color));
+    Q_EMIT colorPicked();
+}
+
+void NSColorWell::copyColor() const
+{
+    const QColor shown = liveColor(color_);
+    auto *copied = new QMimeData;
+    copied->setColorData(shown);
+    copied->setText(shown.name(shown.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb));
+    QGuiApplication::clipboard()->setMimeData(copied);
 }

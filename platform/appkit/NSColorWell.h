@@ -6,7 +6,10 @@
 #include <QAbstractButton>
 #include <QColor>
 
-/// A field that shows a colour and, when clicked, edits it in the shared colour panel.
+class QMimeData;
+
+/// A field that shows a colour and, when clicked, edits it in the shared colour panel. A colour may also be dropped on
+/// it, or copied from it and pasted into it, as a colour or as its name (#rrggbb).
 ///
 /// Its `action` is performed at each change the user makes; setColor performs none.
 class LM_APPKIT NSColorWell : public QAbstractButton
@@ -36,10 +39,14 @@ Q_SIGNALS:
 protected:
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
     void activate();
+    void takeColor(const QMimeData *offered);
+    void copyColor() const;
     void describeColor();
     void paintBorder(QPainter *painter) const;
     NSColorRef color_;

@@ -53,3 +53,11 @@ QByteArray colorSample(const QByteArray &id)
     const auto found = std::find_if(colorSamples().cbegin(), colorSamples().cend(), hasId);
     return found == colorSamples().cend() ? QByteArray() : found->archive;
 }
+
+QByteArray systemColorArchive()
+{
+    return QByteArray::fromHex(
+        "040b73747265616d747970656481e803840140848484074e53436f6c6f72008484084e534f626a65637400858401630684034040408484"
+        "84084e53537472696e67019484012b0653797374656d868496981b73656c6563746564546578744261636b67726f756e64436f6c6f7286"
+        "849395038402666683abaa2a3f018686");
+}

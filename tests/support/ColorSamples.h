@@ -22,3 +22,5 @@ struct ColorSample
 const QList<ColorSample> &colorSamples();
 /// The archive of a sample; empty for an unknown one.
 QByteArray colorSample(const QByteArray &id);
+/// The archive of the system's own selectedTextBackgroundColor, as it is always written.
+QByteArray systemColorArchive();

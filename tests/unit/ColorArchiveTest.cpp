@@ -7,11 +7,6 @@
 
 namespace {
 
-const QByteArray systemColorArchive = QByteArray::fromHex(
-    "040b73747265616d747970656481e803840140848484074e53436f6c6f72008484084e534f626a65637400858401630684034040408484"
-    "84084e53537472696e67019484012b0653797374656d868496981b73656c6563746564546578744261636b67726f756e64436f6c6f7286"
-    "849395038402666683abaa2a3f018686");
-
 const QByteArray colorHead =
     QByteArray::fromHex("040b73747265616d747970656481e803840140848484074e53436f6c6f72008484084e534f626a6563740085");
 
@@ -89,16 +84,16 @@ TEST(ColorArchive, everySampleButTheSystemColourIsWrittenBackAsItWas)
 
 TEST(ColorArchive, theSystemColourIsAlwaysTheSameBytes)
 {
-    EXPECT_EQ(systemColorArchive.size(), 126);
-    EXPECT_EQ(written(NSColor::selectedTextBackgroundColor()).toHex(), systemColorArchive.toHex());
-    EXPECT_EQ(written(readBack(colorSample("S141"))).toHex(), systemColorArchive.toHex());
+    EXPECT_EQ(systemColorArchive().size(), 126);
+    EXPECT_EQ(written(NSColor::selectedTextBackgroundColor()).toHex(), systemColorArchive().toHex());
+    EXPECT_EQ(written(readBack(colorSample("S141"))).toHex(), systemColorArchive().toHex());
 }
 
 TEST(ColorArchive, theSystemColourComesBackAsTheOneObjectWhateverItWasReadFrom)
 {
-    EXPECT_EQ(readBack(systemColorArchive), NSColor::selectedTextBackgroundColor());
+    EXPECT_EQ(readBack(systemColorArchive()), NSColor::selectedTextBackgroundColor());
     EXPECT_EQ(readBack(colorSample("S141")), NSColor::selectedTextBackgroundColor());
-    QByteArray newerFallback = systemColorArchive;
+    QByteArray newerFallback = systemColorArchive();
     newerFallback.replace(QByteArray::fromHex("abaa2a3f"), QByteArray::fromHex("8e4b1a3f"));
     EXPECT_EQ(readBack(newerFallback), NSColor::selectedTextBackgroundColor());
 }
