@@ -3,6 +3,7 @@
 #include "KTXConstants.h"
 #include "crashreporter/QBCheckForCrash.h"
 #include "pane/HelpBook.h"
+#include "pane/TabIndexes.h"
 #include "platform/appkit/NSColorPanel.h"
 #include "platform/foundation/Boundary.h"
 #include "platform/foundation/CFNotificationCenter.h"
@@ -18,7 +19,6 @@
 
 namespace {
 
-enum Tab { AgentTab = 0, HotKeyTab = 1 };
 constexpr int lastMovementKey = 4;
 constexpr double gapToColorPanel = 10;
 

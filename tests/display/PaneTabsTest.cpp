@@ -1,0 +1,200 @@
+// Turning pages, being asked to come forward, and asking the agent for its tutorial.
+
+#include "CapturedLog.h"
+#include "PaneOnRealStore.h"
+#include "RunningPrograms.h"
+#include "TestApplication.h"
+#include "Wait.h"
+
+#include "KTXConstants.h"
+#include "platform/foundation/CFPreferences.h"
+#include "platform/foundation/NSException.h"
+
+#include <QTabBar>
+
+namespace {
+
+const QString agentBundle = QStringLiteral("Contents/Resources/LumarooAgent.app/Contents/");
+
+class PaneTabs : public PaneOnRealStore
+{
+protected:
+    PaneTabs() { store().set(KTXFirstLaunch, QVariant(true)); }
+    ~PaneTabs() override
+    {
+        killProcessesOf(bundle().path() + u'/' + agentBundle + QStringLiteral("Linux/LumarooAgent"));
+    }
+
+    void turnTo(int page)
+    {
+        selectTabViewItemAtIndex(control("tabbedView"), page);
+        runPendingEvents();
+    }
+
+    void putAgent()
+    {
+        bundle().writeFile(agentBundle + QStringLiteral("Info.plist"), R"(<plist version="1.0"><dict>
+            <key>CFBundleIdentifier</key><string>com.quorvane.LumarooAgent</string>
+            <key>CFBundleExecutable</key><string>LumarooAgent</string></dict></plist>)");
+        bundle().copyProgram(agentBundle + QStringLiteral("Linux/LumarooAgent"), TestApplication::idleProgram());
+    }
+
+    /// A pane that really starts an agent, which then announces itself only where the test does it for it.
+    RecordingPane &paneWithAgent()
+    {
+        putAgent();
+        pane().carryOut({QStringLiteral("startAgent"), QStringLiteral("setAgentVisualsOn:")});
+        calls.clear();
+        bus().clear();
+        return pane();
+    }
+
+    void agentAnnouncesItself()
+    {
+        const qsizetype before = calls.count(QStringLiteral("setAgentVisualsOn:"));
+        bus().post(KTXLMAgentLaunched, KTXLMAgentID);
+        ASSERT_TRUE(waitUntil([&] { return calls.count(QStringLiteral("setAgentVisualsOn:")) > before; }));
+    }
+
+    QList<BusNotification> requests()
+    {
+        QList<BusNotification> posted = bus().notifications();
+        posted.removeIf([](const BusNotification &notification) { return notification.name != KTXLMRunTutorial; });
+        return posted;
+    }
+
+    const QList<BusNotification> oneRequest{{KTXLMRunTutorial, KTXLMAppID, {}, true}};
+};
+
+} // namespace
+
+TEST_F(PaneTabs, everyPageReadsTheSettingsAndOnlyTheFirstTheAgentsState)
+{
+    showPane();
+    const QList<int> pages{1, 2, 3, 4, 5, 0};
+    for (const int page : pages) {
+        store().set(KTXAnimate, QVariant(!store().value(KTXAnimate).toBool()));
+        calls.clear();
+        bus().clear();
+        turnTo(page);
+        EXPECT_EQ(state(control("animateButton")) == NSOnState, store().value(KTXAnimate).toBool()) << "page " << page;
+        EXPECT_EQ(bus().names(), QStringList(KTXLMPrefsChanged));
+        EXPECT_EQ(calls, page == 0 ? QStringList(QStringLiteral("updateAgentVisuals")) : QStringList());
+    }
+}
+
+TEST_F(PaneTabs, aPageTheUserClicksReadsTheSettingsOnce)
+{
+    showPane();
+    bus().clear();
+    QTabBar *bar = control<QTabWidget>("tabbedView")->tabBar();
+    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(3).center());
+    EXPECT_EQ(selectedTabIndex(control("tabbedView")), 3);
+    EXPECT_EQ(bus().names(), QStringList(KTXLMPrefsChanged));
+}
+
+TEST_F(PaneTabs, turningPagesLogsTheIndexWhileDebugging)
+{
+    showPane();
+    store().set(KTXShouldDebug, QVariant(true));
+    const CapturedLog log;
+    turnTo(4);
+    EXPECT_EQ(log.lines(), QStringList(QStringLiteral("Lumaroo prefPane: tabView:didSelectTabVewItem 4")));
+}
+
+TEST_F(PaneTabs, aRequestForAPageBringsTheWindowForwardAndLeavesThePage)
+{
+    showPane();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(waitUntil([&] { return other.isActiveWindow(); }));
+    const QString identifier = control<QTabWidget>("tabbedView")->widget(2)->property("identifier").toString();
+    ASSERT_FALSE(identifier.isEmpty());
+    store().set(KTXShouldDebug, QVariant(true));
+    const CapturedLog log;
+    other.hide();
+    bus().post(KTXPrefPaneToTab, identifier);
+    EXPECT_TRUE(waitUntil([this] { return pane().mainView()->isActiveWindow(); }));
+    ASSERT_TRUE(waitUntil([&] { return !log.lines().isEmpty(); }));
+    EXPECT_EQ(log.lines(), QStringList(QStringLiteral("Lumaroo prefPane: switchToTab: 2")));
+    EXPECT_EQ(selectedTabIndex(control("tabbedView")), 0);
+}
+
+TEST_F(PaneTabs, aRequestForNoPageLeavesEverythingAsItIs)
+{
+    showPane();
+    store().set(KTXShouldDebug, QVariant(true));
+    for (const QString &object : {QStringLiteral("no page"), QString()}) {
+        const CapturedLog log;
+        bus().post(KTXPrefPaneToTab, object);
+        ASSERT_TRUE(waitUntil([&] { return !log.lines().isEmpty(); }));
+        EXPECT_EQ(log.lines(), QStringList(QStringLiteral("Lumaroo prefPane: switchToTab: -1")));
+        EXPECT_EQ(selectedTabIndex(control("tabbedView")), 0);
+    }
+}
+
+TEST_F(PaneTabs, theTutorialIsAskedForAtOnceWhileTheAgentRuns)
+{
+    paneWithAgent().startAgent();
+    calls.clear();
+    performClick(control("tutorialButton"));
+    EXPECT_EQ(calls, QStringList());
+    EXPECT_EQ(requests(), oneRequest);
+    agentAnnouncesItself();
+    EXPECT_EQ(requests(), oneRequest) << "nothing is left behind";
+}
+
+TEST_F(PaneTabs, theTutorialStartsTheAgentAndIsAskedForOnceItHasAnnouncedItself)
+{
+    paneWithAgent();
+    performClick(control("tutorialButton"));
+    EXPECT_EQ(calls, QStringList(QStringLiteral("startAgent")));
+    EXPECT_TRUE(requests().isEmpty());
+    agentAnnouncesItself();
+    EXPECT_EQ(requests(), oneRequest);
+    agentAnnouncesItself();
+    EXPECT_EQ(requests(), oneRequest) << "announced twice";
+}
+
+TEST_F(PaneTabs, anAgentThatNeverAnnouncesItselfIsAskedForNothing)
+{
+    paneWithAgent();
+    performClick(control("tutorialButton"));
+    runPendingEvents();
+    EXPECT_TRUE(requests().isEmpty());
+    destroyPane();
+    bus().post(KTXLMAgentLaunched, KTXLMAgentID);
+    EXPECT_TRUE(requests().isEmpty());
+}
+
+TEST_F(PaneTabs, threePressesInARowAskOnce)
+{
+    pane().carryOut({QStringLiteral("setAgentVisualsOn:")});
+    calls.clear();
+    bus().clear();
+    for (int times = 0; times < 3; ++times)
+        performClick(control("tutorialButton"));
+    EXPECT_EQ(calls.count(QStringLiteral("startAgent")), 3) << "each tries";
+    paneWithAgent().startAgent();
+    agentAnnouncesItself();
+    EXPECT_EQ(requests(), oneRequest) << "the first answer takes back every registration";
+}
+
+TEST_F(PaneTabs, showingThePaneWhileTheAgentRunsSendsAPendingRequest)
+{
+    pane().carryOut({QStringLiteral("setAgentVisualsOn:"), QStringLiteral("updateAgentVisuals")});
+    performClick(control("tutorialButton"));
+    paneWithAgent().startAgent();
+    pane().willSelect();
+    EXPECT_EQ(requests(), oneRequest);
+}
+
+TEST_F(PaneTabs, anAgentThatCannotBeStartedLeavesNoRequestBehind)
+{
+    pane().carryOut({QStringLiteral("startAgent"), QStringLiteral("setAgentVisualsOn:")});
+    const CapturedLog log;
+    EXPECT_THROW(pane().runTutorial(nullptr), AssertionFailure);
+    agentAnnouncesItself();
+    EXPECT_TRUE(requests().isEmpty());
+}
