@@ -4,6 +4,7 @@
 
 #include "KTXConstants.h"
 #include "agent/AgentSettings.h"
+#include "bench/Median.h"
 #include "platform/foundation/CFNotificationCenter.h"
 #include "platform/foundation/CFPreferences.h"
 #include "platform/foundation/linux/SessionBus.h"
@@ -15,7 +16,6 @@
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QThread>
-#include <algorithm>
 #include <cstdio>
 #include <vector>
 
@@ -25,13 +25,6 @@ constexpr int warmUpRounds = 50;
 constexpr int rounds = 1000;
 constexpr int longestWait = 10000; // milliseconds
 constexpr int restSeconds = 5;
-
-double median(std::vector<double> values)
-{
-    const auto middle = values.begin() + std::ptrdiff_t(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
 
 /// A program that writes a line for each thing that it has done.
 class Program

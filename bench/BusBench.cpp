@@ -1,6 +1,7 @@
 // How long a notification takes from its posting until its handler ran, against a raw signal on the same bus in the
 // same run.
 
+#include "bench/Median.h"
 #include "platform/foundation/NSDistributedNotificationCenter.h"
 
 #include <QCoreApplication>
@@ -8,7 +9,6 @@
 #include <QDBusMessage>
 #include <QElapsedTimer>
 #include <QEventLoop>
-#include <algorithm>
 #include <cstdio>
 #include <vector>
 
@@ -40,13 +40,6 @@ public Q_SLOTS:
 private:
     bool hasArrived_ = false;
 };
-
-double median(std::vector<double> values)
-{
-    const auto middle = values.begin() + std::ptrdiff_t(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
 
 template <typename Post>
 double microseconds(Arrival &arrival, Post post)

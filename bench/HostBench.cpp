@@ -6,13 +6,14 @@
 // pixel near its lower left corner, which is flushed last, has the ground colour that the dark scheme gives it. Nothing
 // else on the screen has that colour.
 
+#include "bench/Median.h"
+
 #include <QByteArray>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QStringList>
 #include <QThread>
-#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -123,13 +124,6 @@ std::optional<Measurement> measure(const Screen &screen, const QString &program,
     timer.restart();
     becomes(timer, [&screen] { return screen.window() == XCB_NONE; });
     return measurement;
-}
-
-double median(std::vector<double> values)
-{
-    const auto middle = values.begin() + values.size() / 2;
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
 }
 
 struct Series

@@ -15,10 +15,8 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QSaveFile>
-#include <algorithm>
 #include <cstdio>
 #include <functional>
-#include <memory>
 #include <vector>
 
 namespace {
@@ -109,25 +107,6 @@ public Q_SLOTS:
 private:
     StopWatch *watch_;
 };
-
-double median(std::vector<double> values)
-{
-    const auto middle = values.begin() + std::ptrdiff_t(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
-
-std::unique_ptr<KTXLumarooPreferencePane> openedPane(const QString &bundlePath)
-{
-    NSBundle *bundle = NSBundle::bundleWithPath(bundlePath);
-    auto pane = std::make_unique<KTXLumarooPreferencePane>();
-    if (!pane->initWithBundle(bundle) || !pane->loadMainView())
-        return nullptr;
-    pane->willSelect();
-    pane->mainView()->show();
-    QCoreApplication::processEvents();
-    return pane;
-}
 
 const QLineEdit *lastKeyField(const QWidget *view)
 {

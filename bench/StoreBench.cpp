@@ -2,6 +2,7 @@
 // folder, in the same folder and the same run. And what a flush costs when nothing has changed.
 
 #include "SystemCallFaults.h"
+#include "bench/Median.h"
 #include "platform/foundation/CFPreferences.h"
 #include "platform/foundation/NSUserDefaults.h"
 
@@ -9,7 +10,6 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
-#include <algorithm>
 #include <cstdio>
 #include <fcntl.h>
 #include <unistd.h>
@@ -20,13 +20,6 @@ namespace {
 constexpr int warmUpRounds = 50;
 constexpr int rounds = 300;
 const QString domain = QStringLiteral("com.example.bench");
-
-double median(std::vector<double> values)
-{
-    const auto middle = values.begin() + std::ptrdiff_t(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
 
 template <typename Operation>
 double microseconds(Operation operation)
