@@ -248,7 +248,8 @@ TEST_F(PaneAgentControl, aHigherVersionRelaunchesAndAnyOtherOnlyShows)
     const QList<std::pair<QVariant, bool>> versions{{QStringLiteral("130"), true}, {130, true}, {121, true},
         {QStringLiteral("99999999999999999999"), true}, {QVariant(Q_INT64_C(9223372036854775807)), true}, {120, false},
         {119, false}, {0, false}, {-130, false}, {QStringLiteral("-130"), false}, {QStringLiteral("new"), false},
-        {QString(), false}, {QByteArray("130"), false}, {QStringList{QStringLiteral("130")}, false}, {{}, false}};
+        {QString(), false}, {true, false}, {130.5, true}, {std::nan(""), false}, {130u, true},
+        {QByteArray("130"), false}, {QStringList{QStringLiteral("130")}, false}, {{}, false}};
     for (const auto &[version, relaunches] : versions) {
         calls.clear();
         pane().setAgentVisualsOff();
@@ -326,6 +327,35 @@ TEST_F(PaneAgentControl, anotherProgramMayAskThePaneToLaunchTheAgent)
     controllingPane();
     bus().post(KTXLMPrefPaneLaunchAgent, {});
     EXPECT_TRUE(waitUntil([] { return agents().size() == 1; }));
+}
+
+TEST_F(PaneAgentControl, aRequestToLaunchTheAgentWhileItRunsLaunchesNoSecondOne)
+{
+    putAgent();
+    controllingPane().startAgent();
+    const QList<pid_t> running = agents();
+    calls.clear();
+    bus().post(KTXLMPrefPaneLaunchAgent, {});
+    ASSERT_TRUE(waitUntil([this] { return calls.contains(QStringLiteral("startAgent")); }));
+    EXPECT_EQ(agents(), running);
+}
+
+TEST_F(PaneAgentControl, aFirstRunWithoutAnAgentEndsTheLoadingThere)
+{
+    paneWithoutView().carryOut({QStringLiteral("startAgent")});
+    EXPECT_THROW(pane(), AssertionFailure);
+    EXPECT_EQ(paneWithoutView().loadedVersion(), 0);
+    EXPECT_EQ(text("versionField"), QString());
+}
+
+TEST_F(PaneAgentControl, theSwitchFollowsTheAgentWhileThePaneIsHidden)
+{
+    controllingPane();
+    pane().willSelect();
+    pane().willUnselect();
+    pane().didUnselect();
+    bus().post(KTXLMAgentLaunched, KTXLMAgentID);
+    EXPECT_TRUE(waitUntil([this] { return switchState() == NSOnState; }));
 }
 
 TEST_F(PaneAgentControl, eachOperationLogsWhileDebugging)

@@ -84,6 +84,11 @@ bool InstalledProduct::comesBack(pid_t before) const
     });
 }
 
+bool InstalledProduct::launchersWait(int count) const
+{
+    return waitUntil([&] { return processesOf(launcher()).size() == count; });
+}
+
 bool InstalledProduct::agentStarts() const
 {
     return waitUntil([this] { return agents().size() == 1; });

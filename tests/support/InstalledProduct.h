@@ -27,6 +27,7 @@ protected:
     QList<pid_t> hosts() const;
     /// Whether one host, other than `before`, comes to show the pane and no launcher waits any more.
     bool comesBack(pid_t before) const;
+    bool launchersWait(int count) const;
     bool agentStarts() const;
     bool agentEnds() const;
 

@@ -53,6 +53,10 @@ TEST_F(AgentByUser, theFirstRunStartsTheAgentAndShowsItOn)
     firstRun();
     EXPECT_EQ(bus.names().count(KTXLMAgentShouldTerminate), 1) << "one from before would have been asked to go";
     EXPECT_EQ(runningAgentsSetting(KTXFirstLaunch), QJsonValue(true));
+    killProcess(agents().first());
+    settings = std::make_unique<SettingsProgram>(QStringList{pane()});
+    ASSERT_TRUE(settings->waitForWindows(1));
+    EXPECT_NE(settings->settledPicture(), whileOn) << "what was shown was the agent's being on";
 }
 
 TEST_F(AgentByUser, theSwitchTurnsTheAgentOffAndOnAgainByKeyboard)
@@ -62,9 +66,14 @@ TEST_F(AgentByUser, theSwitchTurnsTheAgentOffAndOnAgainByKeyboard)
     EXPECT_TRUE(agentEnds());
     const QImage whileOff = settings->pictureAfterChangeFrom(whileOn);
     ASSERT_FALSE(whileOff.isNull());
+    bus.clear();
     pressSwitch();
     EXPECT_TRUE(agentStarts());
-    EXPECT_TRUE(waitUntil([&] { return settings->settledPicture() != whileOff; }));
+    EXPECT_TRUE(waitUntil([this] { return bus.names().contains(KTXLMAgentLaunched); }));
+    const QImage whileOnAgain = settings->settledPicture();
+    // The switch has the focus now; apart from it and its frame the page is as it was.
+    const QRect change = changedPlace(whileOn, whileOnAgain);
+    EXPECT_LT(change.width(), changedPlace(whileOff, whileOnAgain).width()) << "the line is back";
     pressSwitch();
     EXPECT_TRUE(agentEnds());
     EXPECT_TRUE(waitUntil([&] { return settings->settledPicture() == whileOff; }));

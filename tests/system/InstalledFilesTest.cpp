@@ -94,9 +94,9 @@ TEST_F(InstalledFiles, thePaneHasTheAgentAndTheLibraryItRunsWith)
     const QString contents = "lib/lumaroo/PreferencePanes/Lumaroo.prefPane/Contents/";
     const QString agent = contents + "Resources/LumarooAgent.app/Contents/";
     EXPECT_THAT(files(),
-        testing::IsSupersetOf(
-            {agent + "Info.plist", agent + "Linux/LumarooAgent", contents + "Frameworks/liblumaroo-foundation.so.1",
-                QString("share/dbus-1/interfaces/com.quorvane.LumarooAgent.xml")}));
+        testing::IsSupersetOf({agent + "Info.plist", agent + "Linux/LumarooAgent", contents + "Resources/launcher",
+            contents + "Frameworks/liblumaroo-foundation.so.1",
+            QString("share/dbus-1/interfaces/com.quorvane.LumarooAgent.xml")}));
 }
 
 TEST_F(InstalledFiles, theAgentRunsFromWhereverThePrefixIsMovedTo)

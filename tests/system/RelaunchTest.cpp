@@ -39,11 +39,6 @@ protected:
         storeOutside(KTXDownPref, up);
     }
 
-    bool launcherWaits() const
-    {
-        return waitUntil([this] { return processesOf(launcher()).size() == 1; });
-    }
-
     qsizetype countOf(const QString &name) { return bus.names().count(name); }
 
     std::unique_ptr<SettingsProgram> settings;
@@ -116,6 +111,37 @@ TEST_F(Relaunch, threeAnnouncementsInARowEndInOneHost)
     EXPECT_EQ(settings->exitStatus(), 0);
 }
 
+TEST_F(Relaunch, severalLaunchersThatWaitEndInOneHost)
+{
+    makeLeavingAQuestion();
+    startSettings({pane()});
+    const pid_t before = pid_t(settings->processId());
+    for (int times = 1; times <= 3; ++times) {
+        announceAgent(newVersion);
+        ASSERT_TRUE(launchersWait(times));
+    }
+    ASSERT_TRUE(settings->waitForWindows(2));
+    pressKey(KEY_Q);
+    EXPECT_TRUE(comesBack(before));
+    EXPECT_EQ(settings->exitStatus(), 0);
+}
+
+TEST_F(Relaunch, aProgramThatWasReplacedMeanwhileIsTheOneThatComesBack)
+{
+    // A host of its own, so that its file can be replaced as an installer replaces it.
+    const QString copy = QFileInfo(pane()).path() + "/Settings.app/Contents/Linux/lumaroo-settings";
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(copy).path()));
+    ASSERT_TRUE(QFile::copy(HostProgram::builtExecutable(), copy));
+    HostProgram host(copy, {pane()}, QProcessEnvironment::systemEnvironment(), "/");
+    ASSERT_TRUE(waitUntil([&] { return desktopWindowsOfProcess(host.processId()).size() == 1; }));
+    ASSERT_TRUE(QFile::rename(copy, copy + ".old"));
+    ASSERT_TRUE(QFile::copy(HostProgram::builtExecutable(), copy));
+    announceAgent(newVersion);
+    EXPECT_EQ(host.exitStatus(), 0);
+    EXPECT_TRUE(waitUntil([&] { return processesOf(copy).size() == 1; }));
+    killProcessesOf(copy);
+}
+
 TEST_F(Relaunch, settingsThatAreKilledOnTheirWayOutComeBackToo)
 {
     makeLeavingAQuestion();
@@ -123,7 +149,7 @@ TEST_F(Relaunch, settingsThatAreKilledOnTheirWayOutComeBackToo)
     const pid_t before = pid_t(settings->processId());
     announceAgent(newVersion);
     ASSERT_TRUE(settings->waitForWindows(2));
-    ASSERT_TRUE(launcherWaits());
+    ASSERT_TRUE(launchersWait(1));
     settings->signal(SIGKILL);
     EXPECT_TRUE(comesBack(before));
 }
@@ -137,7 +163,7 @@ TEST_F(Relaunch, whoCancelsLeavingKeepsTheSettingsAndTheNextQuitBringsThemBack)
     ASSERT_TRUE(settings->waitForWindows(2));
     pressKey(KEY_ESC);
     ASSERT_TRUE(settings->waitForWindows(1));
-    EXPECT_TRUE(launcherWaits());
+    EXPECT_TRUE(launchersWait(1));
     EXPECT_TRUE(settings->isRunning());
     pressKey(KEY_Q, {KEY_LEFTCTRL});
     ASSERT_TRUE(settings->waitForWindows(2));

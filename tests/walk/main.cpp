@@ -89,8 +89,17 @@ void letAnOutsideChangeArrive(SettingsProgram &settings, const QString &folder)
         QStringLiteral("-bool"), QStringLiteral("false")});
     save(settings.pictureAfterChangeFrom(before), folder, QStringLiteral("outside-change"));
     say(QStringLiteral("- a change made outside (EnableHorizontalWrap off) arrived and shows"));
-    require(waitUntil([] { return runningAgentsSetting(QStringLiteral("EnableHorizontalWrap")) == QJsonValue(false); }),
-        QStringLiteral("the pane passed it on: the agent has read EnableHorizontalWrap as false"));
+}
+
+void changeAnOption()
+{
+    const auto agentReads = [](bool value) {
+        return waitUntil(
+            [value] { return runningAgentsSetting(QStringLiteral("EnableHorizontalWrap")) == QJsonValue(value); });
+    };
+    require(agentReads(false), QStringLiteral("the agent has read EnableHorizontalWrap as false"));
+    pressKey(KEY_W, {KEY_LEFTALT});
+    require(agentReads(true), QStringLiteral("changed in the window, the agent has read it as true"));
 }
 
 void walk(const QString &folder, const QStringList &arguments)
@@ -102,9 +111,11 @@ void walk(const QString &folder, const QStringList &arguments)
     turnEveryPage(settings, folder);
     say(QStringLiteral("- what is stored now:\n") + runDefaults({QStringLiteral("read")}));
     letAnOutsideChangeArrive(settings, folder);
+    changeAnOption();
     pressKey(KEY_Q, {KEY_LEFTCTRL});
     require(settings.exitStatus() == 0, QStringLiteral("the settings quit"));
-    require(runAgent({QStringLiteral("--quit")}).status == 0, QStringLiteral("the agent was still there, and quits"));
+    require(!runningAgent().isEmpty(), QStringLiteral("the agent is still there"));
+    require(runAgent({QStringLiteral("--quit")}).status == 0 && runningAgent().isEmpty(), QStringLiteral("it quits"));
 }
 
 } // namespace
