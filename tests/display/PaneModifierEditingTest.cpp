@@ -8,8 +8,10 @@
 #include "Wait.h"
 
 #include "KTXConstants.h"
+#include "platform/appkit/SystemColors.h"
 #include "platform/foundation/PropertyList.h"
 
+#include <QLineEdit>
 #include <linux/input-event-codes.h>
 
 namespace {
@@ -484,6 +486,24 @@ TEST_F(PaneModifierEditing, withoutModifiersTheFirstOneIsTaken)
     click("commandCheckBox");
     expectStoredMask(0x100, 1);
     EXPECT_EQ(glyphs(), QStringLiteral("⌘"));
+}
+
+TEST_F(PaneModifierEditing, aFieldThatIsBeingEditedWaitsMarkedUnderTheSheets)
+{
+    store().set(KTXsuppressHKeysTaken, true);
+    giveUpAndRightTheSameKey();
+    showModifiers(0x800);
+    store().set(KTXsuppressHKeysTaken, false);
+    auto *field = qobject_cast<QLineEdit *>(keyField(0));
+    for (const int cellTag : {0x800, 0x200}) {
+        field->setFocus();
+        field->deselect();
+        clickCell(cellTag);
+        ASSERT_TRUE(alertComesUp());
+        EXPECT_EQ(field->palette().color(QPalette::Base), liveColor(NSColor::selectedTextBackgroundColor()));
+        EXPECT_EQ(field->selectedText(), field->text());
+        closeAlert();
+    }
 }
 
 TEST_F(PaneModifierEditing, aSecondRefusalWhileASheetIsOpenIsSaidAfterIt)
