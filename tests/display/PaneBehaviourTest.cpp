@@ -12,6 +12,7 @@
 #include <QCheckBox>
 #include <QRadioButton>
 #include <QTest>
+#include <algorithm>
 
 namespace {
 
@@ -248,13 +249,22 @@ TEST_F(PaneBehaviour, aSenderOutsideTheTableStoresAndAnnouncesNothing)
 {
     showPage();
     const QVariantMap before = store().domain();
-    QCheckBox stranger;
-    stranger.setProperty("tag", 76);
-    QComboBox otherItems;
-    otherItems.addItem("Another", 62);
-    QComboBox empty;
-    for (QObject *sender : QList<QObject *>{&stranger, &otherItems, &empty, control("tabbedView"), nullptr})
-        pane().enableChecked(sender);
+    QComboBox popUp;
+    for (int unknown = -1; unknown <= 100; ++unknown) {
+        QCheckBox checkBox;
+        checkBox.setProperty("tag", unknown);
+        const auto hasTag = [unknown](const auto &known) { return known.tag == unknown; };
+        if (unknown != 74 && std::none_of(checkBoxes.begin(), checkBoxes.end(), hasTag))
+            pane().enableChecked(&checkBox);
+        if (std::none_of(items.begin(), items.end(), hasTag))
+            popUp.addItem("Another", unknown);
+    }
+    for (int index = -1; index < popUp.count(); ++index) {
+        popUp.setCurrentIndex(index);
+        pane().enableChecked(&popUp);
+    }
+    pane().enableChecked(control("tabbedView"));
+    pane().enableChecked(nullptr);
     expectNothing(before);
 }
 

@@ -1,5 +1,6 @@
 // The overlay's colour, as a user picks and resets it in the real window.
 
+#include "AgentProgram.h"
 #include "ColorSamples.h"
 #include "PaneOnRealStore.h"
 #include "Wait.h"
@@ -98,6 +99,24 @@ TEST_F(PaneOverlayColor, readingTheSettingsLeavesTheResetButtonAsItIs)
         setEnabled(control("defaultColorButton"), enabled);
         pane().readUserPrefs();
         EXPECT_EQ(canReset(), enabled);
+    }
+}
+
+TEST_F(PaneOverlayColor, everySampleReachesTheAgentAndComesBackFromIt)
+{
+    showPage();
+    const AgentProgram agent;
+    for (const ColorSample &sample : colorSamples()) {
+        const QByteArray expected = sample.id == "S141" ? systemColorArchive() : sample.archive;
+        setColor(well(), NSUnarchiver::unarchiveObjectWithData(sample.archive));
+        pane().updateColorInfo(well());
+        const QJsonValue text = QString::fromLatin1(expected.toBase64());
+        EXPECT_TRUE(waitUntil([&] { return runningAgentsSetting(KTXOverlayColor) == text; })) << sample.id.constData();
+    }
+    for (const QByteArray id : {"S014", "S118", "S131"}) {
+        const QByteArray archive = colorSample(id);
+        runAgent({"--set", KTXOverlayColor, "-data", QString::fromLatin1(archive.toHex())});
+        EXPECT_TRUE(waitUntil([&] { return NSArchiver::archivedDataWithRootObject(well()->color()) == archive; }));
     }
 }
 

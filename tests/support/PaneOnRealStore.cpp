@@ -180,7 +180,11 @@ void PaneOnRealStore::showWindow()
     pane().mainView()->show();
     EXPECT_TRUE(waitUntil([this] {
         const QWidget *active = QApplication::activeWindow();
-        return active && (active == pane().mainView() || active->parentWidget() == pane().mainView());
+        if (active && (active == pane().mainView() || active->parentWidget() == pane().mainView()))
+            return true;
+        // A window that the test before left on its way out may have taken the focus.
+        pane().mainView()->activateWindow();
+        return false;
     }));
 }
 

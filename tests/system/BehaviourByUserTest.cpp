@@ -1,0 +1,99 @@
+// The real settings and the real agent: options changed by keyboard reach it, and what it asks of the settings happens.
+
+#include "AgentProgram.h"
+#include "InstalledProduct.h"
+#include "KTXConstants.h"
+#include "KeyPress.h"
+#include "Wait.h"
+
+#include <QWidget>
+#include <linux/input-event-codes.h>
+
+namespace {
+
+constexpr int behaviourPage = 2;
+
+class BehaviourByUser : public InstalledProduct
+{
+protected:
+    BehaviourByUser() { storeOutside(KTXFirstLaunch, true); }
+
+    void showSettings()
+    {
+        settings = std::make_unique<SettingsProgram>(QStringList{pane()});
+        ASSERT_TRUE(settings->waitForWindows(1));
+        settings->settledPicture();
+    }
+
+    void turnToBehaviour()
+    {
+        QImage shown = settings->settledPicture();
+        for (int page = 0; page < behaviourPage; ++page) {
+            pressKey(KEY_TAB, {KEY_LEFTCTRL});
+            shown = settings->pictureAfterChangeFrom(shown);
+        }
+    }
+
+    static bool agentReads(const QString &key, const QJsonValue &value)
+    {
+        return waitUntil([&] { return runningAgentsSetting(key) == value; });
+    }
+
+    std::unique_ptr<SettingsProgram> settings;
+};
+
+} // namespace
+
+TEST_F(BehaviourByUser, whatIsChangedByKeyboardReachesTheAgent)
+{
+    const AgentProgram agent({"--foreground"}, agentProgram());
+    showSettings();
+    turnToBehaviour();
+    ASSERT_TRUE(agentReads(KTXHWrap, true));
+    pressKey(KEY_W, {KEY_LEFTALT});
+    EXPECT_TRUE(agentReads(KTXHWrap, false));
+    pressKey(KEY_N, {KEY_LEFTALT});
+    EXPECT_TRUE(agentReads(KTXAnimate, true));
+    pressKey(KEY_L, {KEY_LEFTALT}); // into the horizontal order
+    pressKey(KEY_DOWN);
+    EXPECT_TRUE(waitUntil([] { return runningAgentsSetting(KTXHSort) != QJsonValue("FirstSelected"); }));
+}
+
+TEST_F(BehaviourByUser, theTutorialIsAskedOfTheRunningAgent)
+{
+    AgentProgram agent({"--foreground"}, agentProgram());
+    ASSERT_TRUE(agent.waitForLaunch());
+    showSettings();
+    pressKey(KEY_S, {KEY_LEFTALT});
+    EXPECT_TRUE(agent.waitForLine("tutorial requested"));
+    EXPECT_EQ(agents().size(), 1);
+    EXPECT_TRUE(agent.errors().contains("the tutorial was asked for"));
+}
+
+TEST_F(BehaviourByUser, theTutorialStartsAnAgentThatIsOff)
+{
+    showSettings();
+    bus.clear();
+    pressKey(KEY_S, {KEY_LEFTALT});
+    EXPECT_TRUE(waitUntil([this] { return bus.names().contains(KTXLMRunTutorial); }));
+    EXPECT_EQ(bus.names().count(KTXLMRunTutorial), 1);
+    EXPECT_EQ(agents().size(), 1);
+}
+
+TEST_F(BehaviourByUser, aRequestForAPageBringsTheWindowBeforeAnotherProgramsAndLeavesThePage)
+{
+    showSettings();
+    const QImage before = settings->settledPicture();
+    QWidget another;
+    another.setWindowTitle("Another program");
+    another.show();
+    ASSERT_TRUE(waitUntil([] { return activeWindowTitle() == "Another program"; }));
+    bus.post(KTXPrefPaneToTab, "no such page");
+    bus.post(KTXLMPrefsChanged, KTXLMAgentID); // answered after it
+    ASSERT_TRUE(waitUntil([this] { return bus.names().count(KTXLMPrefsChanged) >= 3; }));
+    EXPECT_EQ(activeWindowTitle(), "Another program") << "a page that is not there brings nothing";
+    bus.post(KTXPrefPaneToTab, "behaviour");
+    EXPECT_TRUE(waitUntil([this] { return activeWindow() == settings->windows().first().id; }));
+    another.hide();
+    EXPECT_EQ(settings->settledPicture(), before);
+}
