@@ -198,7 +198,9 @@ TEST_F(HotKeyRefusal, theRefreshShowsTheMovementKeysInCapitalsAndTheirMarkers)
     storeKey(OpenPrefPane, 119);
     storeKey(Preview, 119);
     showPage();
+    pane().readUserPrefs();
     EXPECT_EQ(shown(Up), "Home");
+    rememberStore();
     pane().updateHotKeyFields();
     EXPECT_EQ(shown(Up), "HOME");
     EXPECT_EQ(shown(Right), "HOME");
@@ -226,6 +228,16 @@ TEST_F(HotKeyRefusal, theRefreshTellsOfConflicts)
     EXPECT_EQ(field(Right)->selectedText(), "→");
     closeAlert();
     expectNothingStored();
+}
+
+TEST_F(HotKeyRefusal, turningToThePageRefreshesIt)
+{
+    store().set(KTXsuppressHKeysTaken, true);
+    storeKey(Up, 115);
+    storeKey(Right, 115);
+    showPage();
+    EXPECT_EQ(shown(Up), "HOME");
+    EXPECT_EQ(markedRows(), (QList<int>{Up, Right}));
 }
 
 TEST_F(HotKeyRefusal, theRefreshWithoutAConflictAsksNothing)

@@ -74,8 +74,11 @@ void turnTheAgentOffAndOn(SettingsProgram &settings, const QString &folder)
     const QImage whileOn = settings.settledPicture();
     pressSwitch();
     require(waitUntil([] { return runningAgent().isEmpty(); }), QStringLiteral("the switch turned the agent off"));
-    save(settings.pictureAfterChangeFrom(whileOn), folder, QStringLiteral("agent-off"));
+    const QImage whileOff = settings.pictureAfterChangeFrom(whileOn);
+    save(whileOff, folder, QStringLiteral("agent-off"));
     pressSwitch();
+    // Only then: asking the agent starts its program, which the settings would take for the agent.
+    settings.pictureAfterChangeFrom(whileOff);
     require(
         waitUntil([] { return !runningAgent().isEmpty(); }), QStringLiteral("the switch turned the agent on again"));
 }
@@ -102,18 +105,81 @@ void changeAnOption()
     require(agentReads(true), QStringLiteral("changed in the window, the agent has read it as true"));
 }
 
+/// As the agent's side might leave it: right and down on one key, of which the user knows already.
+void giveTwoActionsOneKey(const QString &folder)
+{
+    const QString file = folder + QStringLiteral("/conflict.plist");
+    QFile conflict(file);
+    if (!conflict.open(QIODevice::WriteOnly))
+        giveUp(file);
+    conflict.write("<plist version=\"1.0\"><dict><key>suppressHotkeysTakenAlert</key><true/><key>moveRightHotKey</key>"
+                   "<dict><key>keycode</key><string>125</string></dict></dict></plist>");
+    conflict.close();
+    runDefaults({QStringLiteral("--notify"), QStringLiteral("import"), file});
+    conflict.remove();
+}
+
+QString agentsKeyForUp()
+{
+    const QJsonValue entry = runningAgentsSetting(QStringLiteral("moveUpHotKey"));
+    return entry.toObject().value(QStringLiteral("keycode")).toString();
+}
+
+/// In settings just opened, where the tabs have the focus.
+void giveAKeyByPressingIt(SettingsProgram &settings, const QString &folder)
+{
+    constexpr int tabsToKeyForUp = 5;
+    constexpr int tabsFromUpToRight = 3;
+    constexpr int tabsFromRightOutOfTheKeys = 2;
+    QImage shown = settings.settledPicture();
+    pressKey(KEY_TAB, {KEY_LEFTCTRL});
+    settings.pictureAfterChangeFrom(shown);
+    giveTwoActionsOneKey(folder);
+    shown = settings.settledPicture();
+    for (int tab = 0; tab < tabsToKeyForUp; ++tab) {
+        pressKey(KEY_TAB);
+        shown = settings.pictureAfterChangeFrom(shown);
+    }
+    save(shown, folder, QStringLiteral("key-focused"));
+    pressKey(KEY_B);
+    save(settings.pictureAfterChangeFrom(shown), folder, QStringLiteral("key-conflict"));
+    require(waitUntil([] { return agentsKeyForUp() == QStringLiteral("11"); }),
+        QStringLiteral("a key pressed in its field is the key for up, and the agent has read it"));
+    pressKey(KEY_SPACE);
+    require(settings.waitForWindows(2), QStringLiteral("a key in use is refused"));
+    save(settings.settledPicture(), folder, QStringLiteral("key-refused"));
+    save(pictureOfWindow(settings.windows().first().id), folder, QStringLiteral("key-refused-window"));
+    pressKey(KEY_ESC);
+    require(settings.waitForWindows(1), QStringLiteral("Escape closes the alert about it"));
+    for (int tab = 0; tab < tabsFromUpToRight; ++tab)
+        pressKey(KEY_TAB);
+    pressKey(KEY_RIGHT);
+    for (int tab = 0; tab < tabsFromRightOutOfTheKeys; ++tab)
+        pressKey(KEY_TAB);
+}
+
+void quit(SettingsProgram &settings)
+{
+    pressKey(KEY_Q, {KEY_LEFTCTRL});
+    require(settings.exitStatus() == 0, QStringLiteral("the settings quit"));
+}
+
 void walk(const QString &folder, const QStringList &arguments)
 {
     QDir().mkpath(folder);
-    SettingsProgram settings(arguments + QStringList{SettingsProgram::builtPane()});
+    const QStringList withPane = arguments + QStringList{SettingsProgram::builtPane()};
+    SettingsProgram settings(withPane);
     require(settings.waitForWindows(1), QStringLiteral("the settings open with the Lumaroo pane"));
     turnTheAgentOffAndOn(settings, folder);
     turnEveryPage(settings, folder);
     say(QStringLiteral("- what is stored now:\n") + runDefaults({QStringLiteral("read")}));
     letAnOutsideChangeArrive(settings, folder);
     changeAnOption();
-    pressKey(KEY_Q, {KEY_LEFTCTRL});
-    require(settings.exitStatus() == 0, QStringLiteral("the settings quit"));
+    quit(settings);
+    SettingsProgram again(withPane);
+    require(again.waitForWindows(1), QStringLiteral("the settings open again"));
+    giveAKeyByPressingIt(again, folder);
+    quit(again);
     require(!runningAgent().isEmpty(), QStringLiteral("the agent is still there"));
     require(runAgent({QStringLiteral("--quit")}).status == 0 && runningAgent().isEmpty(), QStringLiteral("it quits"));
 }
