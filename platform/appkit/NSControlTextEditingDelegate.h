@@ -10,11 +10,11 @@ class NSControlTextEditingDelegate
 {
 public:
     virtual ~NSControlTextEditingDelegate() = default;
-    /// The user types, pastes or drops into the field (a key press is NSApplication's current event). False keeps the text
-    /// as it is; true lets this and all that follows change it until the field loses the focus.
+    /// The user types, pastes or drops into the field (a key press is NSApplication's current event). False keeps the
+    /// text as it is; true lets this and all that follows change it until the field loses the focus.
     virtual bool controlTextShouldBeginEditing(QWidget *control, FieldEditor *fieldEditor) = 0;
-    /// A key press became a command such as "insertNewline:"; true means that it has been dealt with, false that the field
-    /// and its window handle it as usual.
+    /// A key press became a command such as "insertNewline:"; true means that it has been dealt with, false that the
+    /// field and its window handle it as usual.
     virtual bool controlTextViewDoCommandBySelector(
         QWidget *control, FieldEditor *textView, const QString &command) = 0;
 };
