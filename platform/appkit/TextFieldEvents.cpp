@@ -124,6 +124,10 @@ bool TextFieldEvents::eventFilter(QObject *object, QEvent *event)
     auto *field = static_cast<QLineEdit *>(object);
     if (!field->isReadOnly())
         return false;
+    if (event->type() == QEvent::KeyRelease) {
+        const auto *release = static_cast<QKeyEvent *>(event);
+        lastRelease_ = {release->nativeScanCode(), release->timestamp()};
+    }
     if (event->type() == QEvent::KeyPress)
         return handleKey(field, *static_cast<QKeyEvent *>(event));
     if (event->type() == QEvent::ShortcutOverride && takesKey(*static_cast<QKeyEvent *>(event))) {
@@ -136,13 +140,21 @@ bool TextFieldEvents::eventFilter(QObject *object, QEvent *event)
     return bringsText(*event) && staysUnchanged(field, {});
 }
 
+/// The server repeats a key by a release and a press of one and the same time. The toolkit knows the press for a repeat
+/// only if both have arrived together.
+bool TextFieldEvents::isRepeat(const QKeyEvent &press) const
+{
+    const bool isJustReleased = press.nativeScanCode() == lastRelease_.scanCode;
+    return press.isAutoRepeat() || (isJustReleased && press.timestamp() == lastRelease_.time);
+}
+
 bool TextFieldEvents::handleKey(QLineEdit *field, const QKeyEvent &event)
 {
     const std::optional<NSEvent> keyDown = keyDownEvent(event);
     if (!keyDown)
         return false;
     // A key that stays down counts once, also when the focus has moved meanwhile.
-    if (event.isAutoRepeat() && comesBeforeShortcuts(keyDown->keyCode))
+    if (isRepeat(event) && comesBeforeShortcuts(keyDown->keyCode))
         return true;
     return isTypingKey(keyDown->keyCode) ? staysUnchanged(field, *keyDown) : handleCommand(field, *keyDown);
 }

@@ -32,13 +32,21 @@ private:
     void endEditing();
     FieldEditor *editorOf(QLineEdit *field);
     FieldEditor *askWindowDelegate(QLineEdit *field);
+    bool isRepeat(const QKeyEvent &press) const;
     bool handleKey(QLineEdit *field, const QKeyEvent &event);
     bool handleCommand(QLineEdit *field, const NSEvent &event);
     bool staysUnchanged(QLineEdit *field, const NSEvent &event);
+
+    struct Release
+    {
+        quint32 scanCode = 0;
+        quint64 time = 0;
+    };
 
     QByteArray file_;
     InterfaceOwner owner_;
     QList<QPointer<QLineEdit>> fields_;
     QPointer<QLineEdit> edited_;
     QPointer<FieldEditor> editor_;
+    Release lastRelease_;
 };

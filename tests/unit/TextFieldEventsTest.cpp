@@ -62,12 +62,20 @@ protected:
         asked.clear();
     }
     QLineEdit *field(const char *name) { return interface.find<QLineEdit>(name); }
-    void press(QLineEdit *to, int evdev, Qt::Key key, const QString &text, Qt::KeyboardModifiers modifiers = {})
+    void press(QLineEdit *to, int evdev, Qt::Key key, const QString &text)
     {
-        QKeyEvent event(QEvent::KeyPress, key, modifiers, quint32(evdev + scanCodeOfEvdev), 0, 0, text);
+        send(to, QEvent::KeyPress, evdev, key, text, ++now);
+        send(to, QEvent::KeyRelease, evdev, key, text, ++now);
+    }
+    void send(QLineEdit *to, QEvent::Type type, int evdev, Qt::Key key, const QString &text, quint64 time,
+        bool isAutoRepeat = false)
+    {
+        QKeyEvent event(type, key, {}, quint32(evdev + scanCodeOfEvdev), 0, 0, text, isAutoRepeat);
+        event.setTimestamp(time);
         QCoreApplication::sendEvent(to, &event);
     }
 
+    quint64 now = 0;
     TestInterface interface;
     QStringList asked;
     FieldEditor *lastEditor = nullptr;
@@ -122,6 +130,24 @@ TEST_F(TextFields, anAnswerOfYesLetsTypingGoOnUntilTheFieldIsLeft)
     press(field("one"), KEY_C, Qt::Key_C, "c");
     EXPECT_EQ(field("one")->text(), "ab");
     EXPECT_EQ(asked.last(), "begin one 8");
+}
+
+TEST_F(TextFields, aKeyThatStaysDownIsAskedAboutOnce)
+{
+    load();
+    QLineEdit *one = field("one");
+    send(one, QEvent::KeyPress, KEY_A, Qt::Key_A, "a", 1);
+    send(one, QEvent::KeyRelease, KEY_A, Qt::Key_A, "a", 500, true);
+    send(one, QEvent::KeyPress, KEY_A, Qt::Key_A, "a", 500, true);
+    send(one, QEvent::KeyRelease, KEY_A, Qt::Key_A, "a", 540);
+    send(one, QEvent::KeyPress, KEY_A, Qt::Key_A, "a", 540);
+    EXPECT_EQ(asked, QStringList{"begin one 0"});
+    send(field("two"), QEvent::KeyRelease, KEY_A, Qt::Key_A, "a", 580);
+    send(field("two"), QEvent::KeyPress, KEY_A, Qt::Key_A, "a", 580);
+    EXPECT_EQ(asked.size(), 1) << "not in the next field either";
+    send(one, QEvent::KeyRelease, KEY_A, Qt::Key_A, "a", 600);
+    send(one, QEvent::KeyPress, KEY_A, Qt::Key_A, "a", 640);
+    EXPECT_EQ(asked.size(), 2);
 }
 
 TEST_F(TextFields, theCurrentEventEndsWithTheQuestion)
