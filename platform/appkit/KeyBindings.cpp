@@ -53,7 +53,8 @@ constexpr std::array bindings{
     KeyBinding{126, u"moveUp:", u"moveUpAndModifySelection:"},
 };
 
-constexpr std::array<quint16, 6> commandsBeforeShortcuts{36, 76, 123, 124, 125, 126};
+constexpr quint16 returnKey = 36;
+constexpr std::array<quint16, 5> enterAndArrows{76, 123, 124, 125, 126};
 
 quint32 flagsOf(Qt::KeyboardModifiers modifiers)
 {
@@ -84,10 +85,16 @@ bool isTypingKey(quint16 keyCode)
     return std::any_of(typingKeys.begin(), typingKeys.end(), holds);
 }
 
+bool countsOnceWhileHeld(quint16 keyCode)
+{
+    const bool isEnterOrArrow =
+        std::find(enterAndArrows.begin(), enterAndArrows.end(), keyCode) != enterAndArrows.end();
+    return isEnterOrArrow || isTypingKey(keyCode);
+}
+
 bool comesBeforeShortcuts(quint16 keyCode)
 {
-    const auto &commands = commandsBeforeShortcuts;
-    return isTypingKey(keyCode) || std::find(commands.begin(), commands.end(), keyCode) != commands.end();
+    return keyCode == returnKey || countsOnceWhileHeld(keyCode);
 }
 
 QString commandSelector(const NSEvent &event)

@@ -21,5 +21,9 @@ LM_APPKIT bool isTypingKey(quint16 keyCode);
 /// the commands of Return, Enter and the arrows.
 LM_APPKIT bool comesBeforeShortcuts(quint16 keyCode);
 
+/// Whether a key that stays down is one press, of which the repeats are nothing: what types, Enter and the arrows.
+/// Others, Tab and Return among them, repeat.
+LM_APPKIT bool countsOnceWhileHeld(quint16 keyCode);
+
 /// The command that a key press becomes ("insertNewline:"); empty for none.
 LM_APPKIT QString commandSelector(const NSEvent &event);

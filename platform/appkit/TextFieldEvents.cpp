@@ -129,7 +129,7 @@ bool TextFieldEvents::eventFilter(QObject *object, QEvent *event)
         lastRelease_ = {release->nativeScanCode(), release->timestamp()};
     }
     if (event->type() == QEvent::KeyPress)
-        return handleKey(field, *static_cast<QKeyEvent *>(event));
+        return handlePress(field, *static_cast<QKeyEvent *>(event));
     if (event->type() == QEvent::ShortcutOverride && takesKey(*static_cast<QKeyEvent *>(event))) {
         // It comes as a press then, whatever is held with it: shortcuts and mnemonics on it rest.
         event->accept();
@@ -140,21 +140,23 @@ bool TextFieldEvents::eventFilter(QObject *object, QEvent *event)
     return bringsText(*event) && staysUnchanged(field, {});
 }
 
-/// The server repeats a key by a release and a press of one and the same time. The toolkit knows the press for a repeat
-/// only if both have arrived together.
+/// The server repeats a key by a release and a press of one and the same time, with nothing in between. The toolkit
+/// knows the press for a repeat only if both have arrived together.
 bool TextFieldEvents::isRepeat(const QKeyEvent &press) const
 {
     const bool isJustReleased = press.nativeScanCode() == lastRelease_.scanCode;
     return press.isAutoRepeat() || (isJustReleased && press.timestamp() == lastRelease_.time);
 }
 
-bool TextFieldEvents::handleKey(QLineEdit *field, const QKeyEvent &event)
+bool TextFieldEvents::handlePress(QLineEdit *field, const QKeyEvent &event)
 {
+    const bool isRepeated = isRepeat(event);
+    lastRelease_ = {};
     const std::optional<NSEvent> keyDown = keyDownEvent(event);
     if (!keyDown)
         return false;
     // A key that stays down counts once, also when the focus has moved meanwhile.
-    if (isRepeat(event) && comesBeforeShortcuts(keyDown->keyCode))
+    if (isRepeated && countsOnceWhileHeld(keyDown->keyCode))
         return true;
     return isTypingKey(keyDown->keyCode) ? staysUnchanged(field, *keyDown) : handleCommand(field, *keyDown);
 }

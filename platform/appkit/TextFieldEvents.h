@@ -33,7 +33,7 @@ private:
     FieldEditor *editorOf(QLineEdit *field);
     FieldEditor *askWindowDelegate(QLineEdit *field);
     bool isRepeat(const QKeyEvent &press) const;
-    bool handleKey(QLineEdit *field, const QKeyEvent &event);
+    bool handlePress(QLineEdit *field, const QKeyEvent &event);
     bool handleCommand(QLineEdit *field, const NSEvent &event);
     bool staysUnchanged(QLineEdit *field, const NSEvent &event);
 
