@@ -105,7 +105,7 @@ QList<AgentSetting> allSettings()
         {KTXHSort, Text, firstSelected},
         {KTXVSort, Text, firstSelected},
         // What the window shows for these until the user chooses.
-        {KTXCycleAscending, Boolean, true},
+        {KTXCycleAscending, Boolean, false},
         {KTXActivateDoubleClick, Boolean, false},
         {KTXPersistentDoubleClick, Boolean, false},
         // The agent's own.

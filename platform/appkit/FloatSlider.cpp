@@ -13,6 +13,7 @@ FloatSlider::FloatSlider(QWidget *parent) : QSlider(Qt::Horizontal, parent)
 {
     connect(this, &QSlider::valueChanged, this, &FloatSlider::positionChanged);
     connect(this, &QSlider::sliderReleased, this, &FloatSlider::dragEnded);
+    connect(this, &QSlider::actionTriggered, this, &FloatSlider::actionWasTriggered);
     showValue();
 }
 
@@ -42,6 +43,9 @@ double FloatSlider::value() const
 
 void FloatSlider::setValue(double value)
 {
+    // The end of a drag replaces it anyway.
+    if (isSliderDown())
+        return;
     value_ = value;
     showValue();
 }
@@ -81,6 +85,17 @@ void FloatSlider::positionChanged(int position)
         movedInDrag_ = true;
     else
         Q_EMIT valueChosen();
+}
+
+/// A value between two steps, or beyond the bounds, is shown at the nearest position; a step that cannot go further
+/// than that position reaches its value.
+void FloatSlider::actionWasTriggered()
+{
+    const double reached = valueAtPosition(sliderPosition());
+    if (isSliderDown() || sliderPosition() != QSlider::value() || value_ == reached)
+        return;
+    value_ = reached;
+    Q_EMIT valueChosen();
 }
 
 void FloatSlider::dragEnded()

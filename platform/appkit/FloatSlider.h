@@ -26,7 +26,7 @@ public:
 
     /// Always between minimum and maximum; no number reads as the minimum.
     double value() const;
-    /// Sends no valueChosen.
+    /// Sends no valueChosen. Does nothing while the user drags: the end of the drag replaces it anyway.
     void setValue(double value);
 
 Q_SIGNALS:
@@ -38,6 +38,7 @@ private:
     int lastPosition() const;
     void showValue();
     void positionChanged(int position);
+    void actionWasTriggered();
     void dragEnded();
 
     double minimum_ = 0;

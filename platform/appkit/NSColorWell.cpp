@@ -143,7 +143,9 @@ void NSColorWell::dragEnterEvent(QDragEnterEvent *event)
 
 void NSColorWell::dropEvent(QDropEvent *event)
 {
-    event->acceptProposedAction();
+    // Never a move: the source keeps its colour.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
     takeColor(event->mimeData());
 }
 

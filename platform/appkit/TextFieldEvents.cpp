@@ -48,8 +48,10 @@ bool bringsText(const QEvent &event)
 /// A field that takes no text has no input method: it would keep keys back, or make others of them.
 bool keepsInputMethodAway(QEvent *event)
 {
+    if (event->type() != QEvent::InputMethodQuery)
+        return false;
     auto *query = static_cast<QInputMethodQueryEvent *>(event);
-    if (event->type() != QEvent::InputMethodQuery || !(query->queries() & Qt::ImEnabled))
+    if (!(query->queries() & Qt::ImEnabled))
         return false;
     query->setValue(Qt::ImEnabled, false);
     query->accept();

@@ -1,5 +1,6 @@
 // Turning pages, being asked to come forward, and asking the agent for its tutorial.
 
+#include "BellListener.h"
 #include "CapturedLog.h"
 #include "PaneOnRealStore.h"
 #include "RunningPrograms.h"
@@ -9,6 +10,7 @@
 #include "KTXConstants.h"
 #include "platform/foundation/CFPreferences.h"
 #include "platform/foundation/NSException.h"
+#include "platform/foundation/NSNotificationCenter.h"
 
 #include <QTabBar>
 
@@ -102,34 +104,34 @@ TEST_F(PaneTabs, turningPagesLogsTheIndexWhileDebugging)
     EXPECT_EQ(log.lines(), QStringList(QStringLiteral("Lumaroo prefPane: tabView:didSelectTabVewItem 4")));
 }
 
-TEST_F(PaneTabs, aRequestForAPageBringsTheWindowForwardAndLeavesThePage)
+TEST_F(PaneTabs, aRequestForAPageRingsNoBellAndLeavesThePage)
 {
     showPane();
-    QWidget other;
-    other.show();
-    other.activateWindow();
-    ASSERT_TRUE(waitUntil([&] { return other.isActiveWindow(); }));
+    BellListener bell;
     const QString identifier = control<QTabWidget>("tabbedView")->widget(2)->property("identifier").toString();
     ASSERT_FALSE(identifier.isEmpty());
     store().set(KTXShouldDebug, QVariant(true));
     const CapturedLog log;
-    other.hide();
     bus().post(KTXPrefPaneToTab, identifier);
-    EXPECT_TRUE(waitUntil([this] { return pane().mainView()->isActiveWindow(); }));
     ASSERT_TRUE(waitUntil([&] { return !log.lines().isEmpty(); }));
     EXPECT_EQ(log.lines(), QStringList(QStringLiteral("Lumaroo prefPane: switchToTab: 2")));
+    EXPECT_EQ(bell.rings(), 0);
     EXPECT_EQ(selectedTabIndex(control("tabbedView")), 0);
 }
 
-TEST_F(PaneTabs, aRequestForNoPageLeavesEverythingAsItIs)
+TEST_F(PaneTabs, aRequestForNoPageRingsTheBellAndLeavesEverythingAsItIs)
 {
     showPane();
     store().set(KTXShouldDebug, QVariant(true));
+    BellListener bell;
+    int rings = 0;
     for (const QString &object : {QStringLiteral("no page"), QString()}) {
         const CapturedLog log;
         bus().post(KTXPrefPaneToTab, object);
         ASSERT_TRUE(waitUntil([&] { return !log.lines().isEmpty(); }));
         EXPECT_EQ(log.lines(), QStringList(QStringLiteral("Lumaroo prefPane: switchToTab: -1")));
+        EXPECT_TRUE(waitUntil([&] { return bell.rings() == rings + 1; }));
+        ++rings;
         EXPECT_EQ(selectedTabIndex(control("tabbedView")), 0);
     }
 }
@@ -164,8 +166,8 @@ TEST_F(PaneTabs, anAgentThatNeverAnnouncesItselfIsAskedForNothing)
     runPendingEvents();
     EXPECT_TRUE(requests().isEmpty());
     destroyPane();
-    bus().post(KTXLMAgentLaunched, KTXLMAgentID);
-    EXPECT_TRUE(requests().isEmpty());
+    NSNotificationCenter::defaultCenter()->postNotificationNameObject(KTXLMAgentLaunched);
+    EXPECT_TRUE(requests().isEmpty()) << "it waited in vain until it was released";
 }
 
 TEST_F(PaneTabs, threePressesInARowAskOnce)

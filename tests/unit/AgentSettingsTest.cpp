@@ -70,7 +70,7 @@ TEST(AgentSettings, areWhatIsStoredWhereItIsOfTheRightType)
 {
     const QVariantMap stored{{KTXShouldDebug, true}, {KTXFirstLaunch, "long ago"}, {KTXModifierMask, qlonglong(0x100)},
         {KTXOverlayColor, QByteArray("archive")}, {KTXUpPref, QVariantMap{{KTXKeycode, "13"}, {KTXUnichar, "w"}}},
-        {KTXRepeatRate, 0.25F}, {KTXHSort, "Center"}, {KTXVSort, "of no known meaning"}, {KTXCycleAscending, false}};
+        {KTXRepeatRate, 0.25F}, {KTXHSort, "Center"}, {KTXVSort, "of no known meaning"}, {KTXCycleAscending, true}};
     const QVariantMap settings = effectiveSettings(stored);
     for (auto value = stored.cbegin(); value != stored.cend(); ++value)
         EXPECT_TRUE(isEqualPropertyList(settings.value(value.key()), value.value())) << value.key().toStdString();

@@ -110,3 +110,32 @@ TEST_F(ASlider, pressedAndLetGoWithoutMovingTellsNothing)
     EXPECT_EQ(slider.value(), 0.333);
     EXPECT_EQ(chosen.size(), 0);
 }
+
+TEST_F(ASlider, reachesItsEndsFromAValueBetweenTheSteps)
+{
+    const QList<std::pair<double, Qt::Key>> cases{
+        {0.13, Qt::Key_Home}, {0.13, Qt::Key_Left}, {2.08, Qt::Key_End}, {2.08, Qt::Key_Right}, {5.0, Qt::Key_End}};
+    for (const auto &[value, key] : cases) {
+        slider.setValue(value);
+        chosen.clear();
+        QTest::keyClick(&slider, key);
+        EXPECT_EQ(slider.value(), value < 1 ? 0.1 : 2.1) << value;
+        EXPECT_EQ(chosen.count(), 1) << value;
+        QTest::keyClick(&slider, key);
+        EXPECT_EQ(chosen.count(), 1) << "it is there already";
+    }
+}
+
+TEST_F(ASlider, isNotPulledAwayByCodeDuringADrag)
+{
+    slider.setValue(0.1);
+    const QPoint start = handle();
+    QTest::mousePress(&slider, Qt::LeftButton, {}, start);
+    QTest::mouseMove(&slider, start + QPoint(150, 0));
+    const double dragged = slider.value();
+    ASSERT_GT(dragged, 0.5);
+    slider.setValue(0.1);
+    QTest::mouseRelease(&slider, Qt::LeftButton, {}, start + QPoint(150, 0));
+    EXPECT_EQ(slider.value(), dragged);
+    EXPECT_EQ(chosen.count(), 1);
+}

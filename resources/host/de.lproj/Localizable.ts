@@ -52,6 +52,10 @@
         <translation>Leertaste</translation>
     </message>
     <message>
+        <source>%1, %2 % opaque</source>
+        <translation>%1, zu %2 % deckend</translation>
+    </message>
+    <message>
         <source>Help</source>
         <translation>Hilfe</translation>
     </message>
