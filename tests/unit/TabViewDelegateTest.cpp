@@ -130,7 +130,6 @@ TEST_F(TabView, anOwnerThatIsNoDelegateIsOneLoggedLine)
 TEST_F(TabView, aViewThatHasNoDelegateIsOneLoggedLine)
 {
     interface.load(
-        R"(<widget class="QCheckBox" name="box"><property name="delegate" stdset="0"><string>owner</string></property></widget>
-        <widget class="QLineEdit" name="field"><property name="delegate" stdset="0"><string>owner</string></property></widget>)");
+        R"(<widget class="QCheckBox" name="box"><property name="delegate" stdset="0"><string>owner</string></property></widget>)");
     EXPECT_EQ(log.lines(), QStringList("lumaroo: Test.ui: box: a QCheckBox has no delegate"));
 }
