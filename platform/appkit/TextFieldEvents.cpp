@@ -123,8 +123,8 @@ FieldEditor *TextFieldEvents::askWindowDelegate(QLineEdit *field)
 
 bool TextFieldEvents::eventFilter(QObject *object, QEvent *event)
 {
-    auto *field = static_cast<QLineEdit *>(object);
-    if (!field->isReadOnly())
+    auto *field = qobject_cast<QLineEdit *>(object); // none any more while it is being destroyed
+    if (!field || !field->isReadOnly())
         return false;
     if (event->type() == QEvent::KeyRelease) {
         const auto *release = static_cast<QKeyEvent *>(event);

@@ -10,9 +10,10 @@ class QKeyEvent;
 
 /// Brings what happens in an interface file's text fields to their delegate and to the window's.
 ///
-/// A field takes nothing by itself, no key, paste, drop or input method: what would change its text asks the delegate
-/// first, which may let editing begin. Editing a field lasts from its gaining the focus until another view of its
-/// window has it; a sheet or another window in front only interrupts it.
+/// A field takes nothing by itself: a typed key, the middle button's paste and an input method's text ask the delegate
+/// first, which may let editing begin; drops, the context menu's editing and keys that would edit do nothing. Editing a
+/// field lasts from its gaining the focus until another view of its window has it; a sheet or another window in front
+/// only interrupts it.
 class TextFieldEvents : public QObject
 {
     Q_OBJECT
