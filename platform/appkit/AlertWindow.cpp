@@ -1,5 +1,6 @@
 #include "platform/appkit/AlertWindow.h"
 
+#include "platform/appkit/OwnKeys.h"
 #include "platform/foundation/Boundary.h"
 
 #include <QAccessible>
@@ -50,7 +51,7 @@ QPixmap iconPixmap(const QString &path, double ratio)
 } // namespace
 
 AlertWindow::AlertWindow(const AlertContent &content, Qt::WindowModality modality, QWidget *parent)
-    : QDialog(parent), content_(content)
+    : QDialog(parent), content_(content), ownKeys_(new OwnKeys(this))
 {
     setWindowModality(modality);
     // It stays in front of its window until it is answered: nothing to minimise or to maximise.
@@ -181,6 +182,8 @@ void AlertWindow::showEvent(QShowEvent *event)
     QDialog::showEvent(event);
     if (parentWidget() && parentWidget()->windowHandle())
         parentWidget()->windowHandle()->installEventFilter(this);
+    // The key that brought the alert up may be down still: its repeats must not answer it.
+    windowHandle()->installEventFilter(ownKeys_);
     firstFocus()->setFocus();
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);

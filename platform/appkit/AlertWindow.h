@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <functional>
 
+class OwnKeys;
 class QCheckBox;
 class QPushButton;
 class QVBoxLayout;
@@ -59,6 +60,7 @@ private:
     void takeFocusBack();
 
     AlertContent content_;
+    OwnKeys *ownKeys_;
     QList<QPushButton *> buttons_;
     QCheckBox *suppressionBox_ = nullptr;
     int pressedButton_ = -1;
