@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pane/Controls.h"
+#include "pane/PaneOutlets.h"
 #include "platform/appkit/NSControlTextEditingDelegate.h"
 #include "platform/appkit/NSPreferencePane.h"
 #include "platform/appkit/NSTabViewDelegate.h"
@@ -19,7 +19,8 @@ using KeyCodeTable = std::shared_ptr<QList<int>>;
 class KTXLumarooPreferencePane : public NSPreferencePane,
                                  public NSTabViewDelegate,
                                  public NSControlTextEditingDelegate,
-                                 public NSWindowDelegate
+                                 public NSWindowDelegate,
+                                 private PaneOutlets
 {
     Q_OBJECT
 
@@ -137,18 +138,5 @@ private:
     QStringList helpAnchors_, keyCodePrefNames_;
     QVariantMap infoDictionary_;
     KeyCodeTable defaultKeyCodes_, keyCodes_;
-    Outlet<QTextEdit> helpFileView_, creditsField_;
-    Outlet<QLabel> modifiersField_, delayTextField_, repeatTextField_, enabledState_;
-    Outlet<QLabel> appNameField_, versionField_, copyrightField_;
-    Outlet<NSMatrix> modifierCheckboxMatrix_, persistentModeMatrix_;
-    Outlet<QAbstractButton> shiftCheckBox_, controlCheckBox_, optionCheckBox_, commandCheckBox_, doubleTapCheckBox_;
-    Outlet<QAbstractButton> toggleStateButton_, enableHorizontalWrapButton_, enableVerticalWrapButton_;
-    Outlet<QComboBox> HorizontalPopup_, VerticalPopup_;
-    Outlet<QAbstractButton> keyRepeatButton_, animateButton_, defaultColorButton_, autoUpdateButton_;
-    Outlet<QSlider> repeatDelaySlider_, repeatRateSlider_;
-    Outlet<NSColorWell> overlayColorWell_;
-    Outlet<QWidget> keyRepeatBox_, movementBox_, cancelBox_;
-    Outlet<QTabWidget> tabbedView_;
-    Outlet<QDialog> betaWindow_;
     ProcessSerialNumber agentPSN_;
 };
