@@ -2,70 +2,24 @@
 // whole program.
 
 #include "CapturedLog.h"
-#include "PaneOnRealStore.h"
+#include "PaneWithAgent.h"
 #include "RunningPrograms.h"
 #include "TestApplication.h"
 #include "Wait.h"
 
 #include "KTXConstants.h"
 #include "platform/foundation/NSException.h"
-#include "platform/foundation/NSNotificationCenter.h"
-#include "platform/foundation/Processes.h"
 
+#include <QCheckBox>
+#include <QDir>
 #include <QPalette>
 #include <QProcess>
 
 namespace {
 
-const QString agentProgram = QStringLiteral("Contents/Resources/LumarooAgent.app/Contents/Linux/LumarooAgent");
-const QString agentInfo = QStringLiteral("Contents/Resources/LumarooAgent.app/Contents/Info.plist");
-const QByteArray agentInfoText = R"(<plist version="1.0"><dict>
-<key>CFBundleIdentifier</key><string>com.quorvane.LumarooAgent</string>
-<key>CFBundleExecutable</key><string>LumarooAgent</string>
-</dict></plist>)";
-
-NSNotification launchedWithVersion(const QVariant &version)
-{
-    return {KTXLMAgentLaunched, KTXLMAgentID, {{KTXLMAgentVersion, version}}};
-}
-
-class PaneAgentControl : public PaneOnRealStore
+class PaneAgentControl : public PaneWithAgent
 {
 protected:
-    PaneAgentControl() { changeInfo({{QStringLiteral("CFBundleVersion"), QStringLiteral("120")}}); }
-    ~PaneAgentControl() override
-    {
-        for (const pid_t agent : agents())
-            killProcess(agent);
-    }
-
-    void putAgent()
-    {
-        bundle().writeFile(agentInfo, agentInfoText);
-        bundle().copyProgram(agentProgram, TestApplication::idleProgram());
-    }
-
-    /// Everything but restarting the settings is really done.
-    RecordingPane &controllingPane()
-    {
-        pane().carryOut({QStringLiteral("updateAgentVisuals"), QStringLiteral("setAgentVisualsOn:"),
-            QStringLiteral("setAgentVisualsOff"), QStringLiteral("startAgent"), QStringLiteral("stopAgent")});
-        calls.clear();
-        return pane();
-    }
-
-    static QList<pid_t> agents()
-    {
-        QList<pid_t> found;
-        ProcessSerialNumber process;
-        while (GetNextProcess(&process) == noErr) {
-            const QVariantMap information = ProcessInformationCopyDictionary(process, 0xFFFFFFFF);
-            if (information.value(kCFBundleIdentifierKey) == KTXLMAgentID)
-                found += pid_t(process.lowLongOfPSN);
-        }
-        return found;
-    }
-
     void failure(int line, const QString &description)
     {
         try {
@@ -82,7 +36,6 @@ protected:
         EXPECT_TRUE(agents().isEmpty());
     }
 
-    int switchState() { return state(control("toggleStateButton")); }
     QColor stateColor() { return control("enabledState")->palette().color(QPalette::WindowText); }
 };
 
@@ -152,8 +105,7 @@ TEST_F(PaneAgentControl, anAgentWhoseBundleWasExchangedStillRunsAndGetsNoSecond)
     putAgent();
     controllingPane().startAgent();
     const QList<pid_t> running = agents();
-    const QString application = bundle().resourcePath() + QStringLiteral("/LumarooAgent.app");
-    ASSERT_TRUE(QDir(application).removeRecursively());
+    ASSERT_TRUE(QDir(agentBundle()).removeRecursively());
     EXPECT_EQ(agents(), running);
     putAgent();
     EXPECT_TRUE(controllingPane().startAgent());
@@ -172,8 +124,7 @@ TEST_F(PaneAgentControl, anAgentThatIsMissingIsAFailureEvenWhileOneRuns)
 {
     putAgent();
     controllingPane().startAgent();
-    const QString application = bundle().resourcePath() + QStringLiteral("/LumarooAgent.app");
-    ASSERT_TRUE(QDir(application).removeRecursively());
+    ASSERT_TRUE(QDir(agentBundle()).removeRecursively());
     EXPECT_THROW(pane().startAgent(), AssertionFailure);
 }
 
@@ -181,7 +132,7 @@ TEST_F(PaneAgentControl, anAgentThatCannotBeRunIsAFailureAndTheStateStays)
 {
     putAgent();
     controllingPane().setAgentVisualsOff();
-    QFile::setPermissions(bundle().path() + u'/' + agentProgram, QFile::ReadOwner);
+    QFile::setPermissions(agentProgram(), QFile::ReadOwner);
     failure(63, QStringLiteral("Can't Launch Lumaroo.agent"));
     EXPECT_EQ(switchState(), NSOffState);
 }
@@ -189,7 +140,7 @@ TEST_F(PaneAgentControl, anAgentThatCannotBeRunIsAFailureAndTheStateStays)
 TEST_F(PaneAgentControl, anAgentWithABrokenInfoDictionaryIsAFailure)
 {
     putAgent();
-    bundle().writeFile(agentInfo, "<plist><dict>");
+    bundle().writeFile(QStringLiteral("Contents/Resources/LumarooAgent.app/Contents/Info.plist"), "<plist><dict>");
     controllingPane();
     failure(63, QStringLiteral("Can't Launch Lumaroo.agent"));
 }
@@ -241,121 +192,12 @@ TEST_F(PaneAgentControl, stoppingAsksWhetherOrNotTheAgentRuns)
     EXPECT_EQ(bus().notifications(), (QList<BusNotification>{{KTXLMAgentShouldTerminate, KTXLMAppID, {}, true}}));
 }
 
-TEST_F(PaneAgentControl, aHigherVersionRelaunchesAndAnyOtherOnlyShows)
-{
-    controllingPane();
-    ASSERT_EQ(pane().loadedVersion(), 120);
-    const QList<std::pair<QVariant, bool>> versions{{QStringLiteral("130"), true}, {130, true}, {121, true},
-        {QStringLiteral("99999999999999999999"), true}, {QVariant(Q_INT64_C(9223372036854775807)), true}, {120, false},
-        {119, false}, {0, false}, {-130, false}, {QStringLiteral("-130"), false}, {QStringLiteral("new"), false},
-        {QString(), false}, {true, false}, {130.5, true}, {std::nan(""), false}, {130u, true},
-        {QByteArray("130"), false}, {QStringList{QStringLiteral("130")}, false}, {{}, false}};
-    for (const auto &[version, relaunches] : versions) {
-        calls.clear();
-        pane().setAgentVisualsOff();
-        pane().setAgentVisualsOn(launchedWithVersion(version));
-        EXPECT_EQ(calls.count(QStringLiteral("relaunch")), relaunches ? 1 : 0) << qPrintable(version.toString());
-        EXPECT_EQ(switchState(), NSOnState);
-    }
-}
-
-TEST_F(PaneAgentControl, withoutAVersionItOnlyShows)
-{
-    controllingPane().setAgentVisualsOn({});
-    EXPECT_FALSE(calls.contains(QStringLiteral("relaunch")));
-    EXPECT_EQ(switchState(), NSOnState);
-}
-
-TEST_F(PaneAgentControl, beforeTheViewIsLoadedAnyPositiveVersionRelaunches)
-{
-    paneWithoutView().carryOut({QStringLiteral("setAgentVisualsOn:")});
-    EXPECT_EQ(paneWithoutView().loadedVersion(), 0);
-    calls.clear();
-    bus().post(KTXLMAgentLaunched, KTXLMAgentID, {{KTXLMAgentVersion, 0}});
-    ASSERT_TRUE(waitUntil([this] { return calls.contains(QStringLiteral("setAgentVisualsOn:")); }));
-    EXPECT_FALSE(calls.contains(QStringLiteral("relaunch")));
-    bus().post(KTXLMAgentLaunched, KTXLMAgentID, {{KTXLMAgentVersion, 1}});
-    EXPECT_TRUE(waitUntil([this] { return calls.contains(QStringLiteral("relaunch")); }));
-}
-
-TEST_F(PaneAgentControl, itRelaunchesThenTellsTheProcessThenShows)
-{
-    controllingPane().setAgentVisualsOff();
-    calls.clear();
-    QObject observer;
-    NSNotificationCenter::defaultCenter()->addObserverSelectorNameObject(
-        &observer,
-        [this](const NSNotification &notification) {
-            calls += QStringLiteral("told, the switch is %1").arg(switchState());
-            EXPECT_FALSE(notification.object.isValid());
-            EXPECT_TRUE(notification.userInfo.isEmpty());
-        },
-        KTXLMAgentLaunched);
-    pane().setAgentVisualsOn(launchedWithVersion(130));
-    EXPECT_EQ(calls,
-        (QStringList{QStringLiteral("setAgentVisualsOn:"), QStringLiteral("relaunch"),
-            QStringLiteral("told, the switch is 0")}));
-    EXPECT_EQ(switchState(), NSOnState);
-}
-
-TEST_F(PaneAgentControl, showingThePaneWhileTheAgentRunsTellsTheProcessToo)
-{
-    putAgent();
-    controllingPane().startAgent();
-    int told = 0;
-    QObject observer;
-    NSNotificationCenter::defaultCenter()->addObserverSelectorNameObject(
-        &observer, [&told](const NSNotification &) { ++told; }, KTXLMAgentLaunched);
-    pane().willSelect();
-    EXPECT_EQ(told, 1);
-}
-
-TEST_F(PaneAgentControl, whatTheAgentAnnouncesIsShown)
-{
-    controllingPane();
-    bus().post(KTXLMAgentLaunched, KTXLMAgentID, {{KTXLMAgentVersion, 120}});
-    EXPECT_TRUE(waitUntil([this] { return switchState() == NSOnState; }));
-    EXPECT_EQ(text("enabledState"), QStringLiteral("Lumaroo Enabled"));
-    bus().post(KTXLMAgentIsTerminating, KTXLMAgentID);
-    EXPECT_TRUE(waitUntil([this] { return switchState() == NSOffState; }));
-    EXPECT_EQ(text("enabledState"), QStringLiteral("Lumaroo Disabled"));
-}
-
-TEST_F(PaneAgentControl, anotherProgramMayAskThePaneToLaunchTheAgent)
-{
-    putAgent();
-    controllingPane();
-    bus().post(KTXLMPrefPaneLaunchAgent, {});
-    EXPECT_TRUE(waitUntil([] { return agents().size() == 1; }));
-}
-
-TEST_F(PaneAgentControl, aRequestToLaunchTheAgentWhileItRunsLaunchesNoSecondOne)
-{
-    putAgent();
-    controllingPane().startAgent();
-    const QList<pid_t> running = agents();
-    calls.clear();
-    bus().post(KTXLMPrefPaneLaunchAgent, {});
-    ASSERT_TRUE(waitUntil([this] { return calls.contains(QStringLiteral("startAgent")); }));
-    EXPECT_EQ(agents(), running);
-}
-
 TEST_F(PaneAgentControl, aFirstRunWithoutAnAgentEndsTheLoadingThere)
 {
     paneWithoutView().carryOut({QStringLiteral("startAgent")});
     EXPECT_THROW(pane(), AssertionFailure);
     EXPECT_EQ(paneWithoutView().loadedVersion(), 0);
     EXPECT_EQ(text("versionField"), QString());
-}
-
-TEST_F(PaneAgentControl, theSwitchFollowsTheAgentWhileThePaneIsHidden)
-{
-    controllingPane();
-    pane().willSelect();
-    pane().willUnselect();
-    pane().didUnselect();
-    bus().post(KTXLMAgentLaunched, KTXLMAgentID);
-    EXPECT_TRUE(waitUntil([this] { return switchState() == NSOnState; }));
 }
 
 TEST_F(PaneAgentControl, eachOperationLogsWhileDebugging)

@@ -5,8 +5,6 @@
 #include "Wait.h"
 
 #include "KTXConstants.h"
-#include "platform/appkit/FloatSlider.h"
-#include "platform/foundation/CFPreferences.h"
 #include "platform/foundation/PropertyList.h"
 
 #include <QCheckBox>
@@ -89,16 +87,7 @@ protected:
         EXPECT_TRUE(isEqualPropertyList(store().domain(), before));
         EXPECT_EQ(bus().names(), QStringList());
     }
-
-    void expectEnabled(const QStringList &names, bool enabled)
-    {
-        for (const QString &name : names)
-            EXPECT_EQ(isEnabled(control(qPrintable(name))), enabled) << qPrintable(name);
-    }
 };
-
-const QStringList sliders{"repeatDelaySlider", "repeatRateSlider"};
-const QStringList sliderLabels{"delayTextField", "repeatTextField"};
 
 } // namespace
 
@@ -205,46 +194,6 @@ TEST_F(PaneBehaviour, theOptionsThatAreNotReadKeepWhatTheWindowFileGivesThem)
     EXPECT_EQ(selectedItemTag(control(cycleOrder)), 51);
 }
 
-TEST_F(PaneBehaviour, turningKeyRepeatOffDisablesTheSlidersAtOnceAndTheLabelsAtTheNextReading)
-{
-    showPage();
-    click("keyRepeatButton");
-    expectEnabled(sliders, false);
-    expectEnabled(sliderLabels, true);
-    pane().readUserPrefs();
-    expectEnabled(sliders + sliderLabels, false);
-    click("keyRepeatButton");
-    expectEnabled(sliders, true);
-    expectEnabled(sliderLabels, false);
-    pane().readUserPrefs();
-    expectEnabled(sliders + sliderLabels, true);
-}
-
-TEST_F(PaneBehaviour, keyRepeatIsAnnouncedBeforeTheSlidersFollow)
-{
-    showPage();
-    bool wereEnabled = false;
-    struct Watch : QObject
-    {
-        std::function<void()> atEnabledChange;
-        bool eventFilter(QObject *, QEvent *event) override
-        {
-            if (event->type() == QEvent::EnabledChange)
-                atEnabledChange();
-            return false;
-        }
-    } watch;
-    watch.atEnabledChange = [&] {
-        wereEnabled = true;
-        EXPECT_EQ(bus().names(), QStringList(KTXLMPrefsChanged));
-        EXPECT_EQ(store().value(KTXAutoRepeat), QVariant(false));
-        EXPECT_TRUE(isEnabled(control("repeatRateSlider"))) << "the delay's slider comes first";
-    };
-    control("repeatDelaySlider")->installEventFilter(&watch);
-    click("keyRepeatButton");
-    EXPECT_TRUE(wereEnabled);
-}
-
 TEST_F(PaneBehaviour, aSenderOutsideTheTableStoresAndAnnouncesNothing)
 {
     showPage();
@@ -265,62 +214,5 @@ TEST_F(PaneBehaviour, aSenderOutsideTheTableStoresAndAnnouncesNothing)
     }
     pane().enableChecked(control("tabbedView"));
     pane().enableChecked(nullptr);
-    expectNothing(before);
-}
-
-TEST_F(PaneBehaviour, aSliderStoresItsExactValueAndAnnouncesNothing)
-{
-    showPage();
-    QVariantMap expected = store().domain();
-    auto *delay = control<FloatSlider>("repeatDelaySlider");
-    QTest::keyClick(delay, Qt::Key_Right);
-    ASSERT_GT(delay->value(), 0);
-    expected.insert(KTXInitialDelay, float(delay->value()));
-    expectNothing(expected);
-    auto *rate = control<FloatSlider>("repeatRateSlider");
-    QTest::keyClick(rate, Qt::Key_Left);
-    ASSERT_LT(rate->value(), 1);
-    expected.insert(KTXRepeatRate, float(rate->value()));
-    expectNothing(expected);
-}
-
-TEST_F(PaneBehaviour, theSlidersReachFromTheirLeastToTheirGreatestValue)
-{
-    showPage();
-    QTest::keyClick(control("repeatDelaySlider"), Qt::Key_End);
-    EXPECT_TRUE(isEqualPropertyList(store().value(KTXInitialDelay), 2.0f));
-    QTest::keyClick(control("repeatDelaySlider"), Qt::Key_Home);
-    EXPECT_TRUE(isEqualPropertyList(store().value(KTXInitialDelay), 0.0f));
-    QTest::keyClick(control("repeatRateSlider"), Qt::Key_Home);
-    EXPECT_TRUE(isEqualPropertyList(store().value(KTXRepeatRate), 0.0f));
-    QTest::keyClick(control("repeatRateSlider"), Qt::Key_End);
-    EXPECT_TRUE(isEqualPropertyList(store().value(KTXRepeatRate), 1.0f));
-}
-
-TEST_F(PaneBehaviour, aSliderWritesTheDomainAsItStandsWithEverythingElseInIt)
-{
-    showPage();
-    store().set(QStringLiteral("theirs"), QVariant(QByteArray("kept")));
-    QVariantMap expected = store().domain();
-    QTest::keyClick(control("repeatDelaySlider"), Qt::Key_End);
-    expected.insert(KTXInitialDelay, 2.0f);
-    expectNothing(expected);
-}
-
-TEST_F(PaneBehaviour, aSliderOnAnEmptyDomainStoresItsValueAlone)
-{
-    showPage();
-    store().clear();
-    pane().changeSlider(control("repeatRateSlider"));
-    EXPECT_TRUE(isEqualPropertyList(store().domain(), QVariantMap{{KTXRepeatRate, 1.0f}}));
-}
-
-TEST_F(PaneBehaviour, aSliderWithAnotherTagChangesNothing)
-{
-    showPage();
-    const QVariantMap before = store().domain();
-    FloatSlider stranger;
-    stranger.setProperty("tag", 73);
-    pane().changeSlider(&stranger);
     expectNothing(before);
 }

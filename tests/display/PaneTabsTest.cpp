@@ -2,9 +2,7 @@
 
 #include "BellListener.h"
 #include "CapturedLog.h"
-#include "PaneOnRealStore.h"
-#include "RunningPrograms.h"
-#include "TestApplication.h"
+#include "PaneWithAgent.h"
 #include "Wait.h"
 
 #include "KTXConstants.h"
@@ -16,16 +14,10 @@
 
 namespace {
 
-const QString agentBundle = QStringLiteral("Contents/Resources/LumarooAgent.app/Contents/");
-
-class PaneTabs : public PaneOnRealStore
+class PaneTabs : public PaneWithAgent
 {
 protected:
     PaneTabs() { store().set(KTXFirstLaunch, QVariant(true)); }
-    ~PaneTabs() override
-    {
-        killProcessesOf(bundle().path() + u'/' + agentBundle + QStringLiteral("Linux/LumarooAgent"));
-    }
 
     void turnTo(int page)
     {
@@ -33,22 +25,11 @@ protected:
         runPendingEvents();
     }
 
-    void putAgent()
-    {
-        bundle().writeFile(agentBundle + QStringLiteral("Info.plist"), R"(<plist version="1.0"><dict>
-            <key>CFBundleIdentifier</key><string>com.quorvane.LumarooAgent</string>
-            <key>CFBundleExecutable</key><string>LumarooAgent</string></dict></plist>)");
-        bundle().copyProgram(agentBundle + QStringLiteral("Linux/LumarooAgent"), TestApplication::idleProgram());
-    }
-
     /// A pane that really starts an agent, which then announces itself only where the test does it for it.
     RecordingPane &paneWithAgent()
     {
         putAgent();
-        pane().carryOut({QStringLiteral("startAgent"), QStringLiteral("setAgentVisualsOn:")});
-        calls.clear();
-        bus().clear();
-        return pane();
+        return paneThatCarriesOut({QStringLiteral("startAgent"), QStringLiteral("setAgentVisualsOn:")});
     }
 
     void agentAnnouncesItself()
