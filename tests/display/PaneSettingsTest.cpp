@@ -2,8 +2,8 @@
 #include "Wait.h"
 
 #include "KTXConstants.h"
-#include "platform/foundation/NSArchiver.h"
 #include "platform/foundation/CFPreferences.h"
+#include "platform/foundation/NSArchiver.h"
 #include "platform/foundation/PropertyList.h"
 
 #include <sys/stat.h>

@@ -73,7 +73,8 @@ TEST_F(PaneSheet, refusesToClearTheLastModifierUntilItIsSuppressedAndTheBellRing
     QVariantMap suppressed = before;
     suppressed.insert(KTXSuppressModAlert, true);
     EXPECT_TRUE(waitUntil([&] { return isEqualPropertyList(domain(), suppressed); }));
-    EXPECT_TRUE(waitUntil([this] { return bus.names() == QStringList{KTXLMPrefsChanged}; })) << "stored, then announced";
+    EXPECT_TRUE(waitUntil([this] { return bus.names() == QStringList{KTXLMPrefsChanged}; }))
+        << "stored, then announced";
     EXPECT_EQ(bell.rings(), 0);
     clearAlt();
     EXPECT_TRUE(waitUntil([&] { return bell.rings() == 1; }));
