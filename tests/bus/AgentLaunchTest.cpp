@@ -69,6 +69,17 @@ TEST_F(Agent, announcesItselfWithItsVersion)
     EXPECT_TRUE(nameIsOwned());
 }
 
+TEST_F(Agent, carriesItsIdentifierAlsoWhenItIsStartedByHand)
+{
+    QProcessEnvironment byHand = QProcessEnvironment::systemEnvironment();
+    byHand.remove("LUMAROO_BUNDLE_IDENTIFIER");
+    AgentProgram agent({"--foreground"}, AgentProgram::builtExecutable(), byHand);
+    ASSERT_TRUE(agent.waitForLaunch());
+    QFile variables(QString("/proc/%1/environ").arg(agent.processId()));
+    ASSERT_TRUE(variables.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(variables.readAll().split('\0').contains("LUMAROO_BUNDLE_IDENTIFIER=com.quorvane.LumarooAgent"));
+}
+
 TEST_F(Agent, leavesTheSettingsAloneWhenItWasStartedBefore)
 {
     for (const QVariant &mark : {QVariant(false), QVariant(QString()), QVariant(QVariantMap())}) {
