@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QScreen>
 #include <QWindow>
+#include <algorithm>
 
 namespace {
 
@@ -26,28 +27,46 @@ void putInFrontOf(const QWidget *window, QWidget *sheet)
         keptWithin(frame.y(), frame.height(), screen.y(), screen.y() + screen.height()));
 }
 
-} // namespace
-
-AlertSheets *AlertSheets::ofWindow(QWidget *view)
+bool isExposed(const QWidget *window)
 {
-    QWidget *window = view ? view->window() : nullptr;
-    const QObject *owner = window ? static_cast<QObject *>(window) : qApp;
-    auto *sheets = owner->findChild<AlertSheets *>(QString(), Qt::FindDirectChildrenOnly);
-    return sheets ? sheets : new AlertSheets(window);
+    return window->windowHandle() && window->windowHandle()->isExposed();
 }
 
-AlertSheets::AlertSheets(QWidget *window)
-    : QObject(window ? static_cast<QObject *>(window) : qApp), window_(window), hasWindow_(window != nullptr)
+bool hasSheet(const QWidget *window)
 {
-    if (!window)
+    const auto alerts = window->findChildren<AlertWindow *>(QString(), Qt::FindDirectChildrenOnly);
+    return std::any_of(alerts.cbegin(), alerts.cend(),
+        [](const AlertWindow *alert) { return alert->isVisible() && alert->windowModality() == Qt::WindowModal; });
+}
+
+} // namespace
+
+AlertSheets *AlertSheets::ofView(QWidget *view)
+{
+    const QObject *owner = view ? static_cast<QObject *>(view) : qApp;
+    auto *sheets = owner->findChild<AlertSheets *>(QString(), Qt::FindDirectChildrenOnly);
+    return sheets ? sheets : new AlertSheets(view);
+}
+
+AlertSheets::AlertSheets(QWidget *view)
+    : QObject(view ? static_cast<QObject *>(view) : qApp), view_(view), hasView_(view != nullptr)
+{
+    if (!view)
         return;
-    window->installEventFilter(this);
+    view->installEventFilter(this);
     watchWindow();
+}
+
+AlertSheets::~AlertSheets()
+{
+    // The window may outlive the view.
+    if (hasView_)
+        takeDown();
 }
 
 void AlertSheets::watchWindow()
 {
-    if (QWindow *handle = window_->windowHandle())
+    if (QWindow *handle = window()->windowHandle())
         handle->installEventFilter(this);
 }
 
@@ -61,10 +80,10 @@ void AlertSheets::begin(AlertSheet sheet)
 
 bool AlertSheets::canShow() const
 {
-    if (!hasWindow_)
+    if (!hasView_)
         return true;
     // Before a window is first on screen its window manager may still place it elsewhere.
-    return window_ && window_->isVisible() && window_->windowHandle() && window_->windowHandle()->isExposed();
+    return view_ && view_->isVisible() && isExposed(window()) && !hasSheet(window());
 }
 
 void AlertSheets::showFirst()
@@ -72,13 +91,29 @@ void AlertSheets::showFirst()
     if (sheets_.empty() || !canShow() || (shown_ && shown_->isVisible()))
         return;
     if (!shown_) {
-        const Qt::WindowModality modality = hasWindow_ ? Qt::WindowModal : Qt::ApplicationModal;
-        shown_ = new AlertWindow(sheets_.front().content, modality, window_);
+        const Qt::WindowModality modality = hasView_ ? Qt::WindowModal : Qt::ApplicationModal;
+        shown_ = new AlertWindow(sheets_.front().content, modality, window());
         connect(shown_, &QDialog::finished, this, &AlertSheets::end);
     }
-    if (hasWindow_)
-        putInFrontOf(window_, shown_);
+    if (hasView_)
+        showOnWindow();
+    else
+        shown_->show();
+}
+
+void AlertSheets::showOnWindow()
+{
+    // The view may have come into another window meanwhile.
+    if (shown_->parentWidget() != window())
+        shown_->setParent(window(), shown_->windowFlags());
+    putInFrontOf(window(), shown_);
     shown_->show();
+}
+
+void AlertSheets::showNextOn(const QWidget *window)
+{
+    for (AlertSheets *sheets : window->findChildren<AlertSheets *>())
+        sheets->showFirst();
 }
 
 void AlertSheets::takeDown()
@@ -94,16 +129,19 @@ void AlertSheets::takeDown()
 void AlertSheets::end()
 {
     const QPointer<AlertSheets> self = this;
-    const QPointer<AlertWindow> window = shown_;
+    const QPointer<QWidget> window = this->window();
+    const QPointer<AlertWindow> answered = shown_;
     const AlertSheet sheet = std::move(sheets_.front());
     sheets_.pop_front();
     takeDown();
-    if (window_ && sheets_.empty())
-        window_->activateWindow();
+    if (window && sheets_.empty())
+        window->activateWindow();
     // It may do anything, also destroy the window.
-    runAtBoundary("end of an alert sheet", [&] { sheet.didEnd(*window); });
+    runAtBoundary("end of an alert sheet", [&] { sheet.didEnd(*answered); });
     if (self)
         showFirst();
+    if (window)
+        showNextOn(window);
 }
 
 void AlertSheets::dropSheetsOf(const QObject *delegate)
@@ -112,15 +150,19 @@ void AlertSheets::dropSheetsOf(const QObject *delegate)
         takeDown();
     std::erase_if(sheets_, [delegate](const AlertSheet &sheet) { return sheet.delegate == delegate; });
     showFirst();
+    if (window())
+        showNextOn(window());
 }
 
 bool AlertSheets::eventFilter(QObject *object, QEvent *event)
 {
-    if (event->type() == QEvent::Show && object == window_)
+    const bool isShow = object == view_ && event->type() == QEvent::Show;
+    if (isShow)
         watchWindow();
-    if (event->type() == QEvent::Hide && object == window_ && shown_)
+    // Where only the window is minimised, the window manager does the same with its sheet, which goes on blocking it.
+    if (object == view_ && event->type() == QEvent::Hide && !event->spontaneous() && shown_)
         shown_->hide();
-    if (event->type() == QEvent::Expose)
+    if (isShow || event->type() == QEvent::Expose)
         QMetaObject::invokeMethod(this, &AlertSheets::showFirst, Qt::QueuedConnection);
     return false;
 }

@@ -136,7 +136,7 @@ void NSAlert::beginSheetModalForWindowModalDelegateDidEndSelectorContextInfo(std
         if (didEnd)
             didEnd(shown.get(), NSAlertFirstButtonReturn + window.pressedButton(), contextInfo);
     };
-    AlertSheets::ofWindow(view)->begin({shown->d->finishedContent(), modalDelegate, end});
+    AlertSheets::ofView(view)->begin({shown->d->finishedContent(), modalDelegate, end});
 }
 
 int NSAlert::runModal()

@@ -54,9 +54,10 @@ public:
     /// Shows an alert in front of the window around `view`, which takes no input until a button is pressed; returns at
     /// once. The sheet owns the alert.
     ///
-    /// A window has one sheet at a time: what is begun meanwhile follows in turn. It is hidden while its window is, and
-    /// one that is begun then comes up with the window. A sheet goes unanswered, and `didEnd` is not called, when the
-    /// window or `modalDelegate` is destroyed. With a null view it stands alone.
+    /// A window has one sheet at a time: what is begun meanwhile follows in turn. It belongs to `view`: it is hidden
+    /// while the view is, and one that is begun then, or while the window is minimised, waits and comes up with the
+    /// view. A sheet goes unanswered, and `didEnd` is not called, when the view or `modalDelegate` is destroyed. With a
+    /// null view it stands alone.
     static void beginSheetModalForWindowModalDelegateDidEndSelectorContextInfo(std::unique_ptr<NSAlert> alert,
         QWidget *view, const QObject *modalDelegate, const DidEnd &didEnd, const QString &contextInfo);
 

@@ -14,6 +14,7 @@ const QByteArray interfaceFile = R"(<?xml version="1.0" encoding="UTF-8"?>
    <item><widget class="QLineEdit" name="field"/></item>
    <item><widget class="QPushButton" name="yes"><property name="text"><string>Leave</string></property></widget></item>
    <item><widget class="QPushButton" name="no"><property name="text"><string>Stay</string></property></widget></item>
+   <item><widget class="QPushButton" name="alert"><property name="text"><string>Warn</string></property></widget></item>
   </layout>
  </widget>
 </ui>

@@ -1,6 +1,7 @@
 // A pane that records the host's calls in the file "calls" of its bundle, and does at each what the file
-// "wishes/<call>" there says.
+// "wishes/<call>" there says. Its button "alert" begins a sheet.
 
+#include "platform/appkit/NSAlert.h"
 #include "platform/appkit/NSPreferencePane.h"
 #include "platform/foundation/NSException.h"
 
@@ -74,6 +75,8 @@ public:
             auto *button = mainView()->findChild<QPushButton *>(yes ? QStringLiteral("yes") : QStringLiteral("no"));
             connect(button, &QPushButton::clicked, this, [this, yes] { Q_EMIT replyToShouldUnselect(yes); });
         }
+        connect(mainView()->findChild<QPushButton *>(QStringLiteral("alert")), &QPushButton::clicked, this,
+            [this] { beginAlert(); });
         record(QStringLiteral("mainViewDidLoad"), mainView());
     }
 
@@ -95,6 +98,14 @@ public:
     }
 
 private:
+    void beginAlert()
+    {
+        auto alert = std::make_unique<NSAlert>();
+        alert->setMessageText(QStringLiteral("Warning"));
+        NSAlert::beginSheetModalForWindowModalDelegateDidEndSelectorContextInfo(std::move(alert), mainView(), this,
+            [this](NSAlert *, int, const QString &) { record(QStringLiteral("alert ended"), mainView()); }, {});
+    }
+
     NSPreferencePaneUnselectReply askUser()
     {
         QMessageBox question(QMessageBox::Question, QStringLiteral("Test pane"), QStringLiteral("Leave?"),
