@@ -11,6 +11,9 @@
 
 namespace {
 
+/// No key repeats this soon after it went down (in ms): desktops let their users choose 100 and more.
+constexpr quint64 shortestRepeatDelay = 50;
+
 /// While it lives, an event is the application's current one.
 class CurrentEvent
 {
@@ -143,9 +146,12 @@ bool TextFieldEvents::eventFilter(QObject *object, QEvent *event)
 }
 
 /// The server repeats a key by a release and a press of one and the same time, with nothing in between. The toolkit
-/// knows the press for a repeat only if both have arrived together.
+/// knows the press for a repeat only if both have arrived together, and takes for one what a program types that fast.
 bool TextFieldEvents::isRepeat(const QKeyEvent &press) const
 {
+    const bool isSinceLastPress = press.nativeScanCode() == lastPress_.scanCode;
+    if (isSinceLastPress && press.timestamp() - lastPress_.time < shortestRepeatDelay)
+        return false;
     const bool isJustReleased = press.nativeScanCode() == lastRelease_.scanCode;
     return press.isAutoRepeat() || (isJustReleased && press.timestamp() == lastRelease_.time);
 }
@@ -153,6 +159,8 @@ bool TextFieldEvents::isRepeat(const QKeyEvent &press) const
 bool TextFieldEvents::handlePress(QLineEdit *field, const QKeyEvent &event)
 {
     const bool isRepeated = isRepeat(event);
+    if (!isRepeated)
+        lastPress_ = {event.nativeScanCode(), event.timestamp()};
     lastRelease_ = {};
     const std::optional<NSEvent> keyDown = keyDownEvent(event);
     if (!keyDown)

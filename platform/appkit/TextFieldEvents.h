@@ -38,7 +38,7 @@ private:
     bool handleCommand(QLineEdit *field, const NSEvent &event);
     bool staysUnchanged(QLineEdit *field, const NSEvent &event);
 
-    struct Release
+    struct KeyMove
     {
         quint32 scanCode = 0;
         quint64 time = 0;
@@ -49,5 +49,6 @@ private:
     QList<QPointer<QLineEdit>> fields_;
     QPointer<QLineEdit> edited_;
     QPointer<FieldEditor> editor_;
-    Release lastRelease_;
+    KeyMove lastPress_; ///< repeats left out
+    KeyMove lastRelease_;
 };

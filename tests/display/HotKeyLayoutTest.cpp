@@ -222,3 +222,18 @@ TEST_F(HotKeyLayout, oneOf200KeysTypedFastIsNotLost)
     EXPECT_EQ(bus().notifications().size(), stored);
     EXPECT_EQ(store().value(KTXScreenshotPref), QVariant(QVariantMap{{KTXKeycode, QString::number(current)}}));
 }
+
+TEST_F(HotKeyLayout, theSameKeyTypedFastCountsEachTime)
+{
+    constexpr int presses = 200;
+    storeKey(CloseWindow, 13);
+    store().set(KTXSuppressHKeyTaken, true);
+    showPage();
+    focus(Screenshot);
+    for (int number = 0; number < presses; ++number)
+        pressKey(KEY_W);
+    pressKey(KEY_A);
+    EXPECT_TRUE(waitUntil([this] { return keyCode(Screenshot) == 0; }));
+    EXPECT_EQ(bell.rings(), presses);
+    expectTaken(Screenshot, 0, "A");
+}

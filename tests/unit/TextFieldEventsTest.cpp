@@ -150,6 +150,33 @@ TEST_F(TextFields, aKeyThatStaysDownIsAskedAboutOnce)
     EXPECT_EQ(asked.size(), 2);
 }
 
+TEST_F(TextFields, aKeyTypedTwiceWithinAMillisecondIsAskedAboutTwice)
+{
+    load();
+    QLineEdit *one = field("one");
+    now = 7000;
+    for (const bool isTakenForRepeat : {false, true}) { // by the toolkit, as the events arrive
+        asked.clear();
+        send(one, QEvent::KeyPress, KEY_A, Qt::Key_A, "a", now);
+        send(one, QEvent::KeyRelease, KEY_A, Qt::Key_A, "a", now, isTakenForRepeat);
+        send(one, QEvent::KeyPress, KEY_A, Qt::Key_A, "a", now, isTakenForRepeat);
+        send(one, QEvent::KeyRelease, KEY_A, Qt::Key_A, "a", ++now);
+        EXPECT_EQ(asked.size(), 2);
+    }
+}
+
+TEST_F(TextFields, aKeyThatWentDownElsewhereAndRepeatsIsNotAskedAbout)
+{
+    load();
+    press(field("one"), KEY_A, Qt::Key_A, "a");
+    press(field("one"), KEY_B, Qt::Key_B, "b");
+    asked.clear();
+    send(field("one"), QEvent::KeyRelease, KEY_A, Qt::Key_A, "a", 3);
+    send(field("one"), QEvent::KeyPress, KEY_A, Qt::Key_A, "a", 3);
+    send(field("one"), QEvent::KeyPress, KEY_B, Qt::Key_B, "b", 9000, true);
+    EXPECT_TRUE(asked.isEmpty());
+}
+
 TEST_F(TextFields, theCurrentEventEndsWithTheQuestion)
 {
     load();
