@@ -89,7 +89,7 @@ protected: // privateMethods
     InterfaceOwner interfaceOwner() override;
     QList<OutletEntry> outlets();
     QList<ActionEntry> actions();
-    void syncPrefsAndNotifyAgent();
+    virtual void syncPrefsAndNotifyAgent();
     virtual void updatePreferences(const NSNotification &notification);
     virtual void updateAgentVisuals();
     virtual void setAgentVisualsOn(const NSNotification &notification);

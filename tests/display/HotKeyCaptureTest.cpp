@@ -3,7 +3,6 @@
 #include "KeyPress.h"
 #include "OpenAlert.h"
 #include "PaneOnHotKeyPage.h"
-#include "SystemCallFaults.h"
 #include "Wait.h"
 
 #include "KTXConstants.h"
@@ -125,13 +124,35 @@ TEST_F(HotKeyCapture, returnLeavesTheFieldsAlsoWhenItsRowHasLostIt)
 TEST_F(HotKeyCapture, theAgentIsToldBeforeTheTableChanges)
 {
     showPage();
-    const SystemCalls before = systemCalls();
-    QList<int> codesAtWriting;
-    observe(&SystemCalls::rename, [&] { codesAtWriting += keyCode(Screenshot); });
+    QList<int> codesWhenTold;
+    pane().atAgentTold = [&] {
+        // The bus itself has carried it by now.
+        EXPECT_EQ(bus().notifications(), (QList<BusNotification>{{KTXLMPrefsChanged, KTXLMAppID, {}, true}}));
+        EXPECT_EQ(store().value(KTXScreenshotPref), QVariant(QVariantMap{{"keycode", "0"}}));
+        codesWhenTold += keyCode(Screenshot);
+    };
     pressIn(Screenshot, KEY_A);
-    systemCalls() = before;
-    EXPECT_EQ(codesAtWriting, QList<int>{1});
+    pane().atAgentTold = [] {};
+    EXPECT_EQ(codesWhenTold, QList<int>{1});
     expectTaken(Screenshot, 0, "A");
+}
+
+TEST_F(HotKeyCapture, theFieldShowsTheNewKeyBeforeTheAgentIsTold)
+{
+    giveTwoMovementKeysTheSameCode();
+    showPage();
+    QStringList shownWhenTold;
+    QList<QList<int>> markedWhenTold;
+    pane().atAgentTold = [&] {
+        shownWhenTold += shown(Right);
+        markedWhenTold += markedRows();
+    };
+    pressIn(Right, KEY_R);
+    pane().atAgentTold = [] {};
+    EXPECT_EQ(shownWhenTold, QStringList{"R"});
+    EXPECT_EQ(markedWhenTold, QList<QList<int>>{QList<int>{Up}}) << "the other rows are looked at afterwards";
+    expectTaken(Right, 15, "R");
+    EXPECT_TRUE(markedRows().isEmpty());
 }
 
 TEST_F(HotKeyCapture, theDefaultsTakeTheKeyTooForTheyAreTheSameTable)

@@ -84,12 +84,19 @@ TEST_F(PaneModifierEditing, eachBoxWorksByItsMnemonicAndBySpace)
     }
 }
 
-TEST_F(PaneModifierEditing, aBoxShowsTheNewModifiersBeforeTheyAreStored)
+TEST_F(PaneModifierEditing, aBoxShowsTheNewModifiersBeforeTheyAreStoredAndTheAgentIsTold)
 {
     showModifiers(0x1800);
+    QStringList glyphsWhenTold;
+    pane().atAgentTold = [&] {
+        expectStoredMask(0x1A00, 1);
+        glyphsWhenTold += glyphs();
+    };
     watchWriting();
     click("shiftCheckBox");
+    pane().atAgentTold = [] {};
     EXPECT_EQ(glyphsAtWriting, QStringList{QStringLiteral("⇧⌃⌥")});
+    EXPECT_EQ(glyphsWhenTold, QStringList{QStringLiteral("⇧⌃⌥")});
 }
 
 TEST_F(PaneModifierEditing, whatABoxChangedIsAnnouncedOnlyWhenItIsOnTheDisk)

@@ -25,13 +25,26 @@ TEST_F(PaneModifierMatrix, aCellTogglesItsModifierWhateverItShows)
     EXPECT_TRUE(isNothingAsked());
 }
 
-TEST_F(PaneModifierMatrix, aCellStoresBeforeTheNewModifiersAreShown)
+TEST_F(PaneModifierMatrix, aCellStoresAndTellsTheAgentBeforeTheNewModifiersAreShown)
 {
+    store().set(KTXsuppressHKeysTaken, true);
+    giveUpAndRightTheSameKey();
     showModifiers(0x1800);
+    for (int row = 0; row < movementKeys; ++row)
+        setHidden(viewWithTag(pane().mainView(), row + movementKeys), true);
+    QStringList glyphsWhenTold;
+    pane().atAgentTold = [&] {
+        expectStoredMask(0x1A00, 1);
+        glyphsWhenTold += glyphs();
+        EXPECT_EQ(markedRows(), QList<int>()) << "conflicts are looked for last";
+    };
     watchWriting();
     clickCell(0x200);
+    pane().atAgentTold = [] {};
     EXPECT_EQ(glyphsAtWriting, QStringList{QStringLiteral("⌃⌥")});
+    EXPECT_EQ(glyphsWhenTold, QStringList{QStringLiteral("⌃⌥")});
     EXPECT_EQ(glyphs(), QStringLiteral("⇧⌃⌥"));
+    EXPECT_EQ(markedRows(), (QList<int>{0, 1}));
 }
 
 TEST_F(PaneModifierMatrix, aMatrixWithoutASelectedCellStoresTheMaskAgain)
@@ -42,6 +55,28 @@ TEST_F(PaneModifierMatrix, aMatrixWithoutASelectedCellStoresTheMaskAgain)
     pane().updateButtonStates(&untouched);
     expectStoredMask(0x1800, 1);
     EXPECT_EQ(glyphs(), QStringLiteral("⌃⌥"));
+}
+
+TEST_F(PaneModifierMatrix, withoutModifiersAMatrixWithoutASelectedCellSaysThatOneIsNeeded)
+{
+    store().set(KTXSuppressModAlert, true);
+    showModifiers(0);
+    const int rings = bell.rings();
+    NSMatrix untouched;
+    setStringValue(control("modifiersField"), QStringLiteral("-"));
+    pane().updateButtonStates(&untouched);
+    EXPECT_EQ(glyphs(), QString());
+    EXPECT_EQ(bell.rings(), rings + 1);
+    EXPECT_TRUE(isNothingAsked());
+    expectNothingStored();
+    store().set(KTXSuppressModAlert, QVariant());
+    rememberStore();
+    pane().updateButtonStates(&untouched);
+    ASSERT_TRUE(alertComesUp());
+    EXPECT_EQ(textsOfAlert(), (QStringList{lastModifierMessage, lastModifierInformation}));
+    closeAlert();
+    EXPECT_EQ(bell.rings(), rings + 1);
+    expectNothingStored();
 }
 
 TEST_F(PaneModifierMatrix, theZeroCellStoresTheMaskAgainAndMarksConflicts)
@@ -92,12 +127,17 @@ TEST_F(PaneModifierMatrix, aCellSaysThatKeysAreInConflict)
 
 TEST_F(PaneModifierMatrix, aSuppressedConflictOfTheWrongKindIsSaid)
 {
-    store().set(KTXsuppressHKeysTaken, 1);
     giveUpAndRightTheSameKey();
-    showPane();
-    ASSERT_TRUE(alertComesUp());
-    EXPECT_EQ(textsOfAlert(), (QStringList{conflictMessage, conflictInformation}));
-    closeAlert();
+    for (const QVariant &value : {QVariant(1LL), QVariant("true"), QVariant(1.0), QVariant(QVariantList{true}),
+             QVariant(QByteArray("1")), QVariant(false)}) {
+        store().set(KTXsuppressHKeysTaken, value);
+        showPane();
+        ASSERT_TRUE(alertComesUp()) << value.typeName();
+        EXPECT_EQ(textsOfAlert(), (QStringList{conflictMessage, conflictInformation}));
+        closeAlert();
+        EXPECT_EQ(bell.rings(), 0);
+        EXPECT_TRUE(isEqualPropertyList(store().value(KTXsuppressHKeysTaken), value)) << "it is left as it is";
+    }
 }
 
 TEST_F(PaneModifierMatrix, everyShowingSaysThatKeysAreInConflict)

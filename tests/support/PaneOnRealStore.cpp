@@ -61,6 +61,18 @@ void RecordingPane::updatePreferences(const NSNotification &notification)
     KTXLumarooPreferencePane::updatePreferences(notification);
 }
 
+void RecordingPane::syncPrefsAndNotifyAgent()
+{
+    KTXLumarooPreferencePane::syncPrefsAndNotifyAgent();
+    atAgentTold();
+}
+
+bool RecordingPane::controlTextViewDoCommandBySelector(QWidget *control, FieldEditor *textView, const QString &command)
+{
+    commands += command;
+    return KTXLumarooPreferencePane::controlTextViewDoCommandBySelector(control, textView, command);
+}
+
 bool RecordingPane::recordedAndWished(const QString &operation)
 {
     *calls_ += operation;

@@ -21,6 +21,10 @@ public:
     QStringList outletNames();
     /// Called where the pane would show the agent's state.
     std::function<void()> atAgentVisuals = [] {};
+    /// Called when a change has been flushed and announced, before the operation that did so goes on.
+    std::function<void()> atAgentTold = [] {};
+    /// What the hot key fields asked about as a command, since a test cleared it.
+    QStringList commands;
 
     void updateAgentVisuals() override;
     void setAgentVisualsOn(const NSNotification &notification) override;
@@ -29,8 +33,10 @@ public:
     void stopAgent() override;
     bool startAgent() override;
     using KTXLumarooPreferencePane::agentPSN;
+    bool controlTextViewDoCommandBySelector(QWidget *control, FieldEditor *textView, const QString &command) override;
 
 protected:
+    void syncPrefsAndNotifyAgent() override;
     void updatePreferences(const NSNotification &notification) override;
 
 private:
