@@ -144,10 +144,16 @@ TEST_F(HotKeyFieldProtection, anEventThatIsNoKeyPressOnlyRefreshesTheMarkers)
 TEST_F(HotKeyFieldProtection, aViewThatIsNoRowStoresNothing)
 {
     showPageWithTextToPaste();
-    QLineEdit stranger(window());
+    QLineEdit *stranger = field(Screenshot);
     for (const int strangersTag : {-1, 11, 100}) {
-        stranger.setProperty("tag", strangersTag);
-        EXPECT_FALSE(pane().controlTextShouldBeginEditing(&stranger, FieldEditor::forWindow(window())));
+        setHidden(viewWithTag(pane().mainView(), 5), true);
+        stranger->setProperty("tag", strangersTag);
+        press(KEY_B); // free
+        press(KEY_W); // in use
+        stranger->setProperty("tag", int(Screenshot));
+        expectMarkersRefreshed();
+        expectUnchanged();
+        EXPECT_EQ(*pane().keyCodes(), (QList<int>{126, 126, 125, 123, 44, 43, 1, 13, 49, 53, 36}));
+        EXPECT_EQ(bell.rings(), 0);
     }
-    expectUnchanged();
 }
