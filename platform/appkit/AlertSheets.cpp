@@ -107,6 +107,8 @@ void AlertSheets::showOnWindow()
     if (shown_->parentWidget() != window())
         shown_->setParent(window(), shown_->windowFlags());
     putInFrontOf(window(), shown_);
+    // Hidden while minimised along with its window, it would take the window down again.
+    shown_->setWindowState(shown_->windowState() & ~Qt::WindowMinimized);
     shown_->show();
 }
 

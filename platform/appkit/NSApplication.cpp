@@ -1,9 +1,16 @@
 #include "platform/appkit/NSApplication.h"
 
+#include "platform/appkit/linux/WindowRequests.h"
+
 #include <QApplication>
+#include <QTimer>
 #include <QWidget>
+#include <QWindow>
+#include <chrono>
 
 namespace {
+
+constexpr auto timeToGetTheFocus = std::chrono::seconds(1);
 
 /// The question on screen, if there is one, else the first window that stands on its own.
 QWidget *mainWindow()
@@ -15,6 +22,36 @@ QWidget *mainWindow()
             return window;
     }
     return nullptr;
+}
+
+/// A minimised window takes the sheet in front of it along, and neither can have the focus.
+void bringBack(QWidget *window)
+{
+    if (QWidget *below = window->parentWidget())
+        bringBack(below->window());
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+}
+
+void callForAttention(QWidget *window)
+{
+    if (window->windowHandle()->isExposed())
+        QApplication::alert(window);
+    else
+        askForAttention(window->windowHandle());
+}
+
+void bringToFront(QWidget *window)
+{
+    bringBack(window);
+    window->raise();
+    window->activateWindow();
+    if (!window->windowHandle()->isExposed())
+        askForActivation(window->windowHandle());
+    // At once, it would also be said of a window that is about to get the focus.
+    QTimer::singleShot(timeToGetTheFocus, window, [window] {
+        if (window->isVisible() && !window->isActiveWindow())
+            callForAttention(window);
+    });
 }
 
 } // namespace
@@ -38,10 +75,8 @@ void NSApplication::activateIgnoringOtherApps(bool ignoresOthers)
     QWidget *window = mainWindow();
     if (!window)
         return;
-    if (ignoresOthers) {
-        window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
-        window->raise();
-        window->activateWindow();
-    }
-    QApplication::alert(window);
+    if (ignoresOthers)
+        bringToFront(window);
+    else
+        callForAttention(window);
 }

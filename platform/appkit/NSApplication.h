@@ -19,8 +19,9 @@ public:
     /// How this application ends; set by its main program. Without one it closes its windows and quits.
     void setTerminationHandler(std::function<void()> handler) { terminationHandler_ = std::move(handler); }
 
-    /// Brings the application's window to the front and gives it the focus; until it has it, and with false, which
-    /// leaves the focus to whoever has it, the window asks for the user's attention.
+    /// Brings the application's window to the front, also a minimised one, and gives it the focus, or the sheet on it;
+    /// where it has not got it after a second, the window asks for the user's attention. With false, which leaves the
+    /// focus to whoever has it, it asks at once and does nothing else.
     void activateIgnoringOtherApps(bool ignoresOthers);
 
     /// What is being handled: a key press while a text field's delegate is asked about it, else of type Other. Set by

@@ -64,6 +64,28 @@ QPoint position(xcb_window_t window)
     return reply ? QPoint(reply->dst_x, reply->dst_y) : QPoint();
 }
 
+QString atomName(xcb_atom_t atom)
+{
+    const Owned<xcb_get_atom_name_reply_t> reply(
+        xcb_get_atom_name_reply(connection(), xcb_get_atom_name(connection(), atom), nullptr), &std::free);
+    return reply ? QString::fromLatin1(xcb_get_atom_name_name(reply.get()), xcb_get_atom_name_name_length(reply.get()))
+                 : QString();
+}
+
+void tellWindowManager(xcb_window_t window, const char *request, quint32 value = 0)
+{
+    xcb_client_message_event_t message = {};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = window;
+    message.type = atom(request);
+    message.data.data32[0] = value;
+    xcb_send_event(connection(), 0, rootWindow(),
+        XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+        reinterpret_cast<const char *>(&message));
+    xcb_flush(connection());
+}
+
 } // namespace
 
 QList<DesktopWindow> desktopWindows()
@@ -102,15 +124,52 @@ QString activeWindowTitle()
 
 void askToClose(quint32 window)
 {
-    xcb_client_message_event_t message = {};
-    message.response_type = XCB_CLIENT_MESSAGE;
-    message.format = 32;
-    message.window = window;
-    message.type = atom("_NET_CLOSE_WINDOW");
-    xcb_send_event(connection(), 0, rootWindow(),
-        XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-        reinterpret_cast<const char *>(&message));
-    xcb_flush(connection());
+    tellWindowManager(window, "_NET_CLOSE_WINDOW");
+}
+
+void turnToWindow(quint32 window)
+{
+    constexpr quint32 fromUser = 2;
+    tellWindowManager(window, "_NET_ACTIVE_WINDOW", fromUser);
+}
+
+void minimise(quint32 window)
+{
+    constexpr quint32 iconicState = 3;
+    tellWindowManager(window, "WM_CHANGE_STATE", iconicState);
+}
+
+QStringList windowStates(quint32 window)
+{
+    QStringList names;
+    for (const quint32 state : numbers(property(window, "_NET_WM_STATE")))
+        names += atomName(state);
+    return names;
+}
+
+QList<quint32> stackedWindows()
+{
+    return numbers(property(rootWindow(), "_NET_CLIENT_LIST_STACKING"));
+}
+
+quint32 desktops()
+{
+    return numbers(property(rootWindow(), "_NET_NUMBER_OF_DESKTOPS")).value(0);
+}
+
+void setDesktops(quint32 count)
+{
+    tellWindowManager(rootWindow(), "_NET_NUMBER_OF_DESKTOPS", count);
+}
+
+quint32 currentDesktop()
+{
+    return numbers(property(rootWindow(), "_NET_CURRENT_DESKTOP")).value(0);
+}
+
+void goToDesktop(quint32 desktop)
+{
+    tellWindowManager(rootWindow(), "_NET_CURRENT_DESKTOP", desktop);
 }
 
 QImage pictureOfWindow(quint32 window)

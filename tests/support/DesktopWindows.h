@@ -24,5 +24,20 @@ QStringList openWindowTitles();
 QString activeWindowTitle();
 /// Asks a window to close, as its frame's close button does.
 void askToClose(quint32 window);
+/// Gives a window the focus, as a task bar does for its user.
+void turnToWindow(quint32 window);
+/// Minimises a window, as its frame's button does.
+void minimise(quint32 window);
+/// What the window manager says of a window, as "_NET_WM_STATE_HIDDEN".
+QStringList windowStates(quint32 window);
+/// All windows from the lowest to the one in front.
+QList<quint32> stackedWindows();
+
+// The desktops that the user may turn to, counted from 0.
+quint32 desktops();
+void setDesktops(quint32 count);
+quint32 currentDesktop();
+void goToDesktop(quint32 desktop);
+
 /// What the screen shows of a window.
 QImage pictureOfWindow(quint32 window);
