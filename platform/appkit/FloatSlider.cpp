@@ -1,16 +1,21 @@
 #include "platform/appkit/FloatSlider.h"
 
+#include "platform/appkit/FloatSliderAccessibility.h"
+
+#include <QLocale>
 #include <QScopedValueRollback>
 #include <cmath>
 
 namespace {
 
 constexpr double mostPositions = 100000;
+constexpr int mostDecimals = 6;
 
 } // namespace
 
 FloatSlider::FloatSlider(QWidget *parent) : QSlider(Qt::Horizontal, parent)
 {
+    FloatSliderAccessibility::install();
     connect(this, &QSlider::valueChanged, this, &FloatSlider::positionChanged);
     connect(this, &QSlider::sliderReleased, this, &FloatSlider::dragEnded);
     connect(this, &QSlider::actionTriggered, this, &FloatSlider::actionWasTriggered);
@@ -46,8 +51,43 @@ void FloatSlider::setValue(double value)
     // The end of a drag replaces it anyway.
     if (isSliderDown())
         return;
+    const double before = this->value();
     value_ = value;
     showValue();
+    valueChangedFrom(before);
+}
+
+void FloatSlider::chooseValue(double value)
+{
+    const double before = this->value();
+    if (std::isnan(value))
+        return;
+    setValue(std::fmax(minimum_, std::fmin(value, maximum_)));
+    if (this->value() != before)
+        Q_EMIT valueChosen();
+}
+
+QString FloatSlider::spokenValue() const
+{
+    const QString number = QLocale().toString(value(), 'f', decimals());
+    return valueFormat_.isEmpty() ? number : QString(valueFormat_).replace(QStringLiteral("%1"), number);
+}
+
+int FloatSlider::decimals() const
+{
+    int count = 0;
+    for (double step = step_; count < mostDecimals && std::fabs(step - std::round(step)) > 1e-6; step *= 10)
+        ++count;
+    return count;
+}
+
+/// The toolkit tells of positions only, and of those before we know the value.
+void FloatSlider::valueChangedFrom(double before)
+{
+    if (value() == before)
+        return;
+    QAccessibleValueChangeEvent event(this, value());
+    QAccessible::updateAccessibility(&event);
 }
 
 int FloatSlider::lastPosition() const
@@ -80,7 +120,9 @@ void FloatSlider::positionChanged(int position)
 {
     if (followsCode_)
         return;
+    const double before = value();
     value_ = valueAtPosition(position);
+    valueChangedFrom(before);
     if (isSliderDown())
         movedInDrag_ = true;
     else
@@ -94,7 +136,9 @@ void FloatSlider::actionWasTriggered()
     const double reached = valueAtPosition(sliderPosition());
     if (isSliderDown() || sliderPosition() != QSlider::value() || value_ == reached)
         return;
+    const double before = value();
     value_ = reached;
+    valueChangedFrom(before);
     Q_EMIT valueChosen();
 }
 

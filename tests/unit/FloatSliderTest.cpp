@@ -1,6 +1,8 @@
 #include "platform/appkit/FloatSlider.h"
 #include "platform/appkit/Controls.h"
 
+#include <QAccessible>
+#include <QLocale>
 #include <QSignalSpy>
 #include <QStyle>
 #include <QStyleOptionSlider>
@@ -138,4 +140,59 @@ TEST_F(ASlider, isNotPulledAwayByCodeDuringADrag)
     QTest::mouseRelease(&slider, Qt::LeftButton, {}, start + QPoint(150, 0));
     EXPECT_EQ(slider.value(), dragged);
     EXPECT_EQ(chosen.count(), 1);
+}
+
+class ASliderToAScreenReader : public ASlider
+{
+protected:
+    QAccessibleInterface *told() { return QAccessible::queryAccessibleInterface(&slider); }
+    QAccessibleValueInterface *value() { return told()->valueInterface(); }
+};
+
+TEST_F(ASliderToAScreenReader, isASliderWithItsValueBoundsAndStep)
+{
+    slider.setAccessibleName(QStringLiteral("Delay"));
+    slider.setValue(0.333);
+    ASSERT_TRUE(value());
+    EXPECT_EQ(told()->role(), QAccessible::Slider);
+    EXPECT_EQ(told()->text(QAccessible::Name), QStringLiteral("Delay"));
+    EXPECT_EQ(value()->currentValue(), QVariant(0.333));
+    EXPECT_EQ(value()->minimumValue(), QVariant(0.1));
+    EXPECT_EQ(value()->maximumValue(), QVariant(2.1));
+    EXPECT_EQ(value()->minimumStepSize(), QVariant(0.1));
+}
+
+TEST_F(ASliderToAScreenReader, saysItsValueInTheUsersNotationWithItsUnit)
+{
+    slider.setValue(0.3f);
+    EXPECT_EQ(told()->text(QAccessible::Value), QStringLiteral("0.3"));
+    slider.setStep(0.05);
+    slider.setValueFormat(QStringLiteral("%1 seconds"));
+    EXPECT_EQ(told()->text(QAccessible::Value), QStringLiteral("0.30 seconds"));
+    slider.setStep(1);
+    EXPECT_EQ(told()->text(QAccessible::Value), QStringLiteral("0 seconds"));
+    slider.setStep(0.25);
+    QLocale::setDefault(QLocale(QStringLiteral("de")));
+    EXPECT_EQ(told()->text(QAccessible::Value), QStringLiteral("0,30 seconds"));
+    QLocale::setDefault(QLocale::c());
+}
+
+TEST_F(ASliderToAScreenReader, isSetThroughItAsByItsUser)
+{
+    value()->setCurrentValue(1.234);
+    EXPECT_EQ(slider.value(), 1.234);
+    EXPECT_EQ(chosen.count(), 1);
+    value()->setCurrentValue(1.234);
+    value()->setCurrentValue(std::numeric_limits<double>::quiet_NaN());
+    value()->setCurrentValue(QStringLiteral("a lot"));
+    EXPECT_EQ(slider.value(), 1.234);
+    EXPECT_EQ(chosen.count(), 1);
+    value()->setCurrentValue(99);
+    EXPECT_EQ(slider.value(), 2.1);
+    EXPECT_EQ(chosen.count(), 2);
+    slider.setSliderDown(true);
+    value()->setCurrentValue(1);
+    slider.setSliderDown(false);
+    EXPECT_EQ(slider.value(), 2.1);
+    EXPECT_EQ(chosen.count(), 2);
 }

@@ -256,6 +256,10 @@
         <translation>Absteigend</translation>
     </message>
     <message>
+        <source>Ascending goes from the first window to the last, descending from the last to the first.</source>
+        <translation>Aufsteigend geht es vom ersten Fenster zum letzten, absteigend vom letzten zum ersten.</translation>
+    </message>
+    <message>
         <source>The leading edge is the one that faces the way you move.</source>
         <translation>Die Vorderkante ist die, die in die Richtung der Bewegung zeigt.</translation>
     </message>
@@ -274,6 +278,10 @@
     <message>
         <source>Acti&amp;vate with a double click</source>
         <translation>Mit &amp;Doppelklick aktivieren</translation>
+    </message>
+    <message>
+        <source>Lumaroo will then always stay active after a double click.</source>
+        <translation>Lumaroo bleibt dann nach einem Doppelklick immer aktiv.</translation>
     </message>
     <message>
         <source>Keep Lumaroo active:</source>
@@ -314,6 +322,10 @@
     <message>
         <source>Delay before the first repeat</source>
         <translation>Verzögerung zu Beginn</translation>
+    </message>
+    <message>
+        <source>%1 seconds</source>
+        <translation>%1 Sekunden</translation>
     </message>
     <message>
         <source>Long</source>
@@ -358,6 +370,10 @@
     <message>
         <source>A&amp;nimate the overlay</source>
         <translation>Overlay an&amp;imieren</translation>
+    </message>
+    <message>
+        <source>The overlay will move and change gradually instead of at once.</source>
+        <translation>Das Overlay bewegt und ändert sich dann allmählich statt auf einmal.</translation>
     </message>
     <message>
         <source>Help about the order of windows</source>
