@@ -58,3 +58,28 @@ void clickAt(QPoint place, MouseButton button)
     send(XCB_BUTTON_RELEASE, quint8(button));
     waitForServer();
 }
+
+void movePointerTo(QPoint place)
+{
+    send(XCB_MOTION_NOTIFY, 0, place);
+    waitForServer();
+}
+
+void mouseDown(MouseButton button)
+{
+    send(XCB_BUTTON_PRESS, quint8(button));
+    waitForServer();
+}
+
+void mouseUp(MouseButton button)
+{
+    send(XCB_BUTTON_RELEASE, quint8(button));
+    waitForServer();
+}
+
+void turnWheel(Wheel direction)
+{
+    send(XCB_BUTTON_PRESS, quint8(direction));
+    send(XCB_BUTTON_RELEASE, quint8(direction));
+    waitForServer();
+}

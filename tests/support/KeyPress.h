@@ -16,3 +16,9 @@ void keyUp(int evdevCode);
 enum class MouseButton : quint8 { Left = 1, Middle = 2, Right = 3 };
 /// Moves the pointer to a place of the screen (in pixels) and clicks a button.
 void clickAt(QPoint place, MouseButton button = MouseButton::Left);
+void movePointerTo(QPoint place);
+void mouseDown(MouseButton button = MouseButton::Left);
+void mouseUp(MouseButton button = MouseButton::Left);
+/// Turns the wheel by one notch where the pointer is.
+enum class Wheel : quint8 { Up = 4, Down = 5 };
+void turnWheel(Wheel direction);
