@@ -126,14 +126,43 @@ TEST_F(PaneBehaviour, choosingTheSameItemAgainAnnouncesItAgain)
 
 TEST_F(PaneBehaviour, anOrderThatStartsAtTheCenterOrTheLeadingEdgeIsNotSelectedOnReading)
 {
+    struct Order
+    {
+        const char *popUp;
+        QString key;
+        int center, leadingEdge;
+        QList<int> others;
+    };
+    const QList<Order> orders{
+        {horizontalOrder, KTXHSort, 60, 58, {52, 53}}, {verticalOrder, KTXVSort, 61, 59, {55, 56}}};
     showPage();
-    for (const int itemTag : {60, 58}) {
-        choose(horizontalOrder, itemTag);
-        selectItemWithTag(control(horizontalOrder), 52);
-        pane().readUserPrefs();
-        EXPECT_EQ(selectedItemTag(control(horizontalOrder)), 52) << "it shows what it showed";
+    for (const Order &order : orders) {
+        for (const int itemTag : {order.center, order.leadingEdge}) {
+            const QString stored = itemTag == order.center ? QStringLiteral("Center") : QStringLiteral("LeadingEdge");
+            choose(order.popUp, itemTag);
+            EXPECT_EQ(store().value(order.key), QVariant(stored));
+            for (const int shown : order.others) {
+                selectItemWithTag(control(order.popUp), shown);
+                pane().readUserPrefs();
+                EXPECT_EQ(selectedItemTag(control(order.popUp)), shown) << "it shows what it showed";
+                EXPECT_EQ(store().value(order.key), QVariant(stored)) << "and stays stored";
+            }
+        }
     }
-    EXPECT_EQ(store().value(KTXHSort), QVariant("LeadingEdge"));
+}
+
+TEST_F(PaneBehaviour, anOrderThatStartsAtAnEdgeIsSelectedOnReading)
+{
+    showPage();
+    for (const Item &item : items) {
+        const bool isRead = item.key != KTXCycleAscending && !QStringList{"Center", "LeadingEdge"}.contains(item.value);
+        if (!isRead)
+            continue;
+        control<QComboBox>(item.popUp)->setCurrentIndex(4);
+        store().set(item.key, item.value);
+        pane().readUserPrefs();
+        EXPECT_EQ(selectedItemTag(control(item.popUp)), item.tag);
+    }
 }
 
 TEST_F(PaneBehaviour, activatingWithADoubleClickForcesTheMatrixToo)
@@ -194,25 +223,77 @@ TEST_F(PaneBehaviour, theOptionsThatAreNotReadKeepWhatTheWindowFileGivesThem)
     EXPECT_EQ(selectedItemTag(control(cycleOrder)), 51);
 }
 
-TEST_F(PaneBehaviour, aSenderOutsideTheTableStoresAndAnnouncesNothing)
+TEST_F(PaneBehaviour, everyTagOfACheckBoxStoresItsRowOfTheTableAndNoOtherDoes)
+{
+    showPage();
+    const QMap<int, QString> keys{
+        {30, KTXHWrap}, {31, KTXVWrap}, {70, KTXAutoRepeat}, {73, KTXAnimate}, {74, KTXActivateDoubleClick}};
+    for (int checkBoxTag = -1; checkBoxTag <= 100; ++checkBoxTag) {
+        QCheckBox checkBox;
+        checkBox.setProperty("tag", checkBoxTag);
+        for (const bool isOn : {true, false}) {
+            checkBox.setChecked(isOn);
+            const QVariantMap before = store().domain();
+            pane().enableChecked(&checkBox);
+            if (!keys.contains(checkBoxTag)) {
+                expectNothing(before);
+                continue;
+            }
+            QVariantMap changes{{keys[checkBoxTag], isOn}};
+            if (checkBoxTag == 74 && isOn)
+                changes.insert(KTXPersistentDoubleClick, true);
+            expectStored(before, changes);
+        }
+    }
+}
+
+TEST_F(PaneBehaviour, everyTagOfAnItemStoresItsRowOfTheTableAndNoOtherDoes)
+{
+    showPage();
+    QComboBox popUp;
+    for (int itemTag = -1; itemTag <= 100; ++itemTag) {
+        popUp.clear();
+        popUp.addItem("Item", itemTag);
+        const QVariantMap before = store().domain();
+        pane().enableChecked(&popUp);
+        const auto item =
+            std::find_if(items.begin(), items.end(), [itemTag](const Item &known) { return known.tag == itemTag; });
+        if (item == items.end())
+            expectNothing(before);
+        else
+            expectStored(before, {{item->key, item->value}});
+    }
+}
+
+TEST_F(PaneBehaviour, everyTagOfAMatrixCellButTheFirstStandsForNoDoubleClick)
+{
+    showPage();
+    for (int cellTag = -1; cellTag <= 100; ++cellTag) {
+        NSMatrix matrix;
+        auto *only = new QRadioButton(&matrix);
+        only->setProperty("tag", cellTag);
+        matrix.adoptCells();
+        only->setChecked(true);
+        const QVariantMap before = store().domain();
+        pane().updatePersistentState(&matrix);
+        expectStored(before, {{KTXPersistentDoubleClick, cellTag == 74}});
+    }
+    const QVariantMap before = store().domain();
+    NSMatrix empty;
+    pane().updatePersistentState(&empty);
+    expectStored(before, {{KTXPersistentDoubleClick, false}});
+}
+
+TEST_F(PaneBehaviour, aSenderOfAnotherKindStoresAndAnnouncesNothing)
 {
     showPage();
     const QVariantMap before = store().domain();
     QComboBox popUp;
-    for (int unknown = -1; unknown <= 100; ++unknown) {
-        QCheckBox checkBox;
-        checkBox.setProperty("tag", unknown);
-        const auto hasTag = [unknown](const auto &known) { return known.tag == unknown; };
-        if (unknown != 74 && std::none_of(checkBoxes.begin(), checkBoxes.end(), hasTag))
-            pane().enableChecked(&checkBox);
-        if (std::none_of(items.begin(), items.end(), hasTag))
-            popUp.addItem("Another", unknown);
-    }
-    for (int index = -1; index < popUp.count(); ++index) {
-        popUp.setCurrentIndex(index);
-        pane().enableChecked(&popUp);
-    }
-    pane().enableChecked(control("tabbedView"));
-    pane().enableChecked(nullptr);
+    pane().enableChecked(&popUp);
+    popUp.addItem("Without a tag");
+    pane().enableChecked(&popUp);
+    QWidget view;
+    for (QObject *sender : QObjectList{control("tabbedView"), cell(75), &view, nullptr})
+        pane().enableChecked(sender);
     expectNothing(before);
 }

@@ -5,7 +5,9 @@
 #include "PaneWithAgent.h"
 #include "Wait.h"
 
+#include "KTXActionKeys.h"
 #include "KTXConstants.h"
+#include "KeyCodeTranslator.h"
 #include "platform/foundation/CFPreferences.h"
 #include "platform/foundation/NSException.h"
 #include "platform/foundation/NSNotificationCenter.h"
@@ -24,6 +26,8 @@ protected:
         selectTabViewItemAtIndex(control("tabbedView"), page);
         runPendingEvents();
     }
+
+    QWidget *marker(int row) { return viewWithTag(pane().mainView(), row + 5); }
 
     /// A pane that really starts an agent, which then announces itself only where the test does it for it.
     RecordingPane &paneWithAgent()
@@ -63,6 +67,26 @@ TEST_F(PaneTabs, everyPageReadsTheSettingsAndOnlyTheFirstTheAgentsState)
         EXPECT_EQ(state(control("animateButton")) == NSOnState, store().value(KTXAnimate).toBool()) << "page " << page;
         EXPECT_EQ(bus().names(), QStringList(KTXLMPrefsChanged));
         EXPECT_EQ(calls, page == 0 ? QStringList(QStringLiteral("updateAgentVisuals")) : QStringList());
+    }
+}
+
+TEST_F(PaneTabs, onlyTheSecondPageRefreshesTheFieldsAndMarkersOfTheHotKeys)
+{
+    // Movement keys 0 and 1 on one key; space is written in capitals by the refresh alone.
+    const QVariantMap space{{KTXKeycode, QStringLiteral("49")}};
+    store().set({{KTXFirstLaunch, true}, {KTXsuppressHKeysTaken, true}, {KTXActionKeys()[0].preferenceName, space},
+        {KTXActionKeys()[1].preferenceName, space}});
+    showPane();
+    const QString asRead = KeyCodeTranslator::stringForKeyCodeWithModifierFlags(49, 0);
+    ASSERT_NE(asRead, asRead.toUpper());
+    for (const int page : {2, 1, 3, 0, 4, 1, 5}) {
+        for (const int row : {0, 1})
+            setHidden(marker(row), true);
+        turnTo(page);
+        for (const int row : {0, 1}) {
+            EXPECT_EQ(stringValue(keyField(row)), page == 1 ? asRead.toUpper() : asRead) << page;
+            EXPECT_EQ(isHidden(marker(row)), page != 1) << page;
+        }
     }
 }
 
@@ -162,6 +186,22 @@ TEST_F(PaneTabs, threePressesInARowAskOnce)
     paneWithAgent().startAgent();
     agentAnnouncesItself();
     EXPECT_EQ(requests(), oneRequest) << "the first answer takes back every registration";
+}
+
+TEST_F(PaneTabs, anAgentThatOnlySaysItWereThereIsStartedAgainAndAskedOnceItIs)
+{
+    pane().carryOut({QStringLiteral("setAgentVisualsOn:")});
+    performClick(control("tutorialButton"));
+    calls.clear();
+    bus().clear();
+    bus().post(KTXLMAgentLaunched, QStringLiteral("com.example.Another"));
+    ASSERT_TRUE(waitUntil([this] { return calls.contains(QStringLiteral("startAgent")); }));
+    EXPECT_EQ(calls, (QStringList{QStringLiteral("setAgentVisualsOn:"), QStringLiteral("startAgent")}));
+    EXPECT_TRUE(requests().isEmpty()) << "none runs";
+    paneWithAgent().startAgent();
+    bus().post(KTXLMAgentLaunched, QStringLiteral("com.example.Another"));
+    EXPECT_TRUE(waitUntil([this] { return !requests().isEmpty(); })) << "any sender is believed";
+    EXPECT_EQ(requests(), oneRequest);
 }
 
 TEST_F(PaneTabs, showingThePaneWhileTheAgentRunsSendsAPendingRequest)

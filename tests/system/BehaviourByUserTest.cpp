@@ -4,8 +4,10 @@
 #include "InstalledProduct.h"
 #include "KTXConstants.h"
 #include "KeyPress.h"
+#include "RunningPrograms.h"
 #include "Wait.h"
 
+#include <QTemporaryFile>
 #include <QWidget>
 #include <linux/input-event-codes.h>
 
@@ -17,6 +19,7 @@ class BehaviourByUser : public InstalledProduct
 {
 protected:
     BehaviourByUser() { storeOutside(KTXFirstLaunch, true); }
+    ~BehaviourByUser() override { killProcessesOf(agentItself()); }
 
     void showSettings()
     {
@@ -39,7 +42,27 @@ protected:
         return waitUntil([&] { return runningAgentsSetting(key) == value; });
     }
 
+    /// From now on the agent that the settings start says into a file what happens. It is the real one; a script of its
+    /// name starts it so.
+    void letAgentWrite()
+    {
+        ASSERT_TRUE(written.open());
+        ASSERT_TRUE(QFile::rename(agentProgram(), agentItself()));
+        QFile script(agentProgram());
+        ASSERT_TRUE(script.open(QIODevice::WriteOnly));
+        script.write(
+            QString("#!/bin/sh\nexec '%1' --foreground > '%2'\n").arg(agentItself(), written.fileName()).toUtf8());
+        script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    QString agentItself() const { return agentProgram() + "-itself"; }
+    QStringList linesWritten()
+    {
+        written.seek(0);
+        return QString::fromUtf8(written.readAll()).split(u'\n', Qt::SkipEmptyParts);
+    }
+
     std::unique_ptr<SettingsProgram> settings;
+    QTemporaryFile written;
 };
 
 } // namespace
@@ -71,14 +94,29 @@ TEST_F(BehaviourByUser, theTutorialIsAskedOfTheRunningAgent)
     EXPECT_EQ(agent.errors().count("the tutorial was asked for"), 1);
 }
 
-TEST_F(BehaviourByUser, theTutorialStartsAnAgentThatIsOff)
+TEST_F(BehaviourByUser, theTutorialStartsAnAgentThatIsOffAndIsHeardByIt)
 {
+    letAgentWrite();
     showSettings();
     bus.clear();
+    ASSERT_TRUE(runningAgent().isEmpty());
     pressKey(KEY_S, {KEY_LEFTALT});
-    EXPECT_TRUE(waitUntil([this] { return bus.names().contains(KTXLMRunTutorial); }));
+    EXPECT_TRUE(waitUntil([this] { return linesWritten().contains("tutorial requested"); }))
+        << linesWritten().join(u'\n').toStdString();
+    EXPECT_EQ(linesWritten().count("tutorial requested"), 1);
+    EXPECT_EQ(linesWritten().filter("launched").size(), 1);
     EXPECT_EQ(bus.names().count(KTXLMRunTutorial), 1);
-    EXPECT_EQ(agents().size(), 1);
+}
+
+TEST_F(BehaviourByUser, theTutorialIsNotRunForAnotherSender)
+{
+    AgentProgram agent({"--foreground"}, agentProgram());
+    ASSERT_TRUE(agent.waitForLaunch());
+    for (const QString &sender : {QString(), QString("com.example.Another"), KTXLMAgentID})
+        bus.post(KTXLMRunTutorial, sender);
+    bus.post(KTXLMRunTutorial, KTXLMAppID); // heard after them
+    ASSERT_TRUE(agent.waitForLine("tutorial requested"));
+    EXPECT_EQ(agent.lines().count("tutorial requested"), 1);
 }
 
 TEST_F(BehaviourByUser, aRequestForAPageBringsTheWindowBeforeAnotherProgramsAndLeavesThePage)
@@ -98,4 +136,15 @@ TEST_F(BehaviourByUser, aRequestForAPageBringsTheWindowBeforeAnotherProgramsAndL
     EXPECT_TRUE(waitUntil([this] { return activeWindow() == settings->windows().first().id; }));
     another.hide();
     EXPECT_EQ(settings->settledPicture(), before);
+}
+
+TEST_F(BehaviourByUser, aRequestForAPageBringsMinimisedSettingsBack)
+{
+    showSettings();
+    const quint32 window = settings->windows().first().id;
+    minimise(window);
+    ASSERT_TRUE(waitUntil([&] { return windowStates(window).contains("_NET_WM_STATE_HIDDEN"); }));
+    bus.post(KTXPrefPaneToTab, "hotkeys");
+    EXPECT_TRUE(waitUntil([&] { return activeWindow() == window; }));
+    EXPECT_FALSE(windowStates(window).contains("_NET_WM_STATE_HIDDEN"));
 }
