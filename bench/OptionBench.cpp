@@ -16,7 +16,7 @@
 namespace {
 
 constexpr int rounds = 300;
-constexpr int updatesPage = 3, helpPage = 4;
+constexpr int hotKeyPage = 1, behaviourPage = 2, updatesPage = 3, helpPage = 4;
 const QString rawKey = QStringLiteral("raw");
 const QString rawDomain = QStringLiteral("com.example.raw");
 
@@ -59,23 +59,23 @@ void timeAClick(QWidget *view)
     print("option clicked until it is stored and announced", "one flush and one raw signal", clicks, floors, 1.3);
 }
 
-void timeAPage(QWidget *view)
+void timeAPage(QWidget *view, const char *what, int page)
 {
     auto *tabs = view->findChild<QTabWidget *>(QStringLiteral("tabbedView"));
-    const auto turn = [tabs](int page) {
-        tabs->setCurrentIndex(page);
+    const auto turn = [tabs](int index) {
+        tabs->setCurrentIndex(index);
         tabs->repaint();
     };
     std::vector<double> turns, floors;
     for (int round = 0; round < rounds; ++round) {
         tabs->blockSignals(true);
         turn(helpPage);
-        floors.push_back(microseconds([&] { turn(updatesPage); }));
+        floors.push_back(microseconds([&] { turn(page); }));
         turn(helpPage);
         tabs->blockSignals(false);
-        turns.push_back(microseconds([&] { turn(updatesPage); }));
+        turns.push_back(microseconds([&] { turn(page); }));
     }
-    print("page turned", "without reading the settings", turns, floors, 3);
+    print(what, "without reading the settings", turns, floors, 3);
 }
 
 } // namespace
@@ -89,6 +89,8 @@ int main(int argumentCount, char **arguments)
         return 1;
     }
     timeAClick(pane->mainView());
-    timeAPage(pane->mainView());
+    timeAPage(pane->mainView(), "page of the hot keys turned to", hotKeyPage);
+    timeAPage(pane->mainView(), "page of the behaviour turned to", behaviourPage);
+    timeAPage(pane->mainView(), "page without code of its own turned to", updatesPage);
     return 0;
 }
