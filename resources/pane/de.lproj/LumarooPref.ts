@@ -280,8 +280,8 @@
         <translation>Mit &amp;Doppelklick aktivieren</translation>
     </message>
     <message>
-        <source>Lumaroo will then always stay active after a double click.</source>
-        <translation>Lumaroo bleibt dann nach einem Doppelklick immer aktiv.</translation>
+        <source>A double click will then activate Lumaroo and always keep it active.</source>
+        <translation>Ein Doppelklick aktiviert dann Lumaroo und hält es immer aktiv.</translation>
     </message>
     <message>
         <source>Keep Lumaroo active:</source>
