@@ -120,10 +120,10 @@ public:
 protected:
     void mouseMoveEvent(QMouseEvent *) override
     {
-        auto *data = new QMimeData;
-        data->setColorData(color_);
+        auto *offered = new QMimeData;
+        offered->setColorData(color_);
         auto *drag = new QDrag(this);
-        drag->setMimeData(data);
+        drag->setMimeData(offered);
         drag->exec(Qt::CopyAction);
     }
 
