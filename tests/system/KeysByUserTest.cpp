@@ -1,62 +1,25 @@
 // The real settings, the real agent and a user who gives actions their keys without a mouse.
 
 #include "AgentProgram.h"
-#include "InstalledProduct.h"
 #include "KTXConstants.h"
 #include "KeyPress.h"
+#include "ProductOnHotKeyPage.h"
 #include "Wait.h"
-#include "platform/foundation/NSUserDefaults.h"
-#include "platform/foundation/PropertyList.h"
 
 #include <linux/input-event-codes.h>
 
 namespace {
 
-/// Tab goes from the tabs over the four modifiers to the key for up, then to those for left, under, right and down.
-constexpr int tabsToKeyForUp = 5;
-
-class KeysByUser : public InstalledProduct
+class KeysByUser : public ProductOnHotKeyPage
 {
 protected:
-    static QVariantMap domain() { return NSUserDefaults::standardUserDefaults()->persistentDomainForName(KTXLMAppID); }
-    static QVariantMap hotKey(int keyCode) { return {{KTXKeycode, QString::number(keyCode)}}; }
-
-    /// The settings with the key for up in focus, and the agent that their first run starts.
     void start()
     {
-        settings = std::make_unique<SettingsProgram>(QStringList{pane()});
-        ASSERT_TRUE(settings->waitForWindows(1));
-        ASSERT_TRUE(agentStarts());
-        ASSERT_TRUE(waitUntil([this] { return bus.names().contains(KTXLMAgentLaunched); }));
-        QImage shown = settings->settledPicture();
-        pressKey(KEY_TAB, {KEY_LEFTCTRL});
-        shown = settings->pictureAfterChangeFrom(shown);
-        for (int tab = 0; tab < tabsToKeyForUp; ++tab) {
-            pressKey(KEY_TAB);
-            shown = settings->pictureAfterChangeFrom(shown);
-            ASSERT_FALSE(shown.isNull()) << tab;
-        }
+        open();
+        turnToKeys();
+        goToKeyForUp();
         remember();
     }
-    void remember()
-    {
-        before = domain();
-        bus.clear();
-    }
-    /// The file holds exactly this more, it has been announced once, and the running agent has read it.
-    void expectStored(const QString &key, int keyCode)
-    {
-        before.insert(key, hotKey(keyCode));
-        EXPECT_TRUE(waitUntil([this] { return isEqualPropertyList(domain(), before); })) << keyCode;
-        EXPECT_TRUE(waitUntil([this] { return !bus.names().isEmpty(); }));
-        EXPECT_EQ(bus.notifications(), (QList<BusNotification>{{KTXLMPrefsChanged, KTXLMAppID, {}, true}}));
-        const QJsonObject expected{{KTXKeycode, QString::number(keyCode)}};
-        EXPECT_TRUE(waitUntil([&] { return runningAgentsSetting(key) == QJsonValue(expected); })) << keyCode;
-        remember();
-    }
-
-    std::unique_ptr<SettingsProgram> settings;
-    QVariantMap before;
 };
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "BusRecorder.h"
 #include "KTXConstants.h"
 #include "KeyPress.h"
+#include "PaneBundle.h"
 #include "SettingsProgram.h"
 #include "Wait.h"
 #include "platform/foundation/CFPreferences.h"
@@ -36,6 +37,10 @@ protected:
         bus.clear();
     }
     static void clearAlt() { pressKey(KEY_L, {KEY_LEFTALT}); }
+    bool comesToShow(const QString &page) const
+    {
+        return waitUntil([&] { return settings->windows().first().title == page; });
+    }
     void showSheet()
     {
         start();
@@ -125,4 +130,33 @@ TEST_F(PaneSheet, staysInFrontWhenTheSettingsAreOpenedAgain)
     EXPECT_EQ(settings->windows().last().id, sheet);
     pressKey(KEY_ESC);
     EXPECT_TRUE(settings->waitForWindows(1));
+}
+
+TEST_F(PaneSheet, keepsItsPaneUntilItIsAnsweredAndThenGoesOn)
+{
+    const PaneBundle other("Other");
+    showSheet();
+    const QVariantMap before = domain();
+    const quint32 sheet = settings->windows().last().id;
+    for (const auto &[key, held] : std::initializer_list<std::pair<int, int>>{
+             {KEY_LEFT, KEY_LEFTALT}, {KEY_F, KEY_LEFTCTRL}, {KEY_Q, KEY_LEFTCTRL}, {KEY_W, KEY_LEFTCTRL}})
+        pressKey(key, {held});
+    SettingsProgram second({other.path()});
+    EXPECT_EQ(second.exitStatus(), 0);
+    ASSERT_TRUE(settings->waitForWindows(2));
+    EXPECT_EQ(settings->windows().first().title, "Lumaroo");
+    EXPECT_EQ(settings->windows().last().id, sheet);
+    EXPECT_TRUE(bus.names().isEmpty());
+    pressKey(KEY_ESC);
+    ASSERT_TRUE(comesToShow("Other"));
+    ASSERT_TRUE(settings->waitForWindows(1));
+    EXPECT_TRUE(waitUntil([&] { return other.calls().contains("didSelect shown"); }));
+    SettingsProgram third;
+    EXPECT_EQ(third.exitStatus(), 0);
+    ASSERT_TRUE(comesToShow("Lumaroo"));
+    settings->settledPicture();
+    EXPECT_EQ(settings->windows().size(), 1);
+    EXPECT_TRUE(isEqualPropertyList(domain(), before));
+    // Leaving announces once, showing with its zero cell twice.
+    EXPECT_EQ(bus.names(), QStringList(3, KTXLMPrefsChanged));
 }
