@@ -1,5 +1,6 @@
 #include "platform/appkit/TextFieldEvents.h"
 
+#include "platform/appkit/FieldAccessibility.h"
 #include "platform/appkit/KeyBindings.h"
 #include "platform/appkit/NSApplication.h"
 #include "platform/appkit/NSControlTextEditingDelegate.h"
@@ -75,6 +76,7 @@ void TextFieldEvents::add(QLineEdit *field)
     field->setReadOnly(true);
     field->setAcceptDrops(false);
     field->setContextMenuPolicy(Qt::NoContextMenu);
+    letAssistiveToolsOnlyRead(field);
     field->installEventFilter(this);
 }
 
@@ -93,10 +95,12 @@ void TextFieldEvents::beginEditing(QLineEdit *field)
     edited_ = field;
     editor_ = FieldEditor::forWindow(field);
     editor_->setDelegate(field);
-    if (FieldEditor *own = askWindowDelegate(field)) {
-        editor_ = own;
-        editor_->setDelegate(field);
-    }
+    FieldEditor *own = askWindowDelegate(field);
+    if (!own || own == editor_)
+        return;
+    editor_->setDelegate(nullptr);
+    editor_ = own;
+    editor_->setDelegate(field);
 }
 
 FieldEditor *TextFieldEvents::editorOf(QLineEdit *field)

@@ -11,9 +11,9 @@ class QKeyEvent;
 /// Brings what happens in an interface file's text fields to their delegate and to the window's.
 ///
 /// A field takes nothing by itself: a typed key, the middle button's paste and an input method's text ask the delegate
-/// first, which may let editing begin; drops, the context menu's editing and keys that would edit do nothing. Editing a
-/// field lasts from its gaining the focus until another view of its window has it; a sheet or another window in front
-/// only interrupts it.
+/// first, which may let editing begin; drops, the context menu's editing, keys that would edit and what an assistive
+/// tool would set do nothing. Editing a field lasts from its gaining the focus until another view of its window has it;
+/// a sheet or another window in front only interrupts it.
 class TextFieldEvents : public QObject
 {
     Q_OBJECT

@@ -8,6 +8,7 @@
 #include "KTXConstants.h"
 #include "platform/appkit/FieldEditor.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QDragEnterEvent>
 #include <QMimeData>
@@ -127,6 +128,45 @@ TEST_F(HotKeyFieldProtection, inputMethodsAreKeptAwayAndTheirTextRefused)
     text.setCommitString("漢");
     QApplication::sendEvent(field(Screenshot), &text);
     expectMarkersRefreshed();
+    expectUnchanged();
+}
+
+TEST_F(HotKeyFieldProtection, anAssistiveToolReadsAndSelectsButSetsNoText)
+{
+    showPageWithTextToPaste();
+    QAccessibleInterface *seen = QAccessible::queryAccessibleInterface(field(Screenshot));
+    ASSERT_TRUE(seen && seen->textInterface());
+    EXPECT_EQ(seen->role(), QAccessible::EditableText);
+    EXPECT_TRUE(seen->state().readOnly && seen->state().focused && !seen->state().editable);
+    seen->setText(QAccessible::Value, "typed");
+    if (QAccessibleEditableTextInterface *editor = seen->editableTextInterface()) {
+        editor->insertText(0, "typed");
+        editor->replaceText(0, 1, "typed");
+        editor->deleteText(0, 1);
+    }
+    expectUnchanged();
+    EXPECT_EQ(seen->text(QAccessible::Value), "S");
+    EXPECT_EQ(seen->text(QAccessible::Name), field(Screenshot)->accessibleName());
+    QAccessibleTextInterface *text = seen->textInterface();
+    EXPECT_EQ(text->text(0, text->characterCount()), "S");
+    text->setSelection(0, 0, 1);
+    EXPECT_EQ(field(Screenshot)->selectedText(), "S");
+    press(KEY_B);
+    expectTaken(Screenshot, 11, "B");
+    EXPECT_EQ(seen->text(QAccessible::Value), "B");
+}
+
+TEST_F(HotKeyFieldProtection, anAssistiveToolThatIsThereFromTheStartSetsNoTextEither)
+{
+    QAccessible::setActive(true);
+    showPageWithTextToPaste();
+    for (int row = Up; row <= Snap; ++row) {
+        QAccessibleInterface *seen = QAccessible::queryAccessibleInterface(field(row));
+        EXPECT_EQ(seen->editableTextInterface(), nullptr) << row;
+        seen->setText(QAccessible::Value, "typed");
+        EXPECT_NE(shown(row), "typed") << row;
+    }
+    QAccessible::setActive(false);
     expectUnchanged();
 }
 

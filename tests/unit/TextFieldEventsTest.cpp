@@ -216,6 +216,7 @@ TEST_F(TextFields, aWindowDelegateMayBringAnEditorOfItsOwn)
     field("one")->setFocus();
     press(field("one"), KEY_A, Qt::Key_A, "a");
     EXPECT_EQ(lastEditor, ownEditor);
+    EXPECT_EQ(FieldEditor::existingForWindow(interface.root)->delegate(), nullptr) << "the usual one rests";
     EXPECT_EQ(ownEditor->delegate(), field("one"));
     field("plain")->setFocus();
     EXPECT_EQ(ownEditor->delegate(), nullptr);
