@@ -51,10 +51,9 @@ void KTXLumarooPreferencePane::buildKeyTables()
 
 bool KTXLumarooPreferencePane::hotKeyIsDuplicateAtIndex(int index) const
 {
-    if (!keyCodes_)
+    if (!keyCodes_ || index < 0 || index >= keyCodes_->size())
         return false;
-    const int keyCode = keyCodes_->at(index);
-    return keyCodes_->count(keyCode) > 1;
+    return keyCodes_->count(keyCodes_->at(index)) > 1;
 }
 
 bool KTXLumarooPreferencePane::controlTextShouldBeginEditing(QWidget *control, FieldEditor *fieldEditor)

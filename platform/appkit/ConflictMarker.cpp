@@ -1,8 +1,10 @@
 #include "platform/appkit/ConflictMarker.h"
 
+#include <QEvent>
 #include <QIcon>
 #include <QPainter>
 #include <QStyle>
+#include <utility>
 
 ConflictMarker::ConflictMarker(QWidget *parent) : QWidget(parent)
 {
@@ -15,6 +17,26 @@ void ConflictMarker::setText(const QString &text)
 {
     text_ = text;
     Q_EMIT textSet(text);
+}
+
+bool ConflictMarker::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent)
+        tellOfConflict(event->type() == QEvent::ShowToParent);
+    return QWidget::event(event);
+}
+
+void ConflictMarker::tellOfConflict(bool isConflict)
+{
+    auto *field = parentWidget() && !field_.isEmpty() ? parentWidget()->findChild<QWidget *>(field_) : nullptr;
+    if (!field || isConflict == fieldsOwnDescription_.has_value())
+        return;
+    if (isConflict) {
+        fieldsOwnDescription_ = field->accessibleDescription();
+        field->setAccessibleDescription((accessibleName() + u' ' + *fieldsOwnDescription_).trimmed());
+    } else {
+        field->setAccessibleDescription(*std::exchange(fieldsOwnDescription_, std::nullopt));
+    }
 }
 
 QSize ConflictMarker::sizeHint() const

@@ -277,14 +277,3 @@ TEST_F(HotKeyRefusal, aRefreshBeforeTheFirstReadingDoesNothing)
     pane().updateHotKeyFields();
     EXPECT_TRUE(markedRows().isEmpty());
 }
-
-TEST_F(HotKeyRefusal, aMarkerExplainsItself)
-{
-    store().set(KTXsuppressHKeysTaken, true);
-    storeKey(Right, 126);
-    showPage();
-    auto *marker = viewWithTag(pane().mainView(), 5);
-    ASSERT_TRUE(marker->isVisible());
-    EXPECT_EQ(marker->toolTip(), "This key is used more than once.");
-    EXPECT_EQ(marker->accessibleName(), "This key is used more than once.");
-}
