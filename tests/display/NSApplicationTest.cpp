@@ -104,6 +104,7 @@ TEST_F(TheApplication, thatIsToLeaveOthersAloneAsksForAttentionUntilItIsTurnedTo
 TEST_F(TheApplication, thatHasTheFocusAsksForNothing)
 {
     window->showActive();
+    ASSERT_TRUE(comesToFront(window));
     for (const bool ignoringOthers : {true, false}) {
         activate(ignoringOthers);
         runPendingEvents();
