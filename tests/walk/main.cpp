@@ -5,11 +5,12 @@
 #include "AgentProgram.h"
 #include "KeyPress.h"
 #include "SettingsProgram.h"
+#include "Sheets.h"
+#include "Steps.h"
 #include "Wait.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QTextStream>
 #include <linux/input-event-codes.h>
 
 namespace {
@@ -17,42 +18,6 @@ namespace {
 const QStringList pages = {QStringLiteral("general"), QStringLiteral("hotkeys"), QStringLiteral("behaviour"),
     QStringLiteral("updates"), QStringLiteral("help"), QStringLiteral("about")};
 constexpr int behaviourPage = 2;
-
-QTextStream out(stdout);
-
-void say(const QString &line)
-{
-    out << line << Qt::endl;
-}
-
-[[noreturn]] void giveUp(const QString &step)
-{
-    say(QStringLiteral("failed: ") + step);
-    std::exit(1);
-}
-
-void require(bool condition, const QString &step)
-{
-    if (!condition)
-        giveUp(step);
-    say(QStringLiteral("- ") + step);
-}
-
-QString runDefaults(const QStringList &arguments)
-{
-    QProcess defaults;
-    defaults.start(qEnvironmentVariable("LUMAROO_BUILD") + QStringLiteral("/bin/lumaroo-defaults"), arguments);
-    if (!defaults.waitForFinished() || defaults.exitCode() != 0)
-        giveUp(QStringLiteral("lumaroo-defaults %1: %2")
-                   .arg(arguments.join(u' '), QString::fromUtf8(defaults.readAllStandardError())));
-    return QString::fromUtf8(defaults.readAllStandardOutput()).trimmed();
-}
-
-void save(const QImage &picture, const QString &folder, const QString &name)
-{
-    if (picture.isNull() || !picture.save(folder + u'/' + name + QStringLiteral(".png")))
-        giveUp(QStringLiteral("screenshot ") + name);
-}
 
 void turnEveryPage(SettingsProgram &settings, const QString &folder)
 {
@@ -106,17 +71,10 @@ void changeAnOption()
 }
 
 /// As the agent's side might leave it: right and down on one key, of which the user knows already.
-void giveTwoActionsOneKey(const QString &folder)
+void giveTwoActionsOneKey()
 {
-    const QString file = folder + QStringLiteral("/conflict.plist");
-    QFile conflict(file);
-    if (!conflict.open(QIODevice::WriteOnly))
-        giveUp(file);
-    conflict.write("<plist version=\"1.0\"><dict><key>suppressHotkeysTakenAlert</key><true/><key>moveRightHotKey</key>"
-                   "<dict><key>keycode</key><string>125</string></dict></dict></plist>");
-    conflict.close();
-    runDefaults({QStringLiteral("--notify"), QStringLiteral("import"), file});
-    conflict.remove();
+    storeOutside("<key>suppressHotkeysTakenAlert</key><true/><key>moveRightHotKey</key><dict><key>keycode</key>"
+                 "<string>125</string></dict>");
 }
 
 QString agentsKeyForUp()
@@ -134,7 +92,7 @@ void giveAKeyByPressingIt(SettingsProgram &settings, const QString &folder)
     QImage shown = settings.settledPicture();
     pressKey(KEY_TAB, {KEY_LEFTCTRL});
     settings.pictureAfterChangeFrom(shown);
-    giveTwoActionsOneKey(folder);
+    giveTwoActionsOneKey();
     shown = settings.settledPicture();
     for (int tab = 0; tab < tabsToKeyForUp; ++tab) {
         pressKey(KEY_TAB);
@@ -158,12 +116,6 @@ void giveAKeyByPressingIt(SettingsProgram &settings, const QString &folder)
         pressKey(KEY_TAB);
 }
 
-void quit(SettingsProgram &settings)
-{
-    pressKey(KEY_Q, {KEY_LEFTCTRL});
-    require(settings.exitStatus() == 0, QStringLiteral("the settings quit"));
-}
-
 void walk(const QString &folder, const QStringList &arguments)
 {
     QDir().mkpath(folder);
@@ -180,6 +132,8 @@ void walk(const QString &folder, const QStringList &arguments)
     require(again.waitForWindows(1), QStringLiteral("the settings open again"));
     giveAKeyByPressingIt(again, folder);
     quit(again);
+    for (const QString &theme : {QStringLiteral("light"), QStringLiteral("dark")})
+        showEverySheet(folder, arguments, theme);
     require(!runningAgent().isEmpty(), QStringLiteral("the agent is still there"));
     require(runAgent({QStringLiteral("--quit")}).status == 0 && runningAgent().isEmpty(), QStringLiteral("it quits"));
 }
