@@ -61,6 +61,7 @@ void Agent::observePane()
 void Agent::readSettings()
 {
     settings_ = effectiveSettings(NSUserDefaults::standardUserDefaults()->persistentDomainForName(KTXLMAppID));
+    hotKeys_.apply(settings_);
     ++readings_;
     Q_EMIT settingsRead();
 }
@@ -95,6 +96,7 @@ void Agent::announceEnd()
 {
     announce(KTXLMAgentIsTerminating);
     Q_EMIT terminating();
+    hotKeys_.release();
     // The bus handles our messages in order: with its answer it has taken the announcement too.
     name_.release();
 }
@@ -128,6 +130,7 @@ void Agent::goOn(const QString &program, const QString &error)
               .arg(program, error)
               .arg(version_));
     if (name_.takeAtOnce()) {
+        hotKeys_.apply(settings_);
         announceLaunch();
         return;
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "agent/AgentHotKeys.h"
+
 #include <QObject>
 #include <QVariantMap>
 
@@ -18,12 +20,14 @@ public:
     /// Each key of the domain with the value to go by, as of the last reading.
     const QVariantMap &settings() const { return settings_; }
     qint64 readings() const { return readings_; }
+    /// The keys of its actions, and whether they work.
+    const AgentHotKeys &hotKeys() const { return hotKeys_; }
 
     /// Reads the settings, observes the pane and announces itself. Called once, when the name is owned.
     void launch();
-    /// Reads the settings as they are stored now.
+    /// Reads the settings as they are stored now, and has its keys follow them.
     void readSettings();
-    /// Announces its end, gives the name back and emits ended(); the bus has taken all of that when it returns.
+    /// Announces its end, gives keys and name back and emits ended(); the bus has taken all of that when it returns.
     void terminate();
 
 Q_SIGNALS:
@@ -48,6 +52,7 @@ private:
     const QString bundlePath_;
     const int version_;
     QVariantMap settings_;
+    AgentHotKeys hotKeys_;
     qint64 readings_ = 0;
     bool hasEnded_ = false;
     bool markIsPending_ = false; ///< of the first launch, since it could not be stored

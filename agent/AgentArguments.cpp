@@ -13,7 +13,7 @@ usage: LumarooAgent [--foreground]
 
   without an option      runs until it is told to quit; at most one runs in a session
   --foreground           runs, with a line on standard output for each event
-  --print-settings       prints what the running agent has read, as JSON
+  --print-settings       prints what the running agent has read, and which of its keys are registered, as JSON
   --set                  stores a setting, tells the running agent and announces the change
   --start-at-login       whether the desktop starts the agent at login; at first it does not
   --quit                 asks the running agent to quit, and waits until it has

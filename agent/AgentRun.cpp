@@ -19,6 +19,12 @@ void printLine(const char *format, qint64 number = 0)
     std::fflush(stdout);
 }
 
+void printText(const QString &text)
+{
+    std::fputs(text.toUtf8().constData(), stdout);
+    std::fflush(stdout);
+}
+
 /// Says what happens, for people and tests.
 void printEvents(const Agent &agent)
 {
@@ -27,6 +33,10 @@ void printEvents(const Agent &agent)
     QObject::connect(
         &agent, &Agent::launched, &agent, [&agent] { printLine("launched (version %lld)\n", agent.version()); });
     QObject::connect(&agent, &Agent::terminating, &agent, [] { printLine("terminating\n"); });
+    QObject::connect(
+        &agent.hotKeys(), &AgentHotKeys::pressed, &agent, [](const QString &action, const QString &combination) {
+            printText(QStringLiteral("pressed %1 (%2)\n").arg(action, combination));
+        });
     QObject::connect(&agent, &Agent::tutorialRequested, &agent, [] { printLine("tutorial requested\n"); });
 }
 

@@ -42,11 +42,29 @@ QJsonValue jsonValue(const QVariant &value)
     }
 }
 
+QJsonObject hotKeyObject(const AgentHotKey &hotKey)
+{
+    const bool isRegistered = hotKey.refusal.isEmpty();
+    QJsonObject object{{QStringLiteral("action"), hotKey.action}, {QStringLiteral("keyCode"), qint64(hotKey.keyCode)},
+        {QStringLiteral("combination"), hotKey.combination}, {QStringLiteral("registered"), isRegistered}};
+    if (!isRegistered)
+        object.insert(QStringLiteral("refusal"), hotKey.refusal);
+    return object;
+}
+
+QJsonArray hotKeyArray(const QList<AgentHotKey> &hotKeys)
+{
+    QJsonArray array;
+    for (const AgentHotKey &hotKey : hotKeys)
+        array.append(hotKeyObject(hotKey));
+    return array;
+}
+
 } // namespace
 
-QByteArray settingsJson(int version, qint64 readings, const QVariantMap &settings)
+QByteArray settingsJson(int version, qint64 readings, const QVariantMap &settings, const QList<AgentHotKey> &hotKeys)
 {
     const QJsonObject object{{QStringLiteral("version"), version}, {QStringLiteral("readings"), readings},
-        {QStringLiteral("settings"), jsonObject(settings)}};
+        {QStringLiteral("settings"), jsonObject(settings)}, {QStringLiteral("hotKeys"), hotKeyArray(hotKeys)}};
     return QJsonDocument(object).toJson();
 }

@@ -8,7 +8,7 @@
 struct NSNotification
 {
     QString name;
-    QVariant object; ///< a text (always, on the distributed centre), a QObject pointer, or no value
+    QVariant object; ///< a text (always, on the distributed centre), a pointer to an object, or no value
     QVariantMap userInfo;
 };
 

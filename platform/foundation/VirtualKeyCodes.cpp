@@ -178,3 +178,13 @@ std::optional<quint16> virtualKeyCodeForEvdev(quint32 evdev)
     }
     return std::nullopt;
 }
+
+QList<quint16> aliasEvdevsOf(quint16 code)
+{
+    QList<quint16> evdevs;
+    for (const Alias &alias : aliases) {
+        if (alias.code == code)
+            evdevs.append(alias.evdev);
+    }
+    return evdevs;
+}

@@ -2,6 +2,7 @@
 
 #include "platform/foundation/Export.h"
 
+#include <QList>
 #include <QtGlobal>
 #include <optional>
 #include <span>
@@ -22,3 +23,5 @@ LM_FOUNDATION std::span<const VirtualKey> virtualKeys();
 LM_FOUNDATION const VirtualKey *virtualKey(quint16 code);
 /// The virtual key code of a kernel key code, aliases included (Print Screen counts as 105 ...).
 LM_FOUNDATION std::optional<quint16> virtualKeyCodeForEvdev(quint32 evdev);
+/// The kernel key codes of the keys that count as a virtual key code beside its own (Print Screen for 105 ...).
+LM_FOUNDATION QList<quint16> aliasEvdevsOf(quint16 code);

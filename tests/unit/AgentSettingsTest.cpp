@@ -22,7 +22,7 @@ QVariant effective(const QString &key, const QVariant &stored)
 
 QJsonObject shown(const QVariantMap &settings)
 {
-    return QJsonDocument::fromJson(settingsJson(100, 7, settings)).object();
+    return QJsonDocument::fromJson(settingsJson(100, 7, settings, {})).object();
 }
 
 QJsonValue shownValue(const QVariant &value)

@@ -1,37 +1,25 @@
 #include "platform/foundation/linux/KeyboardConnection.h"
 
-#include <cstdlib>
 #include <utility>
 #include <xkbcommon/xkbcommon-x11.h>
 
-// The header is C's and names a member with a word of ours.
-#define explicit explicitParts
-#include <xcb/xkb.h>
-#undef explicit
-
 namespace {
 
-constexpr quint8 eventTypeMask = 0x7f;
 constexpr quint16 groupParts = XCB_XKB_STATE_PART_GROUP_STATE | XCB_XKB_STATE_PART_GROUP_BASE
     | XCB_XKB_STATE_PART_GROUP_LATCH | XCB_XKB_STATE_PART_GROUP_LOCK;
 constexpr quint16 mapParts = XCB_XKB_MAP_PART_KEY_TYPES | XCB_XKB_MAP_PART_KEY_SYMS | XCB_XKB_MAP_PART_MODIFIER_MAP
     | XCB_XKB_MAP_PART_EXPLICIT_COMPONENTS | XCB_XKB_MAP_PART_KEY_ACTIONS | XCB_XKB_MAP_PART_VIRTUAL_MODS
     | XCB_XKB_MAP_PART_VIRTUAL_MOD_MAP;
 
-template <typename Type>
-using FromServer = std::unique_ptr<Type, decltype(&std::free)>;
-
 } // namespace
 
 std::unique_ptr<KeyboardConnection> KeyboardConnection::open(const XkbContext &context)
 {
-    // A connection that failed is an object too, and must be let go like the others.
-    const Connection connection(xcb_connect(nullptr, nullptr), &xcb_disconnect);
-    std::unique_ptr<KeyboardConnection> keyboard(new KeyboardConnection(context, connection));
+    std::unique_ptr<KeyboardConnection> keyboard(new KeyboardConnection(context, connectToXServer()));
     return keyboard->start() ? std::move(keyboard) : nullptr;
 }
 
-KeyboardConnection::KeyboardConnection(XkbContext context, Connection connection)
+KeyboardConnection::KeyboardConnection(XkbContext context, XConnection connection)
     : context_(std::move(context)), connection_(std::move(connection))
 {
 }
@@ -57,8 +45,7 @@ bool KeyboardConnection::selectEvents()
     details.affectState = details.stateDetails = groupParts;
     const auto request = xcb_xkb_select_events_aux_checked(
         connection_.get(), xcb_xkb_device_spec_t(keyboard_), events, 0, 0, mapParts, mapParts, &details);
-    const FromServer<xcb_generic_error_t> error(xcb_request_check(connection_.get(), request), &std::free);
-    return !error;
+    return !fromServer(xcb_request_check(connection_.get(), request));
 }
 
 bool KeyboardConnection::isLost() const
@@ -82,7 +69,7 @@ UCKeyboardLayoutRef KeyboardConnection::currentLayout()
 
 void KeyboardConnection::handlePendingEvents()
 {
-    while (const FromServer<xcb_generic_event_t> event{xcb_poll_for_event(connection_.get()), &std::free})
+    while (const auto event = fromServer(xcb_poll_for_event(connection_.get())))
         handle(event.get());
 }
 

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "platform/foundation/linux/KeyboardLayoutData.h"
-
-#include <xcb/xcb.h>
+#include "platform/foundation/linux/X11.h"
 
 /// A connection to the X server that follows its keyboard: own event selection, independent of any window and toolkit.
 class KeyboardConnection
@@ -15,9 +14,7 @@ public:
     UCKeyboardLayoutRef currentLayout();
 
 private:
-    using Connection = std::shared_ptr<xcb_connection_t>;
-
-    KeyboardConnection(XkbContext context, Connection connection);
+    KeyboardConnection(XkbContext context, XConnection connection);
     bool start();
     bool selectEvents();
     bool isLost() const;
@@ -26,7 +23,7 @@ private:
     bool readKeymap();
 
     XkbContext context_;
-    Connection connection_;
+    XConnection connection_;
     XkbKeymap keymap_;
     XkbState state_;
     UCKeyboardLayoutRef layout_;

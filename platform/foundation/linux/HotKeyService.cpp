@@ -1,0 +1,203 @@
+#include "platform/foundation/linux/HotKeyService.h"
+
+#include "platform/foundation/HotKeyEvents.h"
+#include "platform/foundation/NSLog.h"
+#include "platform/foundation/NSNotificationCenter.h"
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+namespace {
+
+// Switching between keyboards sends changes in numbers, mostly with nothing changed.
+constexpr int renewalDelay = 20; // milliseconds
+
+bool overlap(const std::vector<KeyGrab> &left, const std::vector<KeyGrab> &right)
+{
+    return std::find_first_of(left.cbegin(), left.cend(), right.cbegin(), right.cend()) != left.cend();
+}
+
+} // namespace
+
+HotKeyService &HotKeyService::instance()
+{
+    static HotKeyService service;
+    return service;
+}
+
+HotKeyService::HotKeyService()
+{
+    renewal_.setSingleShot(true);
+    renewal_.setInterval(renewalDelay);
+    QObject::connect(&renewal_, &QTimer::timeout, &renewal_, [this] { renew(); });
+}
+
+OSStatus HotKeyService::add(quint32 keyCode, quint32 modifiers, EventHotKeyID hotKeyID, EventHotKeyRef *hotKeyRef)
+{
+    if (!connect())
+        return eventInternalErr;
+    renewIfDue();
+    std::vector<KeyGrab> grabs = grabsOf(keyCode, modifiers, keyboard_);
+    if (isTaken(keyCode, modifiers, grabs))
+        return eventHotKeyExistsErr;
+    if (grabs.empty())
+        return paramErr;
+    const bool isGranted = connection_->grab(grabs);
+    scheduleInput();
+    if (connection_->isLost())
+        return eventInternalErr;
+    if (!isGranted)
+        return eventHotKeyExistsErr;
+    registrations_.push_back({++lastNumber_, keyCode, modifiers, hotKeyID, std::move(grabs)});
+    *hotKeyRef = reinterpret_cast<EventHotKeyRef>(lastNumber_);
+    return noErr;
+}
+
+OSStatus HotKeyService::remove(EventHotKeyRef hotKeyRef)
+{
+    const auto found = std::find_if(registrations_.begin(), registrations_.end(),
+        [hotKeyRef](const Registration &one) { return one.number == reinterpret_cast<quintptr>(hotKeyRef); });
+    if (found == registrations_.end())
+        return eventHotKeyInvalidErr;
+    connection_->ungrab(found->grabs);
+    registrations_.erase(found);
+    scheduleInput();
+    return noErr;
+}
+
+bool HotKeyService::connect()
+{
+    if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
+        reportUnavailable(QStringLiteral("a Wayland session does not let programs see other programs' keys"));
+        return false;
+    }
+    if (!connection_)
+        open();
+    return connection_ != nullptr;
+}
+
+void HotKeyService::open()
+{
+    QString failure = QStringLiteral("the X server has gone");
+    connection_ = HotKeyConnection::open(&failure);
+    const auto keyboard = connection_ ? connection_->readKeyboard() : std::nullopt;
+    if (!keyboard) {
+        connection_ = nullptr;
+        reportUnavailable(failure);
+        return;
+    }
+    keyboard_ = *keyboard;
+    reportedReason_.clear();
+    notifier_ = std::make_unique<QSocketNotifier>(connection_->fileDescriptor(), QSocketNotifier::Read);
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] { handleInput(); });
+}
+
+void HotKeyService::reportUnavailable(const QString &reason)
+{
+    // Once, not for each key.
+    if (std::exchange(reportedReason_, reason) != reason)
+        NSLog(QStringLiteral("lumaroo: hot keys: none can be registered: %1").arg(reason));
+}
+
+bool HotKeyService::isTaken(quint32 keyCode, quint32 modifiers, const std::vector<KeyGrab> &grabs) const
+{
+    return std::any_of(registrations_.cbegin(), registrations_.cend(), [&](const Registration &one) {
+        return (one.keyCode == keyCode && one.modifiers == modifiers) || overlap(one.grabs, grabs);
+    });
+}
+
+void HotKeyService::scheduleInput()
+{
+    // What came in while an answer was waited for makes the socket readable no more.
+    if (connection_->hasQueuedInput() || connection_->isLost())
+        QMetaObject::invokeMethod(
+            notifier_.get(), [this] { handleInput(); }, Qt::QueuedConnection);
+}
+
+void HotKeyService::handleInput()
+{
+    while (connection_) {
+        const auto input = connection_->nextInput();
+        if (connection_->isLost())
+            handleLoss();
+        else if (!input)
+            return;
+        else if (input->kind == HotKeyInput::Kind::Press)
+            handlePress({input->keycode, input->modifiers});
+        else if (!renewal_.isActive())
+            renewal_.start();
+    }
+}
+
+void HotKeyService::handlePress(const KeyGrab &press)
+{
+    const auto found = std::find_if(registrations_.cbegin(), registrations_.cend(), [&press](const Registration &one) {
+        return std::find(one.grabs.cbegin(), one.grabs.cend(), press) != one.grabs.cend();
+    });
+    // Another key may be pressed before the keyboard is free again, and a press may arrive after its hot key is gone.
+    if (found != registrations_.cend())
+        dispatchHotKeyPressed(EventHotKeyID(found->hotKeyID));
+}
+
+void HotKeyService::handleLoss()
+{
+    NSLog(QStringLiteral("lumaroo: hot keys: the X server has gone; no hot key is registered any more"));
+    renewal_.stop();
+    registrations_.clear();
+    // Later: the notifier may be the one that calls.
+    notifier_->setEnabled(false);
+    notifier_.release()->deleteLater();
+    connection_ = nullptr;
+    NSNotificationCenter::defaultCenter()->postNotificationNameObject(LMHotKeysDidGo);
+}
+
+void HotKeyService::renewIfDue()
+{
+    if (renewal_.isActive())
+        renew();
+}
+
+/// Grabs anew where the keyboard has changed, and where something was missing.
+void HotKeyService::renew()
+{
+    renewal_.stop();
+    const auto keyboard = connection_->readKeyboard();
+    if (keyboard && std::exchange(keyboard_, *keyboard) != *keyboard) {
+        const auto wanted = wantedGrabs();
+        for (size_t place = 0; place < wanted.size(); ++place) {
+            if (registrations_[place].grabs != wanted[place])
+                connection_->ungrab(std::exchange(registrations_[place].grabs, {}));
+        }
+        for (size_t place = 0; place < wanted.size(); ++place)
+            regrab(registrations_[place], wanted[place]);
+    }
+    scheduleInput();
+}
+
+/// For each registration; of two that have become the same, the older one keeps the key.
+std::vector<std::vector<KeyGrab>> HotKeyService::wantedGrabs() const
+{
+    std::set<KeyGrab> given;
+    std::vector<std::vector<KeyGrab>> all;
+    for (const Registration &registration : registrations_) {
+        std::vector<KeyGrab> grabs = grabsOf(registration.keyCode, registration.modifiers, keyboard_);
+        if (std::any_of(grabs.cbegin(), grabs.cend(), [&given](const KeyGrab &grab) { return given.contains(grab); }))
+            grabs.clear();
+        given.insert(grabs.cbegin(), grabs.cend());
+        all.push_back(std::move(grabs));
+    }
+    return all;
+}
+
+void HotKeyService::regrab(Registration &registration, const std::vector<KeyGrab> &grabs)
+{
+    if (registration.grabs == grabs && !grabs.empty())
+        return;
+    if (!grabs.empty() && connection_->grab(grabs))
+        registration.grabs = grabs;
+    else
+        NSLog(QStringLiteral("lumaroo: hot keys: key code %1 with modifiers 0x%2 cannot be had on the changed keyboard")
+                  .arg(registration.keyCode)
+                  .arg(registration.modifiers, 0, 16));
+}

@@ -1,0 +1,269 @@
+// Which presses reach a hot key's owner, and how often.
+
+#include "HotKeySession.h"
+#include "KeyPress.h"
+#include "Keyboard.h"
+#include "Wait.h"
+
+#include <QScopeGuard>
+#include <linux/input-event-codes.h>
+
+namespace {
+
+constexpr quint32 A = 0, S = 1, Z = 6, Left = 123, F13 = 105;
+
+class Press : public HotKeySession
+{
+public:
+    Press() { other.setKeyRepeat(delay, interval); }
+    /// Lets a key that is down repeat.
+    void waitForRepeats()
+    {
+        constexpr int manyRepeats = 30;
+        const quint32 start = other.serverTime();
+        EXPECT_TRUE(waitUntil([&] { return other.serverTime() > start + delay + manyRepeats * interval; }));
+    }
+
+private:
+    static constexpr int delay = 40, interval = 10; // milliseconds
+};
+
+/// Tells at each press whether another program could open a menu then.
+class KeyboardProbe
+{
+public:
+    explicit KeyboardProbe(OtherClient &other)
+    {
+        client() = &other;
+        isFree() = false;
+        const EventTypeSpec press{kEventClassKeyboard, kEventHotKeyPressed};
+        InstallEventHandler(GetApplicationEventTarget(), look, 1, &press, nullptr, nullptr);
+    }
+    ~KeyboardProbe() { client() = nullptr; }
+
+    static bool &isFree()
+    {
+        static bool free = false;
+        return free;
+    }
+
+private:
+    static OtherClient *&client()
+    {
+        static OtherClient *other = nullptr;
+        return other;
+    }
+    static OSStatus look(EventHandlerCallRef, EventRef, void *)
+    {
+        if (client() && !isFree()) {
+            isFree() = client()->grabKeyboard();
+            client()->ungrabKeyboard();
+        }
+        return eventNotHandledErr;
+    }
+};
+
+} // namespace
+
+TEST_F(Press, reachesItsOwnerAndNotTheProgramWithTheFocus)
+{
+    ASSERT_EQ(add(A, controlKey | optionKey, 7), noErr);
+    pressKey(KEY_A, {KEY_LEFTCTRL, KEY_LEFTALT});
+    EXPECT_EQ(pressed(), QList<quint32>{7});
+    EXPECT_FALSE(other.pressedKeys().contains(KEY_A));
+    EXPECT_TRUE(other.pressedKeys().contains(KEY_LEFTALT));
+}
+
+TEST_F(Press, withOtherModifiersGoesToTheProgramWithTheFocus)
+{
+    ASSERT_EQ(add(A, controlKey | optionKey), noErr);
+    pressKey(KEY_A);
+    pressKey(KEY_A, {KEY_LEFTCTRL});
+    pressKey(KEY_A, {KEY_LEFTALT});
+    pressKey(KEY_A, {KEY_LEFTCTRL, KEY_LEFTALT, KEY_LEFTSHIFT});
+    pressKey(KEY_A, {KEY_LEFTCTRL, KEY_LEFTALT, KEY_LEFTMETA});
+    EXPECT_TRUE(pressed().isEmpty());
+    EXPECT_EQ(other.pressedKeys().count(KEY_A), 5);
+}
+
+TEST_F(Press, namesTheHotKeyThatItIsOf)
+{
+    ASSERT_EQ(add(A, controlKey, 1), noErr);
+    ASSERT_EQ(add(A, controlKey | shiftKey, 2), noErr);
+    ASSERT_EQ(add(S, controlKey, 3), noErr);
+    pressKey(KEY_S, {KEY_LEFTCTRL});
+    pressKey(KEY_A, {KEY_LEFTCTRL, KEY_LEFTSHIFT});
+    pressKey(KEY_A, {KEY_LEFTCTRL});
+    EXPECT_EQ(pressed(), (QList<quint32>{3, 2, 1}));
+}
+
+TEST_F(Press, countsWithTheModifiersOfEitherSide)
+{
+    ASSERT_EQ(add(A, controlKey | shiftKey, 1), noErr);
+    ASSERT_EQ(add(S, optionKey, 2), noErr);
+    ASSERT_EQ(add(Left, cmdKey, 3), noErr);
+    pressKey(KEY_A, {KEY_RIGHTCTRL, KEY_LEFTSHIFT});
+    pressKey(KEY_A, {KEY_LEFTCTRL, KEY_RIGHTSHIFT});
+    pressKey(KEY_S, {KEY_RIGHTALT});
+    pressKey(KEY_LEFT, {KEY_LEFTMETA});
+    pressKey(KEY_LEFT, {KEY_RIGHTMETA});
+    EXPECT_EQ(pressed(), (QList<quint32>{1, 1, 2, 3, 3}));
+}
+
+TEST_F(Press, countsWhateverTheLockKeysAre)
+{
+    ASSERT_EQ(add(A, controlKey), noErr);
+    for (const int lock : {KEY_CAPSLOCK, KEY_NUMLOCK, KEY_SCROLLLOCK}) {
+        pressKey(lock);
+        pressKey(KEY_A, {KEY_LEFTCTRL});
+        EXPECT_EQ(pressed(), QList<quint32>{1}) << lock;
+    }
+    // All of them are on now.
+    for (const int lock : {KEY_CAPSLOCK, KEY_NUMLOCK, KEY_SCROLLLOCK}) {
+        pressKey(lock);
+        pressKey(KEY_A, {KEY_LEFTCTRL});
+        EXPECT_EQ(pressed(), QList<quint32>{1}) << lock;
+    }
+}
+
+TEST_F(Press, countsInEveryGroupOfTheLayout)
+{
+    const auto reset = qScopeGuard([] { setKeyboardLayout("us"); });
+    setKeyboardLayout("us,de,ru");
+    ASSERT_EQ(add(Z, controlKey | optionKey), noErr);
+    for (const int group : {0, 1, 2, 0}) {
+        lockKeyboardGroup(group);
+        pressKey(KEY_Z, {KEY_LEFTCTRL, KEY_LEFTALT});
+        EXPECT_EQ(pressed(), QList<quint32>{1}) << group;
+    }
+}
+
+TEST_F(Press, ofAKeyThatIsHeldCountsOnce)
+{
+    // What is no hot key, the program with the focus gets again and again.
+    keyDown(KEY_S);
+    EXPECT_TRUE(waitUntil([this] { return other.pressedKeys().count(KEY_S) > 3; }));
+    keyUp(KEY_S);
+
+    ASSERT_EQ(add(A, controlKey), noErr);
+    keyDown(KEY_LEFTCTRL);
+    keyDown(KEY_A);
+    waitForRepeats();
+    keyUp(KEY_A);
+    pressKey(KEY_A);
+    keyUp(KEY_LEFTCTRL);
+    EXPECT_EQ(pressed(), (QList<quint32>{1, 1}));
+    EXPECT_FALSE(other.pressedKeys().contains(KEY_A));
+}
+
+TEST_F(Press, countsAgainAfterEachRelease)
+{
+    ASSERT_EQ(add(A, controlKey), noErr);
+    keyDown(KEY_LEFTCTRL);
+    for (int press = 0; press < 20; ++press)
+        pressKey(KEY_A);
+    keyUp(KEY_LEFTCTRL);
+    EXPECT_EQ(pressed().size(), 20);
+    for (int press = 0; press < 20; ++press) {
+        pressKey(KEY_A, {KEY_LEFTCTRL});
+        EXPECT_EQ(pressed(), QList<quint32>{1}) << press;
+    }
+}
+
+TEST_F(Press, countsOnceWhenTheKeyOutlivesItsModifiers)
+{
+    ASSERT_EQ(add(A, controlKey, 1), noErr);
+    ASSERT_EQ(add(A, shiftKey, 2), noErr);
+    keyDown(KEY_LEFTCTRL);
+    keyDown(KEY_A);
+    EXPECT_EQ(pressed(), QList<quint32>{1});
+    keyUp(KEY_LEFTCTRL);
+    keyUp(KEY_A);
+    pressKey(KEY_A, {KEY_LEFTSHIFT});
+    EXPECT_EQ(pressed(), QList<quint32>{2});
+}
+
+TEST_F(Press, ofAKeyThatWasDownBeforeItBecameAHotKeyDoesNotCount)
+{
+    keyDown(KEY_LEFTCTRL);
+    keyDown(KEY_A);
+    ASSERT_EQ(add(A, controlKey), noErr);
+    waitForRepeats();
+    keyUp(KEY_A);
+    EXPECT_TRUE(pressed().isEmpty());
+    keyDown(KEY_A);
+    EXPECT_EQ(pressed(), QList<quint32>{1});
+    keyUp(KEY_A);
+    keyUp(KEY_LEFTCTRL);
+}
+
+TEST_F(Press, ofTwoHotKeysAtOnceCountsBoth)
+{
+    ASSERT_EQ(add(A, controlKey, 1), noErr);
+    ASSERT_EQ(add(S, controlKey, 2), noErr);
+    keyDown(KEY_LEFTCTRL);
+    keyDown(KEY_A);
+    keyDown(KEY_S);
+    keyUp(KEY_A);
+    keyDown(KEY_A);
+    keyUp(KEY_S);
+    keyUp(KEY_A);
+    keyUp(KEY_LEFTCTRL);
+    EXPECT_EQ(pressed(), (QList<quint32>{1, 2, 1}));
+}
+
+TEST_F(Press, leavesTheKeyboardFreeForAMenu)
+{
+    ASSERT_EQ(add(A, controlKey), noErr);
+    const KeyboardProbe probe(other);
+    keyDown(KEY_LEFTCTRL);
+    keyDown(KEY_A);
+    EXPECT_TRUE(waitUntil([] { return KeyboardProbe::isFree(); }));
+    keyUp(KEY_A);
+    keyUp(KEY_LEFTCTRL);
+    EXPECT_EQ(pressed(), QList<quint32>{1});
+}
+
+TEST_F(Press, duringAnotherProgramsGrabIsLostAndTheNextOneCounts)
+{
+    ASSERT_EQ(add(A, controlKey), noErr);
+    ASSERT_TRUE(other.grabKeyboard());
+    pressKey(KEY_A, {KEY_LEFTCTRL});
+    other.ungrabKeyboard();
+    EXPECT_TRUE(pressed().isEmpty());
+    pressKey(KEY_A, {KEY_LEFTCTRL});
+    EXPECT_EQ(pressed(), QList<quint32>{1});
+}
+
+TEST_F(Press, whoseReleaseFallsIntoAnotherProgramsGrabCountsAgain)
+{
+    ASSERT_EQ(add(A, controlKey), noErr);
+    keyDown(KEY_LEFTCTRL);
+    keyDown(KEY_A);
+    EXPECT_EQ(pressed(), QList<quint32>{1});
+    ASSERT_TRUE(other.grabKeyboard());
+    keyUp(KEY_A);
+    keyUp(KEY_LEFTCTRL);
+    other.ungrabKeyboard();
+    pressKey(KEY_A, {KEY_LEFTCTRL});
+    EXPECT_EQ(pressed(), QList<quint32>{1});
+}
+
+TEST_F(Press, ofAHotKeyThatWasGivenUpDoesNotCount)
+{
+    ASSERT_EQ(add(A, controlKey, 1), noErr);
+    const EventHotKeyRef first = last();
+    ASSERT_EQ(add(S, controlKey, 2), noErr);
+    pressKey(KEY_A, {KEY_LEFTCTRL});
+    UnregisterEventHotKey(first);
+    pressKey(KEY_S, {KEY_LEFTCTRL});
+    EXPECT_EQ(pressed(), QList<quint32>{2});
+}
+
+TEST_F(Press, ofAKeyThatCountsAsTheOneRegistered)
+{
+    ASSERT_EQ(add(F13, controlKey), noErr);
+    pressKey(KEY_SYSRQ, {KEY_LEFTCTRL});
+    pressKey(KEY_F13, {KEY_LEFTCTRL});
+    EXPECT_EQ(pressed(), (QList<quint32>{1, 1}));
+}

@@ -1,0 +1,182 @@
+// What registering and giving up a hot key answers.
+
+#include "HotKeySession.h"
+#include "KeyCodes.h"
+#include "KeyPress.h"
+#include "Wait.h"
+
+#include <QProcess>
+#include <linux/input-event-codes.h>
+#include <malloc.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr quint32 A = 0, S = 1, Left = 123;
+constexpr quint32 F13 = 105, OtherEnter = 52, Enter = 76;
+constexpr quint16 control = XCB_MOD_MASK_CONTROL, numLock = XCB_MOD_MASK_2;
+
+class Registration : public HotKeySession
+{
+};
+
+} // namespace
+
+TEST_F(Registration, ofAFreeCombinationSucceedsAndHoldsIt)
+{
+    EXPECT_EQ(add(A, controlKey), noErr);
+    EXPECT_FALSE(other.grabKey(KEY_A, control));
+}
+
+TEST_F(Registration, holdsTheCombinationWithEveryLockKey)
+{
+    ASSERT_EQ(add(A, controlKey), noErr);
+    for (const int locks : {int(XCB_MOD_MASK_LOCK), int(numLock), XCB_MOD_MASK_LOCK | numLock})
+        EXPECT_FALSE(other.grabKey(KEY_A, quint16(control | locks))) << locks;
+    EXPECT_TRUE(other.grabKey(KEY_A, control | XCB_MOD_MASK_SHIFT));
+}
+
+TEST_F(Registration, ofTheSameCombinationAgainIsRefusedWithEitherOption)
+{
+    ASSERT_EQ(add(A, controlKey), noErr);
+    EXPECT_EQ(add(A, controlKey, 2, kEventHotKeyNoOptions), eventHotKeyExistsErr);
+    EXPECT_EQ(add(A, controlKey, 2, kEventHotKeyExclusive), eventHotKeyExistsErr);
+    EXPECT_EQ(eventHotKeyExistsErr, -9878);
+    EXPECT_EQ(add(A, controlKey | shiftKey, 2), noErr);
+    EXPECT_EQ(add(S, controlKey, 3), noErr);
+}
+
+TEST_F(Registration, ofAnotherProgramsCombinationIsRefusedWithEitherOption)
+{
+    ASSERT_TRUE(other.grabKey(KEY_A, control));
+    EXPECT_EQ(add(A, controlKey, 1, kEventHotKeyNoOptions), eventHotKeyExistsErr);
+    EXPECT_EQ(add(A, controlKey, 1, kEventHotKeyExclusive), eventHotKeyExistsErr);
+    other.ungrabKey(KEY_A, control);
+    EXPECT_EQ(add(A, controlKey), noErr);
+}
+
+TEST_F(Registration, thatIsRefusedWithOneLockKeyLeavesNothingHeld)
+{
+    ASSERT_TRUE(other.grabKey(KEY_A, control | numLock));
+    EXPECT_EQ(add(A, controlKey), eventHotKeyExistsErr);
+    EXPECT_TRUE(other.grabKey(KEY_A, control));
+    EXPECT_TRUE(other.grabKey(KEY_A, control | XCB_MOD_MASK_LOCK));
+}
+
+TEST_F(Registration, ofAnyModifiersOfTheKeyHeldElsewhereIsRefused)
+{
+    ASSERT_TRUE(other.grabKey(KEY_A, XCB_MOD_MASK_ANY));
+    EXPECT_EQ(add(A, controlKey), eventHotKeyExistsErr);
+}
+
+TEST_F(Registration, isRefusedForWhatAWindowManagerHolds)
+{
+    QProcess manager;
+    manager.start("openbox", {"--config-file", "/etc/xdg/openbox/rc.xml"});
+    ASSERT_TRUE(waitUntil([this] {
+        const bool isHeld = !other.grabKey(KEY_LEFT, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1);
+        if (!isHeld)
+            other.ungrabKey(KEY_LEFT, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1);
+        return isHeld;
+    }));
+    EXPECT_EQ(add(Left, controlKey | optionKey), eventHotKeyExistsErr);
+    EXPECT_EQ(add(Left, controlKey | optionKey | cmdKey), noErr);
+    manager.terminate();
+    EXPECT_TRUE(manager.waitForFinished());
+}
+
+TEST_F(Registration, withoutModifiersIsOnlyARefusalOfTheCaller)
+{
+    EXPECT_EQ(add(F13, 0), noErr);
+}
+
+TEST_F(Registration, ofWhatNoKeyBearsIsAParameterError)
+{
+    for (const KeyCodeRow &row : keyCodeRows()) {
+        if (row.evdev == 0 && row.code != OtherEnter) {
+            EXPECT_EQ(add(row.code, controlKey), paramErr) << row.code;
+        }
+    }
+    EXPECT_EQ(add(200, controlKey), paramErr);
+    EXPECT_EQ(add(0x10000, controlKey), paramErr);
+    EXPECT_EQ(add(quint32(-1), controlKey), paramErr);
+}
+
+TEST_F(Registration, ofOtherModifiersOrOptionsIsAParameterError)
+{
+    EXPECT_EQ(add(A, 0x400), paramErr);
+    EXPECT_EQ(add(A, controlKey | 0x10000), paramErr);
+    EXPECT_EQ(add(A, controlKey, 1, 2), paramErr);
+}
+
+TEST_F(Registration, withoutTargetOrPlaceIsAParameterError)
+{
+    EventHotKeyRef reference = nullptr;
+    EXPECT_EQ(RegisterEventHotKey(A, controlKey, {}, nullptr, 0, &reference), paramErr);
+    EXPECT_EQ(RegisterEventHotKey(A, controlKey, {}, GetApplicationEventTarget(), 0, nullptr), paramErr);
+    EXPECT_EQ(reference, nullptr);
+    EXPECT_TRUE(other.grabKey(KEY_A, control));
+}
+
+TEST_F(Registration, ofEveryKeyOfTheTableSucceeds)
+{
+    for (const KeyCodeRow &row : keyCodeRows()) {
+        if (row.evdev == 0 || row.evdev + evdevToX11 > 255)
+            continue;
+        EXPECT_EQ(add(row.code, controlKey | cmdKey, row.code), noErr) << row.code;
+        UnregisterEventHotKey(last());
+    }
+}
+
+TEST_F(Registration, ofTheOtherEnterKeyHoldsTheKeypads)
+{
+    EXPECT_EQ(add(OtherEnter, controlKey), noErr);
+    EXPECT_FALSE(other.grabKey(KEY_KPENTER, control));
+    EXPECT_EQ(add(Enter, controlKey), eventHotKeyExistsErr);
+}
+
+TEST_F(Registration, holdsTheKeysThatCountAsItToo)
+{
+    EXPECT_EQ(add(F13, controlKey), noErr);
+    EXPECT_FALSE(other.grabKey(KEY_F13, control));
+    EXPECT_FALSE(other.grabKey(KEY_SYSRQ, control));
+}
+
+TEST_F(Registration, givenUpIsFreeForOthersAtOnce)
+{
+    ASSERT_EQ(add(A, controlKey | optionKey), noErr);
+    EXPECT_EQ(UnregisterEventHotKey(last()), noErr);
+    for (const int locks : {0, int(XCB_MOD_MASK_LOCK), int(numLock), XCB_MOD_MASK_LOCK | numLock})
+        EXPECT_TRUE(other.grabKey(KEY_A, quint16(control | XCB_MOD_MASK_1 | locks))) << locks;
+}
+
+TEST_F(Registration, givingUpAStaleOrNullReferenceIsAnErrorAndHarmsNothing)
+{
+    ASSERT_EQ(add(A, controlKey), noErr);
+    const EventHotKeyRef stale = last();
+    ASSERT_EQ(UnregisterEventHotKey(stale), noErr);
+    ASSERT_EQ(add(S, controlKey), noErr);
+    EXPECT_EQ(UnregisterEventHotKey(stale), eventHotKeyInvalidErr);
+    EXPECT_EQ(UnregisterEventHotKey(nullptr), eventHotKeyInvalidErr);
+    EXPECT_FALSE(other.grabKey(KEY_S, control));
+}
+
+TEST_F(Registration, andGivingUpManyTimesLeavesNothingBehind)
+{
+    const auto rounds = [this] {
+        for (int round = 0; round < 250; ++round) {
+            EventHotKeyRef reference = nullptr;
+            const EventTargetRef target = GetApplicationEventTarget();
+            ASSERT_EQ(RegisterEventHotKey(A, controlKey | optionKey, {}, target, round % 2, &reference), noErr);
+            ASSERT_EQ(UnregisterEventHotKey(reference), noErr);
+        }
+    };
+    rounds();
+    const quint64 resources = other.resourcesOf(getpid());
+    const size_t memory = mallinfo2().uordblks;
+    rounds();
+    EXPECT_GT(resources, 0U);
+    EXPECT_EQ(other.resourcesOf(getpid()), resources);
+    EXPECT_LT(mallinfo2().uordblks, memory + 4096);
+    EXPECT_TRUE(other.grabKey(KEY_A, XCB_MOD_MASK_ANY));
+}

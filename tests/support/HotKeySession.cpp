@@ -1,0 +1,70 @@
+#include "HotKeySession.h"
+
+#include "KeyPress.h"
+#include "Wait.h"
+
+#include <linux/input-event-codes.h>
+#include <utility>
+
+namespace {
+
+constexpr quint32 signature = fourCharacterCode("test"), markID = 4711;
+constexpr quint16 markKeyCode = 101;
+
+QList<quint32> &heard()
+{
+    static QList<quint32> ids;
+    return ids;
+}
+
+OSStatus hear(EventHandlerCallRef, EventRef event, void *)
+{
+    EventHotKeyID id;
+    EXPECT_EQ(
+        GetEventParameter(event, kEventParamDirectObject, typeEventHotKeyID, nullptr, sizeof id, nullptr, &id), noErr);
+    EXPECT_EQ(id.signature, signature);
+    heard().append(id.id);
+    return noErr;
+}
+
+} // namespace
+
+HotKeySession::HotKeySession()
+{
+    const EventTypeSpec press{kEventClassKeyboard, kEventHotKeyPressed};
+    InstallEventHandler(GetApplicationEventTarget(), hear, 1, &press, nullptr, nullptr);
+    heard().clear();
+    other.takeFocus();
+}
+
+HotKeySession::~HotKeySession()
+{
+    for (const EventHotKeyRef reference : std::as_const(references_))
+        UnregisterEventHotKey(reference);
+}
+
+OSStatus HotKeySession::add(quint32 keyCode, quint32 modifiers, quint32 id, quint32 options)
+{
+    EventHotKeyRef reference = nullptr;
+    const OSStatus status =
+        RegisterEventHotKey(keyCode, modifiers, {signature, id}, GetApplicationEventTarget(), options, &reference);
+    EXPECT_EQ(status == noErr, reference != nullptr);
+    if (status == noErr)
+        references_.append(reference);
+    return status;
+}
+
+QList<quint32> HotKeySession::pressed()
+{
+    // One more press, behind which nothing is left that was pressed before.
+    EventHotKeyRef mark = nullptr;
+    EXPECT_EQ(RegisterEventHotKey(
+                  markKeyCode, controlKey | shiftKey, {signature, markID}, GetApplicationEventTarget(), 0, &mark),
+        noErr);
+    pressKey(KEY_F9, {KEY_RIGHTCTRL, KEY_RIGHTSHIFT});
+    EXPECT_TRUE(waitUntil([] { return heard().contains(markID); }));
+    EXPECT_EQ(UnregisterEventHotKey(mark), noErr);
+    QList<quint32> ids = std::exchange(heard(), {});
+    ids.removeAll(markID);
+    return ids;
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QList>
+#include <memory>
+#include <xcb/xcb.h>
+
+/// Another program, as the X server sees it: a connection of its own. Keys are kernel (evdev) codes, modifiers are
+/// masks of the server.
+class OtherClient
+{
+public:
+    OtherClient();
+
+    bool isConnected() const { return !xcb_connection_has_error(connection_.get()); }
+
+    /// On the first screen; false when somebody else holds it.
+    bool grabKey(int evdevCode, quint16 modifiers);
+    void ungrabKey(int evdevCode, quint16 modifiers);
+    /// The whole keyboard, as an open menu does; false when somebody else holds it.
+    bool grabKeyboard();
+    void ungrabKeyboard();
+
+    /// Shows a window on a screen and gives it the focus.
+    void takeFocus(int screen = 0);
+    /// The keys whose presses it has received, in order.
+    QList<int> pressedKeys();
+
+    /// How soon and how fast the keyboard repeats a key, in milliseconds.
+    void setKeyRepeat(quint16 delay, quint16 interval);
+    /// The server's clock, in milliseconds.
+    quint32 serverTime();
+
+    /// Which keys are each modifier's, from Shift to Mod5, as keycodes of the server.
+    QList<QList<int>> modifierKeys();
+    void setModifierKeys(const QList<QList<int>> &keys);
+
+    /// How many passive grabs and event selections the server keeps for the connections of a process.
+    quint64 resourcesOf(qint64 process);
+
+private:
+    xcb_window_t rootOf(int screen) const;
+    void takeEvents();
+
+    std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> connection_;
+    QList<int> pressedKeys_;
+    xcb_window_t window_ = 0;
+    quint32 lastTime_ = 0;
+};
