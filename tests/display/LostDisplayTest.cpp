@@ -1,38 +1,8 @@
 #include "CapturedLog.h"
 #include "Keyboard.h"
-#include "Wait.h"
+#include "SecondDisplay.h"
 
-#include <QProcess>
 #include <gtest/gtest.h>
-
-namespace {
-
-/// An X server that can be ended: the session's own carries the test's windows.
-class SecondDisplay
-{
-public:
-    SecondDisplay()
-    {
-        server_.start("Xvfb", {"-noreset", "-nolisten", "tcp", "-displayfd", "1"});
-        if (!waitUntil([this] { return server_.canReadLine(); }))
-            qFatal("no second X server");
-        name_ = ':' + server_.readLine().trimmed();
-    }
-    ~SecondDisplay() { end(); }
-
-    QByteArray name() const { return name_; }
-    void end()
-    {
-        server_.kill();
-        server_.waitForFinished();
-    }
-
-private:
-    QProcess server_;
-    QByteArray name_;
-};
-
-} // namespace
 
 TEST(LostDisplay, keysAreNamedByTheDefaultLayoutFromThenOn)
 {

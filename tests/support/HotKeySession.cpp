@@ -56,12 +56,13 @@ OSStatus HotKeySession::add(quint32 keyCode, quint32 modifiers, quint32 id, quin
 
 QList<quint32> HotKeySession::pressed()
 {
-    // One more press, behind which nothing is left that was pressed before.
+    // One more press (of keys that every keyboard has in the same place), behind which nothing is left that was pressed
+    // before.
     EventHotKeyRef mark = nullptr;
     EXPECT_EQ(RegisterEventHotKey(
                   markKeyCode, controlKey | shiftKey, {signature, markID}, GetApplicationEventTarget(), 0, &mark),
         noErr);
-    pressKey(KEY_F9, {KEY_RIGHTCTRL, KEY_RIGHTSHIFT});
+    pressKey(KEY_F9, {KEY_LEFTCTRL, KEY_LEFTSHIFT});
     EXPECT_TRUE(waitUntil([] { return heard().contains(markID); }));
     EXPECT_EQ(UnregisterEventHotKey(mark), noErr);
     QList<quint32> ids = std::exchange(heard(), {});
