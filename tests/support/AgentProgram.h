@@ -38,6 +38,9 @@ private:
     QByteArray errors_;
 };
 
+/// All that an agent has to say on standard error where there is no display.
+inline constexpr char noDisplayForHotKeys[] = "lumaroo: hot keys: none can be registered: there is no X server\n";
+
 /// Runs the agent's program to its end, as with --print-settings.
 ProgramResult runAgent(const QStringList &arguments, const QString &executable = AgentProgram::builtExecutable());
 

@@ -3,6 +3,7 @@
 #include "Wait.h"
 
 #include <QProcess>
+#include <QRandomGenerator>
 
 /// An X server that can be ended, and can have several screens: the session's own carries the test's windows.
 class SecondDisplay
@@ -19,7 +20,7 @@ public:
     SecondDisplay(const SecondDisplay &) = delete;
     SecondDisplay &operator=(const SecondDisplay &) = delete;
 
-    QByteArray name() const { return name_; }
+    QByteArray name() const { return name_.toLatin1(); }
     void end()
     {
         server_.kill();
@@ -28,5 +29,6 @@ public:
 
 private:
     QProcess server_;
-    QByteArray name_;
+    // A number that no server takes by itself: when this one has ended, nobody answers there.
+    const QString name_ = u':' + QString::number(QRandomGenerator::global()->bounded(1000, 50000));
 };

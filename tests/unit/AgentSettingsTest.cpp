@@ -22,7 +22,8 @@ QVariant effective(const QString &key, const QVariant &stored)
 
 QJsonObject shown(const QVariantMap &settings)
 {
-    return QJsonDocument::fromJson(settingsJson(100, 7, settings, {})).object();
+    const QList<AgentHotKey> hotKeys{{"moveUpHotKey", 126, "⌃⌥↑", {}}, {"closeWindow", 13, "⌃⌥W", "taken"}};
+    return QJsonDocument::fromJson(settingsJson(100, 7, settings, hotKeys)).object();
 }
 
 QJsonValue shownValue(const QVariant &value)
@@ -124,10 +125,19 @@ TEST(AgentSettings, leaveOutKeysThatNobodyAgreedOn)
 TEST(TheShownSettings, holdVersionReadingsAndEveryKey)
 {
     const QJsonObject object = shown(effectiveSettings({}));
-    EXPECT_EQ(object.keys(), QStringList({"readings", "settings", "version"}));
+    EXPECT_EQ(object.keys(), QStringList({"hotKeys", "readings", "settings", "version"}));
     EXPECT_EQ(object.value("version").toInt(), 100);
     EXPECT_EQ(object.value("readings").toInt(), 7);
     EXPECT_EQ(object.value("settings").toObject().size(), agentSettings().size());
+}
+
+TEST(TheShownSettings, tellWhichKeysWork)
+{
+    const QJsonArray expected{
+        QJsonObject{{"action", "moveUpHotKey"}, {"keyCode", 126}, {"combination", "⌃⌥↑"}, {"registered", true}},
+        QJsonObject{{"action", "closeWindow"}, {"keyCode", 13}, {"combination", "⌃⌥W"}, {"registered", false},
+            {"refusal", "taken"}}};
+    EXPECT_EQ(shown({}).value("hotKeys").toArray(), expected);
 }
 
 TEST(TheShownSettings, showEachKindOfValue)
