@@ -11,10 +11,10 @@ class SecondDisplay
 public:
     explicit SecondDisplay(const QStringList &options = {})
     {
-        server_.start(QStringLiteral("Xvfb"), QStringList{"-noreset", "-nolisten", "tcp", "-displayfd", "1"} + options);
+        server_.start(
+            QStringLiteral("Xvfb"), QStringList{name_, "-noreset", "-nolisten", "tcp", "-displayfd", "1"} + options);
         if (!waitUntil([this] { return server_.canReadLine(); }))
             qFatal("no second X server");
-        name_ = ':' + server_.readLine().trimmed();
     }
     ~SecondDisplay() { end(); }
     SecondDisplay(const SecondDisplay &) = delete;
