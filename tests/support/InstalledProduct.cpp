@@ -42,7 +42,7 @@ InstalledProduct::InstalledProduct()
 InstalledProduct::~InstalledProduct()
 {
     // The launchers first: they would bring back what is killed after them.
-    for (const QString &program : {launcher(), HostProgram::builtExecutable(), agentProgram()})
+    for (const QString &program : {launcher(), HostProgram::builtExecutable(), agentProgram(), agentItself()})
         killProcessesOf(program);
     qputenv("XDG_DATA_HOME", previousData_);
 }
@@ -65,7 +65,7 @@ int InstalledProduct::installedVersion() const
 
 QList<pid_t> InstalledProduct::agents() const
 {
-    return processesOf(agentProgram());
+    return processesOf(agentProgram()) + processesOf(agentItself());
 }
 
 QList<pid_t> InstalledProduct::hosts() const
@@ -97,6 +97,23 @@ bool InstalledProduct::agentStarts() const
 bool InstalledProduct::agentEnds() const
 {
     return waitUntil([this] { return agents().isEmpty(); });
+}
+
+void InstalledProduct::letAgentWrite()
+{
+    ASSERT_TRUE(written_.open());
+    ASSERT_TRUE(QFile::rename(agentProgram(), agentItself()));
+    QFile script(agentProgram());
+    ASSERT_TRUE(script.open(QIODevice::WriteOnly));
+    const QString line = QStringLiteral("#!/bin/sh\nexec '%1' --foreground > '%2'\n");
+    script.write(line.arg(agentItself(), written_.fileName()).toUtf8());
+    script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+QStringList InstalledProduct::linesOfAgent()
+{
+    written_.seek(0);
+    return QString::fromUtf8(written_.readAll()).split(u'\n', Qt::SkipEmptyParts);
 }
 
 void InstalledProduct::storeOutside(const QString &key, const QVariant &value) const

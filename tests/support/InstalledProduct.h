@@ -4,6 +4,7 @@
 #include "SettingsProgram.h"
 
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <gtest/gtest.h>
 #include <memory>
 #include <sys/types.h>
@@ -30,13 +31,21 @@ protected:
     bool launchersWait(int count) const;
     bool agentStarts() const;
     bool agentEnds() const;
+    /// From now on the agent that the settings start writes what happens, as --foreground has it. It is the real one; a
+    /// script of its name starts it so.
+    void letAgentWrite();
+    /// What the agent that was started last has written so far.
+    QStringList linesOfAgent();
 
     void storeOutside(const QString &key, const QVariant &value) const;
 
     BusRecorder bus;
 
 private:
+    QString agentItself() const { return agentProgram() + QStringLiteral("-itself"); }
+
     QTemporaryDir folder_;
+    QTemporaryFile written_;
     QByteArray previousData_ = qgetenv("XDG_DATA_HOME");
     QString pane_;
 };

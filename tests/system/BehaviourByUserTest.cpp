@@ -4,10 +4,8 @@
 #include "InstalledProduct.h"
 #include "KTXConstants.h"
 #include "KeyPress.h"
-#include "RunningPrograms.h"
 #include "Wait.h"
 
-#include <QTemporaryFile>
 #include <QWidget>
 #include <linux/input-event-codes.h>
 
@@ -19,7 +17,6 @@ class BehaviourByUser : public InstalledProduct
 {
 protected:
     BehaviourByUser() { storeOutside(KTXFirstLaunch, true); }
-    ~BehaviourByUser() override { killProcessesOf(agentItself()); }
 
     void showSettings()
     {
@@ -42,27 +39,7 @@ protected:
         return waitUntil([&] { return runningAgentsSetting(key) == value; });
     }
 
-    /// From now on the agent that the settings start says into a file what happens. It is the real one; a script of its
-    /// name starts it so.
-    void letAgentWrite()
-    {
-        ASSERT_TRUE(written.open());
-        ASSERT_TRUE(QFile::rename(agentProgram(), agentItself()));
-        QFile script(agentProgram());
-        ASSERT_TRUE(script.open(QIODevice::WriteOnly));
-        script.write(
-            QString("#!/bin/sh\nexec '%1' --foreground > '%2'\n").arg(agentItself(), written.fileName()).toUtf8());
-        script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
-    QString agentItself() const { return agentProgram() + "-itself"; }
-    QStringList linesWritten()
-    {
-        written.seek(0);
-        return QString::fromUtf8(written.readAll()).split(u'\n', Qt::SkipEmptyParts);
-    }
-
     std::unique_ptr<SettingsProgram> settings;
-    QTemporaryFile written;
 };
 
 } // namespace
@@ -101,10 +78,10 @@ TEST_F(BehaviourByUser, theTutorialStartsAnAgentThatIsOffAndIsHeardByIt)
     bus.clear();
     ASSERT_TRUE(runningAgent().isEmpty());
     pressKey(KEY_S, {KEY_LEFTALT});
-    EXPECT_TRUE(waitUntil([this] { return linesWritten().contains("tutorial requested"); }))
-        << linesWritten().join(u'\n').toStdString();
-    EXPECT_EQ(linesWritten().count("tutorial requested"), 1);
-    EXPECT_EQ(linesWritten().filter("launched").size(), 1);
+    EXPECT_TRUE(waitUntil([this] { return linesOfAgent().contains("tutorial requested"); }))
+        << linesOfAgent().join(u'\n').toStdString();
+    EXPECT_EQ(linesOfAgent().count("tutorial requested"), 1);
+    EXPECT_EQ(linesOfAgent().filter("launched").size(), 1);
     EXPECT_EQ(bus.names().count(KTXLMRunTutorial), 1);
 }
 
