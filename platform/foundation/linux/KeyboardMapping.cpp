@@ -78,9 +78,10 @@ void readKeyNames(KeyboardMapping &mapping, const xcb_xkb_get_names_reply_t *rep
     }
     for (int alias = 0; alias < reply->nKeyAliases; ++alias) {
         const xcb_xkb_key_alias_t &pair = names.keyAliases[alias];
-        const auto real = mapping.keycodes.constFind(keyName(pair.real, sizeof pair.real));
-        if (real != mapping.keycodes.cend())
-            mapping.keycodes.insert(keyName(pair.alias, sizeof pair.alias), *real);
+        // A copy: what a hash table holds moves when something is added to it.
+        const quint8 keycode = mapping.keycodes.value(keyName(pair.real, sizeof pair.real));
+        if (keycode != 0)
+            mapping.keycodes.insert(keyName(pair.alias, sizeof pair.alias), keycode);
     }
 }
 
