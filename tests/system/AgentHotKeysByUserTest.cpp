@@ -163,7 +163,6 @@ TEST_F(AgentHotKeysByUser, aFieldTakesAKeyWithAnyModifiersThatAreNotInUseForIt)
     expectStored(KTXUpPref, keyCodeOfB);
     pressKey(KEY_X, {KEY_LEFTCTRL, KEY_LEFTALT, KEY_LEFTSHIFT});
     expectStored(KTXUpPref, keyCodeOfX);
-    // The field shows X, and may be given its own key with other modifiers.
     pressKey(KEY_B, {KEY_LEFTCTRL});
     expectStored(KTXUpPref, keyCodeOfB);
     EXPECT_EQ(pressedLines(), QStringList());
