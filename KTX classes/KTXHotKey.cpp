@@ -4,6 +4,7 @@
 #include "platform/foundation/NSException.h"
 #include "platform/foundation/NSNotificationCenter.h"
 
+#include <QObject>
 #include <stdexcept>
 #include <utility>
 
@@ -20,6 +21,17 @@ std::shared_ptr<const NSValue> wrapped(EventHotKeyRef reference)
     return std::make_shared<const NSValue>(NSValue{"^{OpaqueEventHotKeyRef=}", reference});
 }
 
+/// Has every hot key of the list be unregistered when the system has given all of them up.
+void forgetLostHotKeys()
+{
+    static QObject observer;
+    const auto forget = [](const NSNotification &) {
+        for (const auto &hotKey : registry())
+            hotKey->setHotKeyRef(nullptr);
+    };
+    NSNotificationCenter::defaultCenter()->addObserverSelectorNameObject(&observer, forget, LMHotKeysDidGo);
+}
+
 } // namespace
 
 void KTXHotKey::initialize()
@@ -29,6 +41,7 @@ void KTXHotKey::initialize()
         return;
     setHotKeyHandler();
     registry().clear();
+    forgetLostHotKeys();
     isInitialized = true;
 }
 
@@ -82,6 +95,11 @@ void KTXHotKey::unregisterAllHotkeys()
     for (const auto &hotKey : snapshot)
         hotKey->unregisterAsHotKey();
     assignedHotKeys().clear();
+}
+
+KTXHotKey::KTXHotKey()
+{
+    initialize();
 }
 
 bool KTXHotKey::init()

@@ -6,6 +6,7 @@
 #include <QString>
 #include <atomic>
 #include <memory>
+#include <utility>
 #include <vector>
 
 /// Posted on the process's local centre when a hot key is pressed; the object is the KTXHotKey, as a pointer.
@@ -27,7 +28,7 @@ public:
     /// The number of the registration that only tries whether a combination is free.
     static constexpr quint32 probeID = 9999;
 
-    /// Installs the handler and makes the list, once. The other operations of the class call it first.
+    /// Installs the handler and makes the list, once. Whatever is asked of the class first calls it.
     static void initialize();
     /// The hot keys that exist for the system to name; the list owns them.
     static List &assignedHotKeys();
@@ -40,7 +41,7 @@ public:
     /// Unregisters all and empties the list.
     static void unregisterAllHotkeys();
 
-    KTXHotKey() = default;
+    KTXHotKey();
     /// Lets the reference go, but leaves the combination registered.
     ~KTXHotKey() = default;
     KTXHotKey(const KTXHotKey &) = delete;
@@ -59,7 +60,7 @@ public:
     bool keyWasReleased() const { return keyWasReleased_; }
     EventHotKeyID hotKeyID() const { return hotKeyID_; }
     void setHotKeyID(EventHotKeyID hotKeyID) { hotKeyID_ = hotKeyID; }
-    /// Present exactly while the hot key is registered.
+    /// Present exactly while the hot key is registered; absent once the X server has gone.
     std::shared_ptr<const NSValue> hotKeyRef() const { return hotKeyRef_.load(); }
     void setHotKeyRef(std::shared_ptr<const NSValue> hotKeyRef) { hotKeyRef_.store(std::move(hotKeyRef)); }
 

@@ -60,6 +60,9 @@ void Agent::observePane()
 
 void Agent::readSettings()
 {
+    // Its keys are another agent's already.
+    if (hasEnded_)
+        return;
     settings_ = effectiveSettings(NSUserDefaults::standardUserDefaults()->persistentDomainForName(KTXLMAppID));
     hotKeys_.apply(settings_);
     ++readings_;

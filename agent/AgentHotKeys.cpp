@@ -6,6 +6,7 @@
 #include "platform/foundation/Description.h"
 #include "platform/foundation/NSLog.h"
 #include "platform/foundation/NSNotificationCenter.h"
+#include "platform/foundation/VirtualKeyCodes.h"
 
 #include <algorithm>
 #include <utility>
@@ -30,43 +31,62 @@ void AgentHotKeys::apply(const QVariantMap &settings)
 {
     const auto modifiers = quint32(settings.value(KTXModifierMask).toUInt());
     for (ActionKey &key : keys_)
-        change(key, quint32(intValue(settings.value(key.action).toMap().value(KTXKeycode))), modifiers);
-    if (modifiers == 0 && !std::exchange(saidNoModifiers_, true))
-        NSLog(QStringLiteral("lumaroo: agent: no modifiers are chosen, so no key is registered"));
-    if (modifiers == 0)
-        return;
-    saidNoModifiers_ = false;
+        give(key, intValue(settings.value(key.action).toMap().value(KTXKeycode)), modifiers);
     // Only now, so that two actions can exchange their keys.
     for (ActionKey &key : keys_)
         registerKey(key);
+    if (modifiers == 0 && !saidNoModifiers_)
+        NSLog(QStringLiteral("lumaroo: agent: no modifiers are chosen, so no key is registered"));
+    saidNoModifiers_ = modifiers == 0;
 }
 
-void AgentHotKeys::change(ActionKey &key, quint32 keyCode, quint32 modifiers)
+void AgentHotKeys::give(ActionKey &key, int keyCode, quint32 modifiers)
 {
-    if (key.hotKey->keycode() == keyCode && key.hotKey->modifiers() == modifiers)
-        return;
-    key.hotKey->unregisterAsHotKey();
-    key.hotKey->setKeycode(keyCode);
+    const bool isChanged = key.hotKey->keycode() != quint32(keyCode) || key.hotKey->modifiers() != modifiers;
+    key.hotKey->setKeycode(quint32(keyCode));
     key.hotKey->setModifiers(modifiers);
-    key.status = noErr;
+    if (isChanged || isAnotherActions(key)) {
+        key.hotKey->unregisterAsHotKey();
+        key.refusal = Refusal::GivenUp;
+    }
 }
 
 void AgentHotKeys::registerKey(ActionKey &key)
 {
+    // What a change of the keyboard has made impossible stays registered, and comes back with the next one.
     if (key.hotKey->isHotKeyRegistered())
         return;
-    const OSStatus before = std::exchange(key.status, key.hotKey->registerAsHotKey());
-    // Where there are no hot keys at all, that has been said once for all of them.
-    if (key.status != noErr && key.status != before && key.status != eventInternalErr) {
+    const Refusal before = std::exchange(key.refusal, registration(key));
+    // Where no key can be registered, that has been said once for all of them.
+    const bool isOfThisKey =
+        key.refusal != Refusal::None && key.refusal != Refusal::NoModifiers && key.refusal != Refusal::NoHotKeys;
+    if (isOfThisKey && key.refusal != before) {
         NSLog(QStringLiteral("lumaroo: agent: %1 (%2) is not registered: %3")
-                  .arg(key.hotKey->description(), key.action, refusal(key)));
+                  .arg(key.hotKey->description(), key.action, text(key.refusal)));
     }
+}
+
+AgentHotKeys::Refusal AgentHotKeys::registration(const ActionKey &key) const
+{
+    if (key.hotKey->modifiers() == 0)
+        return Refusal::NoModifiers;
+    return isAnotherActions(key) ? Refusal::OtherAction : refusalOf(key.hotKey->registerAsHotKey());
+}
+
+/// Whether an action before it has the same key.
+bool AgentHotKeys::isAnotherActions(const ActionKey &key) const
+{
+    const auto pressedKey = [](const ActionKey &one) { return pressedKeyCode(quint16(one.hotKey->keycode())); };
+    return std::any_of(keys_.cbegin(), keys_.cbegin() + (&key - keys_.constData()),
+        [&](const ActionKey &before) { return pressedKey(before) == pressedKey(key); });
 }
 
 void AgentHotKeys::release()
 {
-    for (ActionKey &key : keys_)
+    for (ActionKey &key : keys_) {
         key.hotKey->unregisterAsHotKey();
+        key.refusal = Refusal::GivenUp;
+    }
 }
 
 void AgentHotKeys::handlePress(const QVariant &hotKey)
@@ -79,35 +99,56 @@ void AgentHotKeys::handlePress(const QVariant &hotKey)
 
 void AgentHotKeys::handleLoss()
 {
-    release();
     for (ActionKey &key : keys_)
-        key.status = eventInternalErr;
+        key.refusal = Refusal::NoHotKeys;
 }
 
 QList<AgentHotKey> AgentHotKeys::hotKeys() const
 {
     QList<AgentHotKey> hotKeys;
     for (const ActionKey &key : keys_)
-        hotKeys.append({key.action, key.hotKey->keycode(), key.hotKey->description(), refusal(key)});
+        hotKeys.append({key.action, int(key.hotKey->keycode()), key.hotKey->description(), text(refusalNow(key))});
     return hotKeys;
 }
 
-bool AgentHotKeys::isDuplicate(const ActionKey &key) const
+AgentHotKeys::Refusal AgentHotKeys::refusalOf(OSStatus status)
 {
-    return std::any_of(keys_.cbegin(), keys_.cend(),
-        [&key](const ActionKey &other) { return &other != &key && other.hotKey->keycode() == key.hotKey->keycode(); });
+    switch (status) {
+    case noErr:
+        return Refusal::None;
+    case eventHotKeyExistsErr:
+        return Refusal::OtherProgram;
+    case paramErr:
+        return Refusal::NoKey;
+    default:
+        return Refusal::NoHotKeys;
+    }
 }
 
-QString AgentHotKeys::refusal(const ActionKey &key) const
+/// What is registered may have become impossible with a change of the keyboard.
+AgentHotKeys::Refusal AgentHotKeys::refusalNow(const ActionKey &key)
 {
-    if (key.hotKey->isHotKeyRegistered())
+    const auto reference = key.hotKey->hotKeyRef();
+    return reference ? refusalOf(LMHotKeyStatus(static_cast<EventHotKeyRef>(reference->pointerValue))) : key.refusal;
+}
+
+QString AgentHotKeys::text(Refusal refusal)
+{
+    switch (refusal) {
+    case Refusal::None:
         return {};
-    if (key.hotKey->modifiers() == 0)
+    case Refusal::NoModifiers:
         return QStringLiteral("no modifiers are chosen");
-    if (key.status == eventHotKeyExistsErr)
-        return isDuplicate(key) ? QStringLiteral("another action has the same key")
-                                : QStringLiteral("another program holds it");
-    if (key.status == paramErr)
+    case Refusal::OtherAction:
+        return QStringLiteral("another action has the same key");
+    case Refusal::OtherProgram:
+        return QStringLiteral("another program holds it");
+    case Refusal::NoKey:
         return QStringLiteral("the keyboard has no such key");
-    return QStringLiteral("there are no hot keys in this session");
+    case Refusal::NoHotKeys:
+        return QStringLiteral("there are no hot keys in this session");
+    case Refusal::GivenUp:
+        return QStringLiteral("it has been given up");
+    }
+    return {};
 }

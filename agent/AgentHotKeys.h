@@ -13,12 +13,12 @@ class KTXHotKey;
 struct AgentHotKey
 {
     QString action; ///< the name under which its key is stored
-    quint32 keyCode = 0;
+    int keyCode = 0;
     QString combination; ///< glyphs of the modifiers and the key's name
     QString refusal; ///< why it is not registered; empty where it is
 };
 
-/// The keys of the agent's actions, as hot keys of the system.
+/// The keys of the agent's actions, as hot keys of the system. All hot keys of the process are these.
 class AgentHotKeys : public QObject
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ public:
     ~AgentHotKeys() override;
 
     /// Follows the settings: gives up what has changed, then registers what is not registered. A key that was refused
-    /// is tried again. Each new refusal is logged.
+    /// is tried again; of two actions with the same key the first has it. Each new refusal is logged.
     void apply(const QVariantMap &settings);
     /// Gives all of them up, until they are applied again.
     void release();
@@ -40,19 +40,24 @@ Q_SIGNALS:
     void pressed(const QString &action, const QString &combination);
 
 private:
+    /// Why a key is not registered.
+    enum class Refusal { None, NoModifiers, OtherAction, OtherProgram, NoKey, NoHotKeys, GivenUp };
     struct ActionKey
     {
         QString action;
         std::shared_ptr<KTXHotKey> hotKey;
-        OSStatus status = 0; ///< of the last attempt
+        Refusal refusal = Refusal::GivenUp; ///< as of the last attempt
     };
 
-    void change(ActionKey &key, quint32 keyCode, quint32 modifiers);
+    void give(ActionKey &key, int keyCode, quint32 modifiers);
     void registerKey(ActionKey &key);
+    Refusal registration(const ActionKey &key) const;
+    bool isAnotherActions(const ActionKey &key) const;
     void handlePress(const QVariant &hotKey);
     void handleLoss();
-    bool isDuplicate(const ActionKey &key) const;
-    QString refusal(const ActionKey &key) const;
+    static Refusal refusalOf(OSStatus status);
+    static Refusal refusalNow(const ActionKey &key);
+    static QString text(Refusal refusal);
 
     QList<ActionKey> keys_;
     bool saidNoModifiers_ = false;

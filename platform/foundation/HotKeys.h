@@ -11,7 +11,9 @@
 //
 // Behind them stand passive grabs of the X server. They answer a press only: no release, no auto-repeat, and whatever
 // Caps Lock, Num Lock, Scroll Lock and the layout's group are. They follow the keyboard when its layout or its
-// modifiers change. While another program holds the whole keyboard (an open menu, a locked screen) no press comes.
+// modifiers change; LMHotKeyStatus() tells which one the keyboard cannot give any more. While another program holds the
+// whole keyboard (an open menu, a locked screen) no press comes. When a press is delivered the keyboard is free again,
+// so a key that is held longer than its modifiers types into the program with the focus.
 //
 // When the X server goes, every registration is gone with it: one line is logged, LMHotKeysDidGo is posted, and the
 // references are stale.
@@ -101,6 +103,11 @@ LM_FOUNDATION OSStatus GetEventParameter(EventRef event, quint32 name, quint32 d
 /// Only with noErr is `hotKeyRef` written to.
 LM_FOUNDATION OSStatus RegisterEventHotKey(quint32 keyCode, quint32 modifiers, EventHotKeyID hotKeyID,
     EventTargetRef target, quint32 options, EventHotKeyRef *hotKeyRef);
+
+/// Whether a registration works now: noErr; paramErr while the changed keyboard lacks its key or modifier;
+/// eventHotKeyExistsErr while, since such a change, another registration or program has the combination. In both cases
+/// it is tried again with the next change. eventHotKeyInvalidErr for a null or stale reference.
+LM_FOUNDATION OSStatus LMHotKeyStatus(EventHotKeyRef hotKeyRef);
 
 /// Gives a combination back; when it returns, other programs can have it.
 ///

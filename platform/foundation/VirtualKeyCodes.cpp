@@ -9,17 +9,18 @@ struct Alias
 {
     quint16 evdev;
     quint16 code;
+    const char *xkbName; ///< empty for what no keyboard of the X server has
 };
 
 // Keys of this desktop that stand where a code's own key is missing.
 constexpr std::array aliases{
-    Alias{355, 71},
-    Alias{95, 95},
-    Alias{99, 105},
-    Alias{210, 105},
-    Alias{70, 107},
-    Alias{119, 113},
-    Alias{138, 114},
+    Alias{355, 71, ""},
+    Alias{95, 95, "JPCM"},
+    Alias{99, 105, "PRSC"},
+    Alias{210, 105, "I218"},
+    Alias{70, 107, "SCLK"},
+    Alias{119, 113, "PAUS"},
+    Alias{138, 114, "HELP"},
 };
 
 constexpr VirtualKey keys[]{
@@ -179,12 +180,22 @@ std::optional<quint16> virtualKeyCodeForEvdev(quint32 evdev)
     return std::nullopt;
 }
 
-QList<quint16> aliasEvdevsOf(quint16 code)
+quint16 pressedKeyCode(quint16 code)
 {
-    QList<quint16> evdevs;
+    constexpr quint16 otherEnter = 52, enter = 76;
+    return code == otherEnter ? enter : code;
+}
+
+QList<PhysicalKey> physicalKeysOf(quint16 code)
+{
+    const quint16 pressed = pressedKeyCode(code);
+    QList<PhysicalKey> found;
+    const VirtualKey *key = virtualKey(pressed);
+    if (key && key->evdev != 0)
+        found.append({key->evdev, key->xkbName});
     for (const Alias &alias : aliases) {
-        if (alias.code == code)
-            evdevs.append(alias.evdev);
+        if (alias.code == pressed)
+            found.append({alias.evdev, alias.xkbName});
     }
-    return evdevs;
+    return found;
 }

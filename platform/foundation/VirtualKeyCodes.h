@@ -23,5 +23,16 @@ LM_FOUNDATION std::span<const VirtualKey> virtualKeys();
 LM_FOUNDATION const VirtualKey *virtualKey(quint16 code);
 /// The virtual key code of a kernel key code, aliases included (Print Screen counts as 105 ...).
 LM_FOUNDATION std::optional<quint16> virtualKeyCodeForEvdev(quint32 evdev);
-/// The kernel key codes of the keys that count as a virtual key code beside its own (Print Screen for 105 ...).
-LM_FOUNDATION QList<quint16> aliasEvdevsOf(quint16 code);
+
+/// A key of this desktop.
+struct PhysicalKey
+{
+    quint16 evdev; ///< kernel key code
+    const char *xkbName;
+};
+
+/// The keys that count as a virtual key code: its own first, then those that stand in for it (Print Screen for 105
+/// ...). None for a code that no key has. 52 is kept as it is stored, but its key is that of 76, the keypad's Enter.
+LM_FOUNDATION QList<PhysicalKey> physicalKeysOf(quint16 code);
+/// The code whose keys a code has: 76 for 52, else itself.
+LM_FOUNDATION quint16 pressedKeyCode(quint16 code);

@@ -34,13 +34,7 @@ public:
         return KTXHotKey::createWithKeyCodeAndModifiers(keyCode, modifiers);
     }
     static size_t count() { return KTXHotKey::assignedHotKeys().size(); }
-    bool isHeld(int evdev, quint16 modifiers = serverControl)
-    {
-        const bool isFree = other.grabKey(evdev, modifiers);
-        if (isFree)
-            other.ungrabKey(evdev, modifiers);
-        return !isFree;
-    }
+    bool isHeld(int evdev, quint16 modifiers = serverControl) { return other.isHeldElsewhere(evdev, modifiers); }
     /// Waits for the next notification; the hot key that it is of.
     KTXHotKey *next()
     {
@@ -316,6 +310,56 @@ TEST_F(HotKey, handlerLooksUpBeforeItAsksWhetherTheEventHadANumber)
     created(A);
     EXPECT_EQ(KTXHotKeyHandler(nullptr, nullptr, nullptr), paramErr);
     EXPECT_TRUE(posted.isEmpty());
+}
+
+TEST_F(HotKey, ownerMayRegisterUnregisterAndWaitWhileItIsToldOfAPress)
+{
+    const auto first = created(A);
+    const auto second = created(S);
+    first->registerAsHotKey();
+    NSNotificationCenter::defaultCenter()->addObserverSelectorNameObject(
+        &observer,
+        [&](const NSNotification &one) {
+            if (one.object.value<KTXHotKey *>() != first.get())
+                return;
+            first->unregisterAsHotKey();
+            EXPECT_EQ(second->registerAsHotKey(), noErr);
+            pressKey(KEY_S, {KEY_LEFTCTRL});
+            EXPECT_TRUE(waitUntil([this] { return posted.size() == 2; }));
+        },
+        KTXHotKeyPressed);
+    pressKey(KEY_A, {KEY_LEFTCTRL});
+    pressKey(KEY_A, {KEY_LEFTCTRL});
+    ASSERT_TRUE(waitUntil([this] { return posted.size() == 2; }));
+    EXPECT_EQ(next(), first.get());
+    EXPECT_EQ(next(), second.get());
+    EXPECT_FALSE(isHeld(KEY_A));
+}
+
+TEST_F(HotKey, namesItselfToTheSystemByTheClassesSignatureAndItsPlace)
+{
+    static EventHotKeyID named;
+    const EventTypeSpec press{kEventClassKeyboard, kEventHotKeyPressed};
+    const auto look = [](EventHandlerCallRef, EventRef event, void *) -> OSStatus {
+        GetEventParameter(event, kEventParamDirectObject, typeEventHotKeyID, nullptr, sizeof named, nullptr, &named);
+        return eventNotHandledErr;
+    };
+    created(A);
+    created(S)->registerAsHotKey();
+    ASSERT_EQ(InstallEventHandler(GetApplicationEventTarget(), look, 1, &press, nullptr, nullptr), noErr);
+    pressKey(KEY_S, {KEY_LEFTCTRL});
+    next();
+    EXPECT_EQ(named, (EventHotKeyID{0x4B54586B, 1}));
+}
+
+TEST_F(HotKey, madeByItselfHasTheHandlerToo)
+{
+    KTXHotKey hotKey;
+    hotKey.init();
+    EXPECT_EQ(hotKey.hotKeyID(), EventHotKeyID());
+    EXPECT_EQ(hotKey.registerAsHotKey(), noErr);
+    hotKey.unregisterAsHotKey();
+    EXPECT_THROW(KTXHotKey::setHotKeyHandler(), AssertionFailure);
 }
 
 TEST_F(HotKey, handlerDoesNotLookAtTheSignature)

@@ -56,6 +56,19 @@ TEST(LostDisplay, endsEveryRegistrationWithOneLoggedLine)
     EXPECT_TRUE(log.lines().last().contains("there is no X server"));
 }
 
+TEST(LostDisplay, leavesHotKeyObjectsUnregistered)
+{
+    SecondDisplay display;
+    const Variable variable("DISPLAY", display.name());
+    const auto hotKey = KTXHotKey::createWithKeyCodeAndModifiers(A, controlKey);
+    ASSERT_EQ(hotKey->registerAsHotKey(), noErr);
+    CapturedLog log;
+    display.end();
+    EXPECT_TRUE(waitUntil([&] { return !hotKey->isHotKeyRegistered(); }));
+    EXPECT_FALSE(hotKey->setToKeyCodeWithModifiersForceChanges(A, controlKey, false));
+    KTXHotKey::unregisterAllHotkeys();
+}
+
 TEST(LostDisplay, isNoticedByARegistrationThatComesFirst)
 {
     SecondDisplay display;
@@ -80,6 +93,7 @@ TEST(LostDisplay, isNoticedByGivingUpThatComesFirst)
     display.end();
     EXPECT_EQ(UnregisterEventHotKey(reference), noErr);
     EXPECT_TRUE(waitUntil([&] { return !log.linesContaining("the X server has gone").isEmpty(); }));
+    EXPECT_EQ(log.lines().size(), 1);
 }
 
 TEST(LostDisplay, isForgottenWhereAnotherServerIs)

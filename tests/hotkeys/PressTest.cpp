@@ -126,6 +126,23 @@ TEST_F(Press, countsWhateverTheLockKeysAre)
     }
 }
 
+TEST_F(Press, countsWithScrollLockOnAModifierOfItsOwn)
+{
+    const auto before = other.modifierKeys();
+    const auto restore = qScopeGuard([&] { other.setModifierKeys(before); });
+    QList<QList<int>> keys = before;
+    constexpr int mod3 = 5; // after Shift, Lock, Control, Mod1 and Mod2
+    keys[mod3] = {KEY_SCROLLLOCK + evdevToX11};
+    other.setModifierKeys(keys);
+    ASSERT_EQ(add(A, controlKey), noErr);
+    EXPECT_TRUE(waitUntil([this] { return other.isHeldElsewhere(KEY_A, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_3); }));
+    pressKey(KEY_SCROLLLOCK);
+    pressKey(KEY_A, {KEY_LEFTCTRL});
+    pressKey(KEY_SCROLLLOCK);
+    pressKey(KEY_A, {KEY_LEFTCTRL});
+    EXPECT_EQ(pressed(), (QList<quint32>{1, 1}));
+}
+
 TEST_F(Press, countsInEveryGroupOfTheLayout)
 {
     const auto reset = qScopeGuard([] { setKeyboardLayout("us"); });
@@ -195,6 +212,61 @@ TEST_F(Press, ofAKeyThatWasDownBeforeItBecameAHotKeyDoesNotCount)
     EXPECT_EQ(pressed(), QList<quint32>{1});
     keyUp(KEY_A);
     keyUp(KEY_LEFTCTRL);
+}
+
+TEST_F(Press, ofAKeyThatRepeatsWhenItsModifierIsPressedDoesNotCount)
+{
+    ASSERT_EQ(add(A, controlKey), noErr);
+    keyDown(KEY_A);
+    EXPECT_TRUE(waitUntil([this] { return other.pressedKeys().count(KEY_A) > 3; }));
+    keyDown(KEY_LEFTCTRL);
+    waitForRepeats();
+    keyUp(KEY_A);
+    EXPECT_TRUE(pressed().isEmpty());
+    pressKey(KEY_A);
+    EXPECT_EQ(pressed(), QList<quint32>{1});
+    keyUp(KEY_LEFTCTRL);
+}
+
+TEST_F(Press, thatWaitsWhileAnotherCombinationOfItsKeyIsRegisteredCounts)
+{
+    ASSERT_EQ(add(A, controlKey, 1), noErr);
+    keyDown(KEY_LEFTCTRL);
+    keyDown(KEY_A);
+    ASSERT_EQ(add(A, shiftKey, 2), noErr);
+    ASSERT_EQ(UnregisterEventHotKey(last()), noErr);
+    EXPECT_EQ(pressed(), QList<quint32>{1});
+    keyUp(KEY_A);
+    keyUp(KEY_LEFTCTRL);
+    pressKey(KEY_A, {KEY_LEFTCTRL});
+    EXPECT_EQ(pressed(), QList<quint32>{1});
+}
+
+TEST_F(Press, isDeliveredWhileItIsHeldWhateverCameJustBefore)
+{
+    ASSERT_EQ(add(A, controlKey), noErr);
+    keyDown(KEY_LEFTCTRL);
+    for (int press = 0; press < 300; ++press) {
+        keyDown(KEY_A);
+        ASSERT_TRUE(waitForPresses(press + 1)) << press;
+        keyUp(KEY_A);
+        // At different times after the release.
+        for (int time = 0; time < press % 7; ++time)
+            other.serverTime();
+    }
+    keyUp(KEY_LEFTCTRL);
+}
+
+TEST_F(Press, heldLongerThanItsModifiersTypesIntoTheProgramWithTheFocus)
+{
+    ASSERT_EQ(add(A, controlKey), noErr);
+    keyDown(KEY_LEFTCTRL);
+    keyDown(KEY_A);
+    ASSERT_TRUE(waitForPresses(1));
+    keyUp(KEY_LEFTCTRL);
+    EXPECT_TRUE(waitUntil([this] { return other.pressedKeys().contains(KEY_A); }));
+    keyUp(KEY_A);
+    EXPECT_EQ(pressed(), QList<quint32>{1});
 }
 
 TEST_F(Press, ofTwoHotKeysAtOnceCountsBoth)

@@ -54,6 +54,11 @@ OSStatus HotKeySession::add(quint32 keyCode, quint32 modifiers, quint32 id, quin
     return status;
 }
 
+bool HotKeySession::waitForPresses(int count)
+{
+    return waitUntil([count] { return heard().size() >= count; });
+}
+
 QList<quint32> HotKeySession::pressed()
 {
     // One more press (of keys that every keyboard has in the same place), behind which nothing is left that was pressed

@@ -21,6 +21,8 @@ public:
 
     /// The ids of the hot keys that have been pressed since it was asked last, in order.
     QList<quint32> pressed();
+    /// Waits, without doing anything else, until so many presses have been heard since then.
+    bool waitForPresses(int count);
 
     OtherClient other;
 

@@ -1,7 +1,6 @@
 #include "OtherClient.h"
 
 #include "KeyPress.h"
-#include "platform/foundation/linux/X11.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -13,7 +12,7 @@ constexpr int modifierCount = 8;
 
 } // namespace
 
-OtherClient::OtherClient() : connection_(xcb_connect(nullptr, nullptr), &xcb_disconnect) { }
+OtherClient::OtherClient() : connection_(connectToXServer()) { }
 
 xcb_window_t OtherClient::rootOf(int screen) const
 {
@@ -34,6 +33,14 @@ void OtherClient::ungrabKey(int evdevCode, quint16 modifiers)
 {
     const auto ungrab = xcb_ungrab_key_checked(connection_.get(), quint8(evdevCode + evdevToX11), rootOf(0), modifiers);
     EXPECT_FALSE(fromServer(xcb_request_check(connection_.get(), ungrab)));
+}
+
+bool OtherClient::isHeldElsewhere(int evdevCode, quint16 modifiers)
+{
+    const bool isFree = grabKey(evdevCode, modifiers);
+    if (isFree)
+        ungrabKey(evdevCode, modifiers);
+    return !isFree;
 }
 
 bool OtherClient::grabKeyboard()

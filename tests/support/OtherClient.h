@@ -1,8 +1,8 @@
 #pragma once
 
+#include "platform/foundation/linux/X11.h"
+
 #include <QList>
-#include <memory>
-#include <xcb/xcb.h>
 
 /// Another program, as the X server sees it: a connection of its own. Keys are kernel (evdev) codes, modifiers are
 /// masks of the server.
@@ -16,6 +16,8 @@ public:
     /// On the first screen; false when somebody else holds it.
     bool grabKey(int evdevCode, quint16 modifiers);
     void ungrabKey(int evdevCode, quint16 modifiers);
+    /// Whether somebody else holds it.
+    bool isHeldElsewhere(int evdevCode, quint16 modifiers);
     /// The whole keyboard, as an open menu does; false when somebody else holds it.
     bool grabKeyboard();
     void ungrabKeyboard();
@@ -41,7 +43,7 @@ private:
     xcb_window_t rootOf(int screen) const;
     void takeEvents();
 
-    std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> connection_;
+    XConnection connection_;
     QList<int> pressedKeys_;
     xcb_window_t window_ = 0;
     quint32 lastTime_ = 0;

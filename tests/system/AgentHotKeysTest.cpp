@@ -65,13 +65,7 @@ protected:
         return std::count_if(
             all.begin(), all.end(), [](const QJsonValue &one) { return one.toObject().value("registered").toBool(); });
     }
-    bool isHeld(int evdev, quint16 modifiers = controlAndAlt)
-    {
-        const bool isFree = other.grabKey(evdev, modifiers);
-        if (isFree)
-            other.ungrabKey(evdev, modifiers);
-        return !isFree;
-    }
+    bool isHeld(int evdev, quint16 modifiers = controlAndAlt) { return other.isHeldElsewhere(evdev, modifiers); }
     /// Whether standard error comes to hold exactly this.
     bool says(const QString &errors) const
     {
@@ -177,6 +171,12 @@ TEST_F(AgentHotKeys, ofTwoActionsWithOneKeyAreTheFirstOnes)
     change({{KTXScreenshotPref, key(126)}, {KTXUpPref, key(11)}});
     EXPECT_TRUE(isRegistered(KTXScreenshotPref));
     EXPECT_TRUE(isRegistered(KTXUpPref));
+    // Also when the later action had it before.
+    change({{KTXScreenshotPref, key(126)}});
+    EXPECT_EQ(refusal(KTXScreenshotPref), "another action has the same key");
+    EXPECT_TRUE(isRegistered(KTXUpPref));
+    change({{KTXUpPref, key(76)}, {KTXDownPref, key(52)}});
+    EXPECT_EQ(refusal(KTXDownPref), "another action has the same key");
 }
 
 TEST_F(AgentHotKeys, withoutModifiersAreNoneAndThatIsSaidOnce)
@@ -203,6 +203,21 @@ TEST_F(AgentHotKeys, thatNoKeyBearsAreRefused)
     for (const QString &action : {KTXUpPref, KTXDownPref, KTXLeftPref})
         EXPECT_EQ(refusal(action), "the keyboard has no such key") << action.toStdString();
     EXPECT_EQ(registeredCount(), KTXActionKeyCount - 3);
+}
+
+TEST_F(AgentHotKeys, whoseModifierTheKeyboardLosesAreToldAndComeBackWithIt)
+{
+    start();
+    const QList<QList<int>> before = other.modifierKeys();
+    QList<QList<int>> keys = before;
+    constexpr int mod1 = 3; // after Shift, Lock and Control
+    keys[mod1].clear();
+    other.setModifierKeys(keys);
+    EXPECT_TRUE(waitUntil([] { return registeredCount() == 0; }));
+    EXPECT_EQ(refusal(KTXUpPref), "the keyboard has no such key");
+    change({});
+    other.setModifierKeys(before);
+    EXPECT_TRUE(waitUntil([] { return registeredCount() == KTXActionKeyCount; }));
 }
 
 TEST_F(AgentHotKeys, withoutAnEntryTakeTheDefaultKey)

@@ -1,22 +1,16 @@
 #include "platform/foundation/linux/HotKeyConnection.h"
 
-#include <QString>
 #include <algorithm>
-#include <functional>
-#include <utility>
 #include <xcb/xinput.h>
 
 namespace {
 
-constexpr quint16 keyboardEvents = XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY;
+constexpr quint16 keyboardEvents =
+    XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY | XCB_XKB_EVENT_TYPE_STATE_NOTIFY;
 constexpr quint16 mapParts = XCB_XKB_MAP_PART_KEY_SYMS | XCB_XKB_MAP_PART_MODIFIER_MAP;
+constexpr quint16 realModifiers = 0xff; // in a key event, buttons and the layout's group stand beside them
 // The first in which a grab does not hide raw events.
 constexpr quint16 inputMajor = 2, inputMinor = 1;
-
-bool isDown(const xcb_query_keymap_reply_t *held, quint8 keycode)
-{
-    return held->keys[keycode / 8] & (1 << (keycode % 8));
-}
 
 } // namespace
 
@@ -32,7 +26,9 @@ std::unique_ptr<HotKeyConnection> HotKeyConnection::open(QString *failure)
         keys->roots_.push_back(screen.data->root);
     if (keys->startKeyboardEvents() && keys->startRawEvents())
         return keys;
-    *failure = QStringLiteral("the X server lacks the keyboard extension, or version 2.1 of the input extension");
+    *failure = keys->isLost()
+        ? QStringLiteral("the X server has gone")
+        : QStringLiteral("the X server lacks the keyboard extension, or version 2.1 of the input extension");
     return nullptr;
 }
 
@@ -49,6 +45,7 @@ bool HotKeyConnection::startKeyboardEvents()
         xcb_xkb_per_client_flags(server, XCB_XKB_ID_USE_CORE_KBD, detectableRepeat, detectableRepeat, 0, 0, 0);
     xcb_xkb_select_events_details_t details{};
     details.affectNewKeyboard = details.newKeyboardDetails = XCB_XKB_NKN_DETAIL_KEYCODES | XCB_XKB_NKN_DETAIL_DEVICE_ID;
+    details.affectState = details.stateDetails = XCB_XKB_STATE_PART_MODIFIER_STATE;
     const auto select = xcb_xkb_select_events_aux_checked(
         server, XCB_XKB_ID_USE_CORE_KBD, keyboardEvents, 0, 0, mapParts, mapParts, &details);
     return fromServer(xcb_xkb_per_client_flags_reply(server, flags, nullptr))
@@ -78,130 +75,199 @@ void HotKeyConnection::watchReleases(bool watch)
     xcb_flush(connection_.get());
 }
 
+void HotKeyConnection::wait()
+{
+    fromServer(xcb_get_input_focus_reply(connection_.get(), xcb_get_input_focus(connection_.get()), nullptr));
+    take(xcb_poll_for_queued_event);
+}
+
 std::optional<KeyboardMapping> HotKeyConnection::readKeyboard()
 {
     auto keyboard = readKeyboardMapping(connection_.get());
-    takeQueuedEvents();
+    take(xcb_poll_for_queued_event);
     return keyboard;
 }
 
-HotKeyConnection::HeldKeys HotKeyConnection::heldKeys()
+HotKeyConnection::HeldKeys HotKeyConnection::heldKeys(xcb_query_keymap_cookie_t asked)
 {
-    HeldKeys held = fromServer(xcb_query_keymap_reply(connection_.get(), xcb_query_keymap(connection_.get()), nullptr));
-    takeQueuedEvents();
+    HeldKeys held{fromServer(xcb_query_keymap_reply(connection_.get(), asked, nullptr)), asked.sequence};
+    take(xcb_poll_for_queued_event);
     return held;
+}
+
+std::vector<HotKeyConnection::GrabOnRoot> HotKeyConnection::onEveryRoot(const std::vector<KeyGrab> &grabs) const
+{
+    std::vector<GrabOnRoot> all;
+    for (const xcb_window_t root : roots_) {
+        for (const KeyGrab &grab : grabs)
+            all.push_back({grab, root});
+    }
+    return all;
 }
 
 bool HotKeyConnection::grab(const std::vector<KeyGrab> &grabs)
 {
-    std::vector<Request> requests;
-    for (const xcb_window_t root : roots_) {
-        for (const KeyGrab &grab : grabs)
-            requests.push_back({root, grab,
-                xcb_grab_key_checked(connection_.get(), false, root, grab.modifiers, grab.keycode, XCB_GRAB_MODE_ASYNC,
-                    XCB_GRAB_MODE_ASYNC)});
+    // All requests go together; the answers to the first and the last are waited for.
+    const auto before = xcb_query_keymap(connection_.get());
+    std::vector<GrabOnRoot> granted;
+    std::vector<std::pair<GrabOnRoot, xcb_void_cookie_t>> requests;
+    for (const GrabOnRoot &one : onEveryRoot(grabs)) {
+        requests.emplace_back(one,
+            xcb_grab_key_checked(connection_.get(), false, one.root, one.grab.modifiers, one.grab.keycode,
+                XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
     }
-    // The one answer that is waited for: it comes after all the others.
-    const HeldKeys held = heldKeys();
-    const auto isRefused = [this](const Request &request) {
-        return bool(fromServer(xcb_request_check(connection_.get(), request.cookie)));
-    };
-    const auto refused = std::stable_partition(requests.begin(), requests.end(), std::not_fn(isRefused));
-    const bool isGranted = refused == requests.end() && held;
-    requests.erase(refused, requests.end());
-    if (isGranted)
-        handleGrabbedWhileHeld(grabs, held);
-    else
-        ungrab(requests);
-    return isGranted;
-}
-
-/// A key that is down already when it becomes a hot key repeats, but is not pressed.
-void HotKeyConnection::handleGrabbedWhileHeld(const std::vector<KeyGrab> &grabs, const HeldKeys &held)
-{
-    for (const KeyGrab &grab : grabs) {
-        if (isDown(held.get(), grab.keycode) && !down_.contains(grab.keycode))
-            handlePress(grab.keycode);
+    wait();
+    const HeldKeys held = heldKeys(before);
+    for (const auto &[one, request] : requests) {
+        if (!fromServer(xcb_request_check(connection_.get(), request)))
+            granted.push_back(one);
     }
+    if (granted.size() < requests.size() || isLost()) {
+        ungrab(granted);
+        return false;
+    }
+    grabbed_.insert(grabs.cbegin(), grabs.cend());
+    noteHeldBefore(grabs, held);
+    return true;
 }
 
 void HotKeyConnection::ungrab(const std::vector<KeyGrab> &grabs)
 {
-    std::vector<Request> requests;
-    for (const xcb_window_t root : roots_) {
-        for (const KeyGrab &grab : grabs)
-            requests.push_back({root, grab, {}});
-    }
-    ungrab(requests);
+    for (const KeyGrab &grab : grabs)
+        grabbed_.erase(grab);
+    ungrab(onEveryRoot(grabs));
 }
 
-void HotKeyConnection::ungrab(const std::vector<Request> &requests)
+void HotKeyConnection::ungrab(const std::vector<GrabOnRoot> &grabs)
 {
-    for (const Request &request : requests)
-        xcb_ungrab_key(connection_.get(), request.grab.keycode, request.root, request.grab.modifiers);
-    heldKeys();
+    for (const GrabOnRoot &one : grabs)
+        xcb_ungrab_key(connection_.get(), one.grab.keycode, one.root, one.grab.modifiers);
+    wait();
+}
+
+bool HotKeyConnection::hasQueuedInput()
+{
+    take(xcb_poll_for_queued_event);
+    return !events_.empty();
 }
 
 std::optional<HotKeyInput> HotKeyConnection::nextInput()
 {
-    while (const auto event = fromServer(xcb_poll_for_event(connection_.get())))
-        take(event.get());
-    while (!queue_.empty()) {
-        const HotKeyInput input = queue_.front();
-        queue_.pop_front();
-        if (input.kind == HotKeyInput::Kind::Release)
-            handleRelease(input.keycode);
-        else if (input.kind == HotKeyInput::Kind::KeyboardChanged || handlePress(input.keycode))
-            return input;
+    for (;;) {
+        // Anew each time: what is written below may read events from the socket, which then tells of them no more.
+        take(xcb_poll_for_event);
+        if (events_.empty())
+            return std::nullopt;
+        const Event event = events_.front();
+        events_.pop_front();
+        switch (event.kind) {
+        case Event::Kind::Press:
+            if (isNewPress(event.key.keycode))
+                return HotKeyInput{HotKeyInput::Kind::Press, event.key};
+            break;
+        case Event::Kind::Release:
+            noteRelease(event.key.keycode);
+            break;
+        case Event::Kind::ModifiersChanged:
+            noteModifiers(event.key.modifiers);
+            break;
+        case Event::Kind::KeyboardChanged:
+            return HotKeyInput{HotKeyInput::Kind::KeyboardChanged, {}};
+        }
     }
-    return std::nullopt;
 }
 
-void HotKeyConnection::takeQueuedEvents()
+void HotKeyConnection::take(xcb_generic_event_t *(*poll)(xcb_connection_t *))
 {
-    while (const auto event = fromServer(xcb_poll_for_queued_event(connection_.get())))
+    while (const auto event = fromServer(poll(connection_.get())))
         take(event.get());
 }
 
 void HotKeyConnection::take(const xcb_generic_event_t *event)
 {
-    using Kind = HotKeyInput::Kind;
+    using Kind = Event::Kind;
     const quint8 type = event->response_type & eventTypeMask;
     if (type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE) {
         const auto *key = reinterpret_cast<const xcb_key_press_event_t *>(event);
-        constexpr quint16 modifiers = 0xff; // beside them stand buttons and the layout's group
-        queue_.push_back(
-            {type == XCB_KEY_PRESS ? Kind::Press : Kind::Release, key->detail, quint16(key->state & modifiers)});
+        events_.push_back({type == XCB_KEY_PRESS ? Kind::Press : Kind::Release,
+            {key->detail, quint16(key->state & realModifiers)}, event->full_sequence});
     } else if (type == XCB_GE_GENERIC) {
         const auto *raw = reinterpret_cast<const xcb_input_raw_key_release_event_t *>(event);
         if (raw->extension == rawEventExtension_ && raw->event_type == XCB_INPUT_RAW_KEY_RELEASE)
-            queue_.push_back({Kind::Release, quint8(raw->detail)});
+            events_.push_back({Kind::Release, {quint8(raw->detail), 0}});
     } else if (type == firstKeyboardEvent_) {
-        queue_.push_back({Kind::KeyboardChanged});
+        takeKeyboardEvent(event);
     }
 }
 
-/// Whether it is a press of its own and no repeat.
-bool HotKeyConnection::handlePress(quint8 keycode)
+void HotKeyConnection::takeKeyboardEvent(const xcb_generic_event_t *event)
 {
-    xcb_ungrab_keyboard(connection_.get(), XCB_CURRENT_TIME);
-    if (down_.contains(keycode)) {
-        xcb_flush(connection_.get());
-        return false;
+    if (event->pad0 != XCB_XKB_STATE_NOTIFY) {
+        events_.push_back({Event::Kind::KeyboardChanged, {}});
+        return;
     }
+    const auto *state = reinterpret_cast<const xcb_xkb_state_notify_event_t *>(event);
+    events_.push_back({Event::Kind::ModifiersChanged, {0, state->mods}});
+}
+
+bool HotKeyConnection::isNewPress(quint8 keycode)
+{
+    if (!down_.contains(keycode)) {
+        noteDown(keycode);
+        return true;
+    }
+    // A repeat grabs the keyboard, too.
+    xcb_ungrab_keyboard(connection_.get(), XCB_CURRENT_TIME);
+    xcb_flush(connection_.get());
+    return false;
+}
+
+/// Lets the keyboard go and sees to it that the release is told: while the keyboard is grabbed as a key event, then as
+/// a raw one.
+void HotKeyConnection::noteDown(quint8 keycode)
+{
     if (down_.empty())
         watchReleases(true);
     down_.insert(keycode);
-    // With this answer the keyboard is free. A release before this cannot be among the raw events, unlike one after it;
-    // it counts after everything that has come in before.
+    xcb_ungrab_keyboard(connection_.get(), XCB_CURRENT_TIME);
+    // With this answer the keyboard is free. What was released before raw events came counts as released after all that
+    // has come in.
     const HeldKeys held = heldKeys();
-    if (held && !isDown(held.get(), keycode))
-        queue_.push_back({HotKeyInput::Kind::Release, keycode});
-    return true;
+    if (!held.contains(keycode))
+        events_.push_back({Event::Kind::Release, {keycode, 0}});
 }
 
-void HotKeyConnection::handleRelease(quint8 keycode)
+void HotKeyConnection::noteRelease(quint8 keycode)
 {
     if (down_.erase(keycode) && down_.empty())
         watchReleases(false);
+}
+
+/// A key that repeats becomes a hot key with the modifiers that are pressed while it is down. It is not pressed, then.
+void HotKeyConnection::noteModifiers(quint16 modifiers)
+{
+    std::vector<KeyGrab> grabs;
+    std::copy_if(grabbed_.cbegin(), grabbed_.cend(), std::back_inserter(grabs),
+        [modifiers](const KeyGrab &grab) { return grab.modifiers == modifiers; });
+    if (!grabs.empty())
+        noteHeldBefore(grabs, heldKeys());
+}
+
+/// Takes note of keys that were down, but not pressed as hot keys. One whose press has come in is pressed.
+void HotKeyConnection::noteHeldBefore(const std::vector<KeyGrab> &grabs, const HeldKeys &held)
+{
+    for (const KeyGrab &grab : grabs) {
+        const quint8 keycode = grab.keycode;
+        if (held.contains(keycode) && !down_.contains(keycode) && !isPressPending(keycode, held.sequence))
+            noteDown(keycode);
+    }
+}
+
+/// Whether a press is still to be handled that came before the server got to a request.
+bool HotKeyConnection::isPressPending(quint8 keycode, quint32 sequence) const
+{
+    return std::any_of(events_.cbegin(), events_.cend(), [keycode, sequence](const Event &event) {
+        return event.kind == Event::Kind::Press && event.key.keycode == keycode
+            && qint32(event.sequence - sequence) < 0;
+    });
 }

@@ -2,17 +2,19 @@
 
 #include "platform/foundation/linux/HotKeyGrabs.h"
 
+#include <QString>
 #include <deque>
+#include <memory>
 #include <optional>
 #include <set>
+#include <utility>
 #include <vector>
 
 /// What a connection for hot keys tells.
 struct HotKeyInput
 {
-    enum class Kind { Press, Release, KeyboardChanged } kind;
-    quint8 keycode = 0;
-    quint16 modifiers = 0; ///< those of the press, lock keys included
+    enum class Kind { Press, KeyboardChanged } kind;
+    KeyGrab press; ///< the key with its modifiers, lock keys included
 };
 
 /// A connection to the X server that grabs keys, and tells presses from repeats.
@@ -38,35 +40,56 @@ public:
     /// The next press or change of the keyboard; no value when there is none now. At a press the keyboard is free
     /// again.
     std::optional<HotKeyInput> nextInput();
-    /// Whether something has come in while an answer was waited for.
-    bool hasQueuedInput() const { return !queue_.empty(); }
+    /// Whether something has come in while an answer was waited for, of which the socket tells no more.
+    bool hasQueuedInput();
 
 private:
-    struct Request
+    struct Event
     {
-        xcb_window_t root;
-        KeyGrab grab;
-        xcb_void_cookie_t cookie;
+        enum class Kind { Press, Release, ModifiersChanged, KeyboardChanged } kind;
+        KeyGrab key;
+        quint32 sequence = 0; ///< of the last request that the server had handled before
     };
-    using HeldKeys = FromServer<xcb_query_keymap_reply_t>;
+    struct GrabOnRoot
+    {
+        KeyGrab grab;
+        xcb_window_t root;
+    };
+    /// The keys that are down.
+    struct HeldKeys
+    {
+        FromServer<xcb_query_keymap_reply_t> keys;
+        quint32 sequence; ///< of the request that asked
+
+        bool contains(quint8 keycode) const { return keys && keys->keys[keycode / 8] & (1 << (keycode % 8)); }
+    };
 
     explicit HotKeyConnection(XConnection connection) : connection_(std::move(connection)) { }
     bool startKeyboardEvents();
     bool startRawEvents();
     void watchReleases(bool watch);
-    HeldKeys heldKeys();
-    void handleGrabbedWhileHeld(const std::vector<KeyGrab> &grabs, const HeldKeys &held);
-    void ungrab(const std::vector<Request> &requests);
 
-    void takeQueuedEvents();
+    std::vector<GrabOnRoot> onEveryRoot(const std::vector<KeyGrab> &grabs) const;
+    void ungrab(const std::vector<GrabOnRoot> &grabs);
+    void wait();
+    HeldKeys heldKeys(xcb_query_keymap_cookie_t asked);
+    HeldKeys heldKeys() { return heldKeys(xcb_query_keymap(connection_.get())); }
+
+    void take(xcb_generic_event_t *(*poll)(xcb_connection_t *));
     void take(const xcb_generic_event_t *event);
-    bool handlePress(quint8 keycode);
-    void handleRelease(quint8 keycode);
+    void takeKeyboardEvent(const xcb_generic_event_t *event);
+    bool isNewPress(quint8 keycode);
+    void noteDown(quint8 keycode);
+    void noteRelease(quint8 keycode);
+    void noteModifiers(quint16 modifiers);
+    void noteHeldBefore(const std::vector<KeyGrab> &grabs, const HeldKeys &held);
+    bool isPressPending(quint8 keycode, quint32 sequence) const;
 
     XConnection connection_;
     std::vector<xcb_window_t> roots_;
     quint8 firstKeyboardEvent_ = 0;
     quint8 rawEventExtension_ = 0;
-    std::deque<HotKeyInput> queue_;
+    std::set<KeyGrab> grabbed_;
+    std::deque<Event> events_;
     std::set<quint8> down_;
 };

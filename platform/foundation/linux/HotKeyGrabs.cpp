@@ -12,35 +12,32 @@ namespace {
 
 constexpr int evdevToX11 = 8;
 constexpr quint32 hotKeyModifiers = cmdKey | shiftKey | optionKey | controlKey;
-constexpr quint16 otherEnterKey = 52, enterKey = 76;
 
-/// The row of a stored code. 52 is kept as it is stored, but no key of this desktop bears it: the keypad's Enter does.
-const VirtualKey *keyOf(quint32 keyCode)
+QList<PhysicalKey> keysOf(quint32 keyCode)
 {
-    if (keyCode > std::numeric_limits<quint16>::max())
-        return nullptr;
-    const VirtualKey *key = virtualKey(keyCode == otherEnterKey ? enterKey : quint16(keyCode));
-    return key && key->evdev != 0 ? key : nullptr;
+    const bool isCode = keyCode <= std::numeric_limits<quint16>::max();
+    return isCode ? physicalKeysOf(quint16(keyCode)) : QList<PhysicalKey>();
 }
 
-void addEvdev(std::set<quint8> &keycodes, quint16 evdev, const KeyboardMapping &keyboard)
+/// Found by name, which holds for every kind of keyboard; by number only where that is nobody else's.
+std::optional<quint8> keycodeOf(const PhysicalKey &key, const KeyboardMapping &keyboard)
 {
-    const int keycode = evdev + evdevToX11;
-    if (keycode >= keyboard.leastKeycode && keycode <= keyboard.greatestKeycode)
-        keycodes.insert(quint8(keycode));
+    const auto named = keyboard.keycodes.constFind(QByteArray(key.xkbName));
+    if (named != keyboard.keycodes.cend())
+        return *named;
+    const int keycode = key.evdev + evdevToX11;
+    if (keycode < keyboard.leastKeycode || keycode > keyboard.greatestKeycode || keyboard.isNamed(quint8(keycode)))
+        return std::nullopt;
+    return quint8(keycode);
 }
 
-/// Found by name, which holds for every kind of keyboard.
-std::set<quint8> keycodesOf(const VirtualKey &key, const KeyboardMapping &keyboard)
+std::set<quint8> keycodesOf(quint32 keyCode, const KeyboardMapping &keyboard)
 {
     std::set<quint8> keycodes;
-    const auto named = keyboard.keycodes.constFind(QByteArray::fromRawData(key.xkbName, qstrlen(key.xkbName)));
-    if (named != keyboard.keycodes.cend())
-        keycodes.insert(*named);
-    else
-        addEvdev(keycodes, key.evdev, keyboard);
-    for (const quint16 alias : aliasEvdevsOf(key.code))
-        addEvdev(keycodes, alias, keyboard);
+    for (const PhysicalKey &key : keysOf(keyCode)) {
+        if (const auto keycode = keycodeOf(key, keyboard))
+            keycodes.insert(*keycode);
+    }
     return keycodes;
 }
 
@@ -64,17 +61,16 @@ std::optional<quint16> serverModifiers(quint32 modifiers, const KeyboardMapping 
 
 bool isHotKeyCombination(quint32 keyCode, quint32 modifiers)
 {
-    return keyOf(keyCode) && !(modifiers & ~hotKeyModifiers);
+    return !keysOf(keyCode).isEmpty() && !(modifiers & ~hotKeyModifiers);
 }
 
 std::vector<KeyGrab> grabsOf(quint32 keyCode, quint32 modifiers, const KeyboardMapping &keyboard)
 {
-    const VirtualKey *key = keyOf(keyCode);
     const auto mask = serverModifiers(modifiers, keyboard);
     std::vector<KeyGrab> grabs;
-    if (!key || !mask)
+    if (!mask)
         return grabs;
-    for (const quint8 keycode : keycodesOf(*key, keyboard)) {
+    for (const quint8 keycode : keycodesOf(keyCode, keyboard)) {
         // Every part of the lock bits, from all of them down to none.
         for (quint16 locks = keyboard.locks;; locks = quint16(locks - 1) & keyboard.locks) {
             grabs.push_back({keycode, quint16(*mask | locks)});

@@ -18,6 +18,13 @@ bool overlap(const std::vector<KeyGrab> &left, const std::vector<KeyGrab> &right
     return std::find_first_of(left.cbegin(), left.cend(), right.cbegin(), right.cend()) != left.cend();
 }
 
+void logMissing(quint32 keyCode, quint32 modifiers)
+{
+    NSLog(QStringLiteral("lumaroo: hot keys: key code %1 with modifiers 0x%2 cannot be had on the changed keyboard")
+              .arg(keyCode)
+              .arg(modifiers, 0, 16));
+}
+
 } // namespace
 
 HotKeyService &HotKeyService::instance()
@@ -54,16 +61,33 @@ OSStatus HotKeyService::add(quint32 keyCode, quint32 modifiers, EventHotKeyID ho
     return noErr;
 }
 
+HotKeyService::Registrations::const_iterator HotKeyService::find(EventHotKeyRef hotKeyRef) const
+{
+    return std::find_if(registrations_.cbegin(), registrations_.cend(),
+        [hotKeyRef](const Registration &one) { return one.number == reinterpret_cast<quintptr>(hotKeyRef); });
+}
+
 OSStatus HotKeyService::remove(EventHotKeyRef hotKeyRef)
 {
-    const auto found = std::find_if(registrations_.begin(), registrations_.end(),
-        [hotKeyRef](const Registration &one) { return one.number == reinterpret_cast<quintptr>(hotKeyRef); });
-    if (found == registrations_.end())
+    const auto found = find(hotKeyRef);
+    if (found == registrations_.cend())
         return eventHotKeyInvalidErr;
     connection_->ungrab(found->grabs);
     registrations_.erase(found);
+    if (isSomethingMissing())
+        renewal_.start();
     scheduleInput();
     return noErr;
+}
+
+OSStatus HotKeyService::status(EventHotKeyRef hotKeyRef) const
+{
+    const auto found = find(hotKeyRef);
+    if (found == registrations_.cend())
+        return eventHotKeyInvalidErr;
+    if (!found->grabs.empty())
+        return noErr;
+    return grabsOf(found->keyCode, found->modifiers, keyboard_).empty() ? paramErr : eventHotKeyExistsErr;
 }
 
 bool HotKeyService::connect()
@@ -91,6 +115,7 @@ void HotKeyService::open()
     reportedReason_.clear();
     notifier_ = std::make_unique<QSocketNotifier>(connection_->fileDescriptor(), QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] { handleInput(); });
+    scheduleInput();
 }
 
 void HotKeyService::reportUnavailable(const QString &reason)
@@ -124,13 +149,13 @@ void HotKeyService::handleInput()
         else if (!input)
             return;
         else if (input->kind == HotKeyInput::Kind::Press)
-            handlePress({input->keycode, input->modifiers});
+            dispatchPress(input->press);
         else if (!renewal_.isActive())
             renewal_.start();
     }
 }
 
-void HotKeyService::handlePress(const KeyGrab &press)
+void HotKeyService::dispatchPress(const KeyGrab &press)
 {
     const auto found = std::find_if(registrations_.cbegin(), registrations_.cend(), [&press](const Registration &one) {
         return std::find(one.grabs.cbegin(), one.grabs.cend(), press) != one.grabs.cend();
@@ -152,6 +177,12 @@ void HotKeyService::handleLoss()
     NSNotificationCenter::defaultCenter()->postNotificationNameObject(LMHotKeysDidGo);
 }
 
+bool HotKeyService::isSomethingMissing() const
+{
+    return std::any_of(registrations_.cbegin(), registrations_.cend(),
+        [](const Registration &registration) { return registration.grabs.empty(); });
+}
+
 void HotKeyService::renewIfDue()
 {
     if (renewal_.isActive())
@@ -163,16 +194,30 @@ void HotKeyService::renew()
 {
     renewal_.stop();
     const auto keyboard = connection_->readKeyboard();
-    if (keyboard && std::exchange(keyboard_, *keyboard) != *keyboard) {
-        const auto wanted = wantedGrabs();
-        for (size_t place = 0; place < wanted.size(); ++place) {
-            if (registrations_[place].grabs != wanted[place])
-                connection_->ungrab(std::exchange(registrations_[place].grabs, {}));
-        }
-        for (size_t place = 0; place < wanted.size(); ++place)
-            regrab(registrations_[place], wanted[place]);
-    }
+    const bool isChanged = keyboard && std::exchange(keyboard_, *keyboard) != *keyboard;
+    if (isChanged || isSomethingMissing())
+        regrab();
     scheduleInput();
+}
+
+void HotKeyService::regrab()
+{
+    const auto wanted = wantedGrabs();
+    std::vector<bool> hadGrabs;
+    // First all that goes, so that two can exchange their keys.
+    for (size_t place = 0; place < wanted.size(); ++place) {
+        Registration &registration = registrations_[place];
+        hadGrabs.push_back(!registration.grabs.empty());
+        if (registration.grabs != wanted[place])
+            connection_->ungrab(std::exchange(registration.grabs, {}));
+    }
+    for (size_t place = 0; place < wanted.size(); ++place) {
+        Registration &registration = registrations_[place];
+        if (registration.grabs.empty() && !wanted[place].empty() && connection_->grab(wanted[place]))
+            registration.grabs = wanted[place];
+        if (registration.grabs.empty() && hadGrabs[place] && !connection_->isLost())
+            logMissing(registration.keyCode, registration.modifiers);
+    }
 }
 
 /// For each registration; of two that have become the same, the older one keeps the key.
@@ -188,16 +233,4 @@ std::vector<std::vector<KeyGrab>> HotKeyService::wantedGrabs() const
         all.push_back(std::move(grabs));
     }
     return all;
-}
-
-void HotKeyService::regrab(Registration &registration, const std::vector<KeyGrab> &grabs)
-{
-    if (registration.grabs == grabs && !grabs.empty())
-        return;
-    if (!grabs.empty() && connection_->grab(grabs))
-        registration.grabs = grabs;
-    else
-        NSLog(QStringLiteral("lumaroo: hot keys: key code %1 with modifiers 0x%2 cannot be had on the changed keyboard")
-                  .arg(registration.keyCode)
-                  .arg(registration.modifiers, 0, 16));
 }

@@ -16,6 +16,7 @@ public:
     /// Registers a combination that can be had at all.
     OSStatus add(quint32 keyCode, quint32 modifiers, EventHotKeyID hotKeyID, EventHotKeyRef *hotKeyRef);
     OSStatus remove(EventHotKeyRef hotKeyRef);
+    OSStatus status(EventHotKeyRef hotKeyRef) const;
 
 private:
     struct Registration
@@ -27,7 +28,10 @@ private:
         std::vector<KeyGrab> grabs; ///< none while the keyboard lacks the key, or another program has taken it
     };
 
+    using Registrations = std::vector<Registration>;
+
     HotKeyService();
+    Registrations::const_iterator find(EventHotKeyRef hotKeyRef) const;
     bool connect();
     void open();
     void reportUnavailable(const QString &reason);
@@ -35,19 +39,20 @@ private:
 
     void scheduleInput();
     void handleInput();
-    void handlePress(const KeyGrab &press);
+    void dispatchPress(const KeyGrab &press);
     void handleLoss();
 
+    bool isSomethingMissing() const;
     void renewIfDue();
     void renew();
+    void regrab();
     std::vector<std::vector<KeyGrab>> wantedGrabs() const;
-    void regrab(Registration &registration, const std::vector<KeyGrab> &grabs);
 
     std::unique_ptr<HotKeyConnection> connection_;
     std::unique_ptr<QSocketNotifier> notifier_;
     QTimer renewal_;
     KeyboardMapping keyboard_;
-    std::vector<Registration> registrations_;
+    Registrations registrations_;
     quintptr lastNumber_ = 0;
     QString reportedReason_;
 };

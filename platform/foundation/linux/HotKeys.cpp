@@ -11,6 +11,11 @@ OSStatus RegisterEventHotKey(quint32 keyCode, quint32 modifiers, EventHotKeyID h
     return HotKeyService::instance().add(keyCode, modifiers, hotKeyID, hotKeyRef);
 }
 
+OSStatus LMHotKeyStatus(EventHotKeyRef hotKeyRef)
+{
+    return HotKeyService::instance().status(hotKeyRef);
+}
+
 OSStatus UnregisterEventHotKey(EventHotKeyRef hotKeyRef)
 {
     return HotKeyService::instance().remove(hotKeyRef);

@@ -87,6 +87,11 @@ void readKeyNames(KeyboardMapping &mapping, const xcb_xkb_get_names_reply_t *rep
 
 } // namespace
 
+bool KeyboardMapping::isNamed(quint8 keycode) const
+{
+    return std::find(keycodes.cbegin(), keycodes.cend(), keycode) != keycodes.cend();
+}
+
 std::optional<KeyboardMapping> readKeyboardMapping(xcb_connection_t *connection)
 {
     const xcb_setup_t *setup = xcb_get_setup(connection);

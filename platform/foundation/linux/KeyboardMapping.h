@@ -16,6 +16,7 @@ struct KeyboardMapping
     quint16 command = 0; ///< the one that holds Super; 0 where none does
     quint16 locks = XCB_MOD_MASK_LOCK; ///< Caps Lock, and the modifiers that hold Num Lock and Scroll Lock
 
+    bool isNamed(quint8 keycode) const;
     bool operator==(const KeyboardMapping &) const = default;
 };
 
