@@ -56,7 +56,14 @@ OSStatus HotKeySession::add(quint32 keyCode, quint32 modifiers, quint32 id, quin
 
 bool HotKeySession::waitForPresses(int count)
 {
-    return waitUntil([count] { return heard().size() >= count; });
+    constexpr int milliseconds = 20000;
+    QTimer limit;
+    limit.setSingleShot(true);
+    limit.start(milliseconds);
+    // In a run loop that sleeps until it is woken, as a program's does.
+    while (heard().size() < count && limit.isActive())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return heard().size() >= count;
 }
 
 QList<quint32> HotKeySession::pressed()
