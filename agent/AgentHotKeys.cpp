@@ -92,8 +92,13 @@ void AgentHotKeys::release()
 void AgentHotKeys::handlePress(const QVariant &hotKey)
 {
     for (const ActionKey &key : std::as_const(keys_)) {
-        if (hotKey.value<KTXHotKey *>() == key.hotKey.get())
-            Q_EMIT pressed(key.action, key.hotKey->description());
+        if (hotKey.value<KTXHotKey *>() != key.hotKey.get())
+            continue;
+        // The keyboard is free only then.
+        const auto act = [this, action = key.action, combination = key.hotKey->description()] {
+            Q_EMIT pressed(action, combination);
+        };
+        QMetaObject::invokeMethod(this, act, Qt::QueuedConnection);
     }
 }
 

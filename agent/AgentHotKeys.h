@@ -37,6 +37,7 @@ public:
     QList<AgentHotKey> hotKeys() const;
 
 Q_SIGNALS:
+    /// The keyboard is free: a window may be shown, and a menu opened.
     void pressed(const QString &action, const QString &combination);
 
 private:

@@ -12,8 +12,11 @@
 // Behind them stand passive grabs of the X server. They answer a press only: no release, no auto-repeat, and whatever
 // Caps Lock, Num Lock, Scroll Lock and the layout's group are. They follow the keyboard when its layout or its
 // modifiers change; LMHotKeyStatus() tells which one the keyboard cannot give any more. While another program holds the
-// whole keyboard (an open menu, a locked screen) no press comes. When a press is delivered the keyboard is free again,
-// so a key that is held longer than its modifiers types into the program with the focus.
+// whole keyboard (an open menu, a locked screen) no press comes.
+//
+// A press grabs the whole keyboard for a moment: it is free again when the handlers have returned. What takes the
+// keyboard or shows a window belongs into a deferred call. From then on a key that is held longer than its modifiers
+// types into the program with the focus.
 //
 // When the X server goes, every registration is gone with it: one line is logged, LMHotKeysDidGo is posted, and the
 // references are stale.

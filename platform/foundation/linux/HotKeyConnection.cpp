@@ -72,7 +72,6 @@ void HotKeyConnection::watchReleases(bool watch)
         quint32 mask;
     } selection{{XCB_INPUT_DEVICE_ALL_MASTER, 1}, watch ? quint32(XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE) : 0};
     xcb_input_xi_select_events(connection_.get(), roots_.front(), 1, &selection.head);
-    xcb_flush(connection_.get());
 }
 
 void HotKeyConnection::wait()
@@ -148,12 +147,13 @@ void HotKeyConnection::ungrab(const std::vector<GrabOnRoot> &grabs)
 bool HotKeyConnection::hasQueuedInput()
 {
     take(xcb_poll_for_queued_event);
-    return !events_.empty();
+    return !events_.empty() || unconfirmed_;
 }
 
 std::optional<HotKeyInput> HotKeyConnection::nextInput()
 {
     for (;;) {
+        confirmDown();
         // Anew each time: what is written below may read events from the socket, which then tells of them no more.
         take(xcb_poll_for_event);
         if (events_.empty())
@@ -194,7 +194,7 @@ void HotKeyConnection::take(const xcb_generic_event_t *event)
     } else if (type == XCB_GE_GENERIC) {
         const auto *raw = reinterpret_cast<const xcb_input_raw_key_release_event_t *>(event);
         if (raw->extension == rawEventExtension_ && raw->event_type == XCB_INPUT_RAW_KEY_RELEASE)
-            events_.push_back({Kind::Release, {quint8(raw->detail), 0}});
+            events_.push_back({Kind::Release, {quint8(raw->detail), 0}, event->full_sequence});
     } else if (type == firstKeyboardEvent_) {
         takeKeyboardEvent(event);
     }
@@ -203,11 +203,11 @@ void HotKeyConnection::take(const xcb_generic_event_t *event)
 void HotKeyConnection::takeKeyboardEvent(const xcb_generic_event_t *event)
 {
     if (event->pad0 != XCB_XKB_STATE_NOTIFY) {
-        events_.push_back({Event::Kind::KeyboardChanged, {}});
+        events_.push_back({Event::Kind::KeyboardChanged, {}, event->full_sequence});
         return;
     }
     const auto *state = reinterpret_cast<const xcb_xkb_state_notify_event_t *>(event);
-    events_.push_back({Event::Kind::ModifiersChanged, {0, state->mods}});
+    events_.push_back({Event::Kind::ModifiersChanged, {0, state->mods}, event->full_sequence});
 }
 
 bool HotKeyConnection::isNewPress(quint8 keycode)
@@ -223,24 +223,38 @@ bool HotKeyConnection::isNewPress(quint8 keycode)
 }
 
 /// Lets the keyboard go and sees to it that the release is told: while the keyboard is grabbed as a key event, then as
-/// a raw one.
+/// a raw one. Nothing is sent yet, so that a press is told at once.
 void HotKeyConnection::noteDown(quint8 keycode)
 {
+    confirmDown();
     if (down_.empty())
         watchReleases(true);
     down_.insert(keycode);
     xcb_ungrab_keyboard(connection_.get(), XCB_CURRENT_TIME);
-    // With this answer the keyboard is free. What was released before raw events came counts as released after all that
-    // has come in.
-    const HeldKeys held = heldKeys();
-    if (!held.contains(keycode))
-        events_.push_back({Event::Kind::Release, {keycode, 0}});
+    unconfirmed_ = DownKey{keycode, xcb_query_keymap(connection_.get())};
+}
+
+/// Waits until the keyboard is free. What was released before raw events came is up by then, and counts as released
+/// after what came in before.
+void HotKeyConnection::confirmDown()
+{
+    if (!unconfirmed_)
+        return;
+    const DownKey key = *std::exchange(unconfirmed_, std::nullopt);
+    const HeldKeys held = heldKeys(key.asked);
+    if (held.contains(key.keycode))
+        return;
+    const auto later = std::find_if(
+        events_.cbegin(), events_.cend(), [&held](const Event &event) { return !isBefore(event, held.sequence); });
+    events_.insert(later, {Event::Kind::Release, {key.keycode, 0}, held.sequence});
 }
 
 void HotKeyConnection::noteRelease(quint8 keycode)
 {
-    if (down_.erase(keycode) && down_.empty())
-        watchReleases(false);
+    if (!down_.erase(keycode) || !down_.empty())
+        return;
+    watchReleases(false);
+    xcb_flush(connection_.get());
 }
 
 /// A key that repeats becomes a hot key with the modifiers that are pressed while it is down. It is not pressed, then.
@@ -267,7 +281,11 @@ void HotKeyConnection::noteHeldBefore(const std::vector<KeyGrab> &grabs, const H
 bool HotKeyConnection::isPressPending(quint8 keycode, quint32 sequence) const
 {
     return std::any_of(events_.cbegin(), events_.cend(), [keycode, sequence](const Event &event) {
-        return event.kind == Event::Kind::Press && event.key.keycode == keycode
-            && qint32(event.sequence - sequence) < 0;
+        return event.kind == Event::Kind::Press && event.key.keycode == keycode && isBefore(event, sequence);
     });
+}
+
+bool HotKeyConnection::isBefore(const Event &event, quint32 sequence)
+{
+    return qint32(event.sequence - sequence) < 0;
 }

@@ -37,10 +37,10 @@ public:
     /// When it returns, others can have them.
     void ungrab(const std::vector<KeyGrab> &grabs);
 
-    /// The next press or change of the keyboard; no value when there is none now. At a press the keyboard is free
-    /// again.
+    /// The next press or change of the keyboard; no value when there is none now. After a press, the next call lets
+    /// the keyboard go.
     std::optional<HotKeyInput> nextInput();
-    /// Whether something has come in while an answer was waited for, of which the socket tells no more.
+    /// Whether something has come in, or been asked for, of which the socket tells no more.
     bool hasQueuedInput();
 
 private:
@@ -49,6 +49,12 @@ private:
         enum class Kind { Press, Release, ModifiersChanged, KeyboardChanged } kind;
         KeyGrab key;
         quint32 sequence = 0; ///< of the last request that the server had handled before
+    };
+    /// A key that was down a moment ago; the server is asked whether it still is.
+    struct DownKey
+    {
+        quint8 keycode;
+        xcb_query_keymap_cookie_t asked;
     };
     struct GrabOnRoot
     {
@@ -80,10 +86,12 @@ private:
     void takeKeyboardEvent(const xcb_generic_event_t *event);
     bool isNewPress(quint8 keycode);
     void noteDown(quint8 keycode);
+    void confirmDown();
     void noteRelease(quint8 keycode);
     void noteModifiers(quint16 modifiers);
     void noteHeldBefore(const std::vector<KeyGrab> &grabs, const HeldKeys &held);
     bool isPressPending(quint8 keycode, quint32 sequence) const;
+    static bool isBefore(const Event &event, quint32 sequence);
 
     XConnection connection_;
     std::vector<xcb_window_t> roots_;
@@ -92,4 +100,5 @@ private:
     std::set<KeyGrab> grabbed_;
     std::deque<Event> events_;
     std::set<quint8> down_;
+    std::optional<DownKey> unconfirmed_;
 };

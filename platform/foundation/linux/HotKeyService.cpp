@@ -149,10 +149,17 @@ void HotKeyService::handleInput()
         else if (!input)
             return;
         else if (input->kind == HotKeyInput::Kind::Press)
-            dispatchPress(input->press);
+            handlePress(input->press);
         else if (!renewal_.isActive())
             renewal_.start();
     }
+}
+
+void HotKeyService::handlePress(const KeyGrab &press)
+{
+    // A handler may run an event loop of its own, and the keyboard is to be free in that.
+    scheduleInput();
+    dispatchPress(press);
 }
 
 void HotKeyService::dispatchPress(const KeyGrab &press)

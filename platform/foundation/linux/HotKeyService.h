@@ -39,6 +39,7 @@ private:
 
     void scheduleInput();
     void handleInput();
+    void handlePress(const KeyGrab &press);
     void dispatchPress(const KeyGrab &press);
     void handleLoss();
 
