@@ -9,7 +9,8 @@
 #include <utility>
 #include <vector>
 
-/// Posted on the process's local centre when a hot key is pressed; the object is the KTXHotKey, as a pointer.
+/// Posted on the process's local centre when a hot key is pressed; the object is the KTXHotKey, as a pointer. The
+/// keyboard is free once all observers have returned: open no window or menu before that.
 inline const QString KTXHotKeyPressed = QStringLiteral("KTXHotKeyPressed");
 /// Meant for that notification's user information, which is empty so far.
 inline const QString KTXHotKeyInfo = QStringLiteral("KTXHotKeyInfo");
@@ -60,7 +61,7 @@ public:
     bool keyWasReleased() const { return keyWasReleased_; }
     EventHotKeyID hotKeyID() const { return hotKeyID_; }
     void setHotKeyID(EventHotKeyID hotKeyID) { hotKeyID_ = hotKeyID; }
-    /// Present exactly while the hot key is registered; absent once the X server has gone.
+    /// Present exactly while the hot key is registered; absent from those listed once the X server has gone.
     std::shared_ptr<const NSValue> hotKeyRef() const { return hotKeyRef_.load(); }
     void setHotKeyRef(std::shared_ptr<const NSValue> hotKeyRef) { hotKeyRef_.store(std::move(hotKeyRef)); }
 

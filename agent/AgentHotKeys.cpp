@@ -9,6 +9,7 @@
 #include "platform/foundation/VirtualKeyCodes.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 AgentHotKeys::AgentHotKeys()
@@ -20,6 +21,8 @@ AgentHotKeys::AgentHotKeys()
         this, [this](const NSNotification &notification) { handlePress(notification.object); }, KTXHotKeyPressed);
     centre->addObserverSelectorNameObject(
         this, [this](const NSNotification &) { handleLoss(); }, LMHotKeysDidGo);
+    centre->addObserverSelectorNameObject(
+        this, [this](const NSNotification &) { registerKeys(); }, LMHotKeysDidChange);
 }
 
 AgentHotKeys::~AgentHotKeys()
@@ -33,8 +36,7 @@ void AgentHotKeys::apply(const QVariantMap &settings)
     for (ActionKey &key : keys_)
         give(key, intValue(settings.value(key.action).toMap().value(KTXKeycode)), modifiers);
     // Only now, so that two actions can exchange their keys.
-    for (ActionKey &key : keys_)
-        registerKey(key);
+    registerKeys();
     if (modifiers == 0 && !saidNoModifiers_)
         NSLog(QStringLiteral("lumaroo: agent: no modifiers are chosen, so no key is registered"));
     saidNoModifiers_ = modifiers == 0;
@@ -51,10 +53,21 @@ void AgentHotKeys::give(ActionKey &key, int keyCode, quint32 modifiers)
     }
 }
 
+void AgentHotKeys::registerKeys()
+{
+    for (ActionKey &key : keys_) {
+        registerKey(key);
+        // Then there are none for the others either, and each attempt may take its time.
+        if (key.refusal == Refusal::NoHotKeys) {
+            handleLoss();
+            return;
+        }
+    }
+}
+
 void AgentHotKeys::registerKey(ActionKey &key)
 {
-    // What a change of the keyboard has made impossible stays registered, and comes back with the next one.
-    if (key.hotKey->isHotKeyRegistered())
+    if (refusalNow(key) == Refusal::None)
         return;
     const Refusal before = std::exchange(key.refusal, registration(key));
     // Where no key can be registered, that has been said once for all of them.
@@ -76,7 +89,10 @@ AgentHotKeys::Refusal AgentHotKeys::registration(const ActionKey &key) const
 /// Whether an action before it has the same key.
 bool AgentHotKeys::isAnotherActions(const ActionKey &key) const
 {
-    const auto pressedKey = [](const ActionKey &one) { return pressedKeyCode(quint16(one.hotKey->keycode())); };
+    const auto pressedKey = [](const ActionKey &one) {
+        const quint32 code = one.hotKey->keycode();
+        return code <= std::numeric_limits<quint16>::max() ? pressedKeyCode(quint16(code)) : code;
+    };
     return std::any_of(keys_.cbegin(), keys_.cbegin() + (&key - keys_.constData()),
         [&](const ActionKey &before) { return pressedKey(before) == pressedKey(key); });
 }
@@ -104,8 +120,10 @@ void AgentHotKeys::handlePress(const QVariant &hotKey)
 
 void AgentHotKeys::handleLoss()
 {
-    for (ActionKey &key : keys_)
-        key.refusal = Refusal::NoHotKeys;
+    for (ActionKey &key : keys_) {
+        if (key.refusal != Refusal::NoModifiers && key.refusal != Refusal::OtherAction)
+            key.refusal = Refusal::NoHotKeys;
+    }
 }
 
 QList<AgentHotKey> AgentHotKeys::hotKeys() const

@@ -28,7 +28,8 @@ public:
     ~AgentHotKeys() override;
 
     /// Follows the settings: gives up what has changed, then registers what is not registered. A key that was refused
-    /// is tried again; of two actions with the same key the first has it. Each new refusal is logged.
+    /// is tried again, and so it is when the keyboard changes; of two actions with the same key the first has it. Each
+    /// new refusal is logged.
     void apply(const QVariantMap &settings);
     /// Gives all of them up, until they are applied again.
     void release();
@@ -51,6 +52,7 @@ private:
     };
 
     void give(ActionKey &key, int keyCode, quint32 modifiers);
+    void registerKeys();
     void registerKey(ActionKey &key);
     Refusal registration(const ActionKey &key) const;
     bool isAnotherActions(const ActionKey &key) const;

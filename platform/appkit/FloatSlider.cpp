@@ -5,6 +5,7 @@
 #include <QLocale>
 #include <QScopedValueRollback>
 #include <cmath>
+#include <utility>
 
 namespace {
 

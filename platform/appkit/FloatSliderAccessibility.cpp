@@ -50,7 +50,8 @@ void FloatSliderAccessibility::setCurrentValue(const QVariant &value)
 {
     bool isNumber = false;
     const double number = value.toDouble(&isNumber);
-    if (isNumber)
+    // As for its user, one that is switched off does not move.
+    if (isNumber && slider()->isEnabled())
         slider()->chooseValue(number);
 }
 

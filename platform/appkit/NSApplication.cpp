@@ -49,7 +49,8 @@ void bringToFront(QWidget *window)
         askForActivation(window->windowHandle());
     // At once, it would also be said of a window that is about to get the focus.
     QTimer::singleShot(timeToGetTheFocus, window, [window] {
-        if (window->isVisible() && !window->isActiveWindow())
+        // A sheet of it may have the focus.
+        if (window->isVisible() && !QApplication::activeWindow())
             callForAttention(window);
     });
 }

@@ -4,6 +4,7 @@
 #include "platform/appkit/NSEvent.h"
 
 #include <functional>
+#include <utility>
 
 class QObject;
 

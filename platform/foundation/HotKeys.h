@@ -31,6 +31,10 @@ inline constexpr OSStatus eventHotKeyInvalidErr = -9879; ///< no such registrati
 /// Posted on the process's local centre, without object, when the X server has gone and all registrations with it.
 inline const QString LMHotKeysDidGo = QStringLiteral("LMHotKeysDidGo");
 
+/// Posted there, without object, when the keyboard has changed, and with it perhaps what LMHotKeyStatus() tells and
+/// what can be registered.
+inline const QString LMHotKeysDidChange = QStringLiteral("LMHotKeysDidChange");
+
 /// Four characters as a number, the first one highest.
 constexpr quint32 fourCharacterCode(const char (&characters)[5])
 {

@@ -41,6 +41,15 @@ protected:
     {
         return waitUntil([asked] { return asked->isActiveWindow() && activeWindow() == idOf(asked); });
     }
+    /// Waits until an attention that an activation still had in mind would have been asked for.
+    static bool laterAttentionIsOver()
+    {
+        QTimer later;
+        later.setSingleShot(true);
+        // The product's own timers of that length were started before, and fire before.
+        later.start(1000);
+        return waitUntil([&later] { return !later.isActive(); });
+    }
     static void activate(bool ignoringOthers)
     {
         NSApplication::sharedApplication()->activateIgnoringOtherApps(ignoringOthers);
@@ -82,6 +91,7 @@ TEST_F(TheApplication, comesBeforeAnotherWindowAndTakesTheFocus)
     const AttentionListener listener(idOf(window));
     activate(true);
     EXPECT_TRUE(comesToFront(window));
+    EXPECT_TRUE(laterAttentionIsOver());
     EXPECT_FALSE(listener.hasBeenAskedFor()) << "nobody has to be told";
     EXPECT_TRUE(waitUntil([&] { return areStacked({another->id(), idOf(window)}); }));
     EXPECT_TRUE(window->field->hasFocus());
@@ -107,7 +117,7 @@ TEST_F(TheApplication, thatHasTheFocusAsksForNothing)
     ASSERT_TRUE(comesToFront(window));
     for (const bool ignoringOthers : {true, false}) {
         activate(ignoringOthers);
-        runPendingEvents();
+        EXPECT_TRUE(laterAttentionIsOver());
         EXPECT_FALSE(asksForAttention(window)) << ignoringOthers;
         EXPECT_EQ(activeWindow(), idOf(window));
     }
@@ -158,7 +168,7 @@ TEST_F(TheApplication, withASheetThatHasTheFocusLeavesItThere)
     ASSERT_TRUE(comesToFront(sheet));
     activate(true);
     activate(false);
-    runPendingEvents();
+    EXPECT_TRUE(laterAttentionIsOver());
     EXPECT_EQ(activeWindow(), idOf(sheet));
     EXPECT_FALSE(asksForAttention(window));
     EXPECT_FALSE(asksForAttention(sheet));
@@ -173,6 +183,7 @@ TEST_F(TheApplication, thatIsMinimisedWithASheetComesBackWithIt)
     turnToAnother();
     activate(true);
     EXPECT_TRUE(comesToFront(sheet));
+    EXPECT_TRUE(laterAttentionIsOver());
     EXPECT_TRUE(waitUntil([&] { return !isMinimised(window) && window->isExposed(); }));
     EXPECT_TRUE(waitUntil([&] { return !asksForAttention(window) && !asksForAttention(sheet); }));
 }

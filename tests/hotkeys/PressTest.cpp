@@ -8,7 +8,6 @@
 #include <QScopeGuard>
 #include <QTimer>
 #include <linux/input-event-codes.h>
-#include <thread>
 
 namespace {
 
@@ -16,18 +15,6 @@ constexpr quint32 A = 0, S = 1, Z = 6, Left = 123, F13 = 105;
 
 class Press : public HotKeySession
 {
-public:
-    Press() { other.setKeyRepeat(delay, interval); }
-    /// Lets a key that is down repeat.
-    void waitForRepeats()
-    {
-        constexpr int manyRepeats = 30;
-        const quint32 start = other.serverTime();
-        EXPECT_TRUE(waitUntil([&] { return other.serverTime() > start + delay + manyRepeats * interval; }));
-    }
-
-private:
-    static constexpr int delay = 40, interval = 10; // milliseconds
 };
 
 OtherClient *menuOpener = nullptr;
@@ -137,79 +124,6 @@ TEST_F(Press, countsInEveryGroupOfTheLayout)
     }
 }
 
-TEST_F(Press, ofAKeyThatIsHeldCountsOnce)
-{
-    // What is no hot key, the program with the focus gets again and again.
-    keyDown(KEY_S);
-    EXPECT_TRUE(waitUntil([this] { return other.pressedKeys().count(KEY_S) > 3; }));
-    keyUp(KEY_S);
-
-    ASSERT_EQ(add(A, controlKey), noErr);
-    keyDown(KEY_LEFTCTRL);
-    keyDown(KEY_A);
-    waitForRepeats();
-    keyUp(KEY_A);
-    pressKey(KEY_A);
-    keyUp(KEY_LEFTCTRL);
-    EXPECT_EQ(pressed(), (QList<quint32>{1, 1}));
-    EXPECT_FALSE(other.pressedKeys().contains(KEY_A));
-}
-
-TEST_F(Press, countsAgainAfterEachRelease)
-{
-    ASSERT_EQ(add(A, controlKey), noErr);
-    keyDown(KEY_LEFTCTRL);
-    for (int press = 0; press < 20; ++press)
-        pressKey(KEY_A);
-    keyUp(KEY_LEFTCTRL);
-    EXPECT_EQ(pressed().size(), 20);
-    for (int press = 0; press < 20; ++press) {
-        pressKey(KEY_A, {KEY_LEFTCTRL});
-        EXPECT_EQ(pressed(), QList<quint32>{1}) << press;
-    }
-}
-
-TEST_F(Press, countsOnceWhenTheKeyOutlivesItsModifiers)
-{
-    ASSERT_EQ(add(A, controlKey, 1), noErr);
-    ASSERT_EQ(add(A, shiftKey, 2), noErr);
-    keyDown(KEY_LEFTCTRL);
-    keyDown(KEY_A);
-    EXPECT_EQ(pressed(), QList<quint32>{1});
-    keyUp(KEY_LEFTCTRL);
-    keyUp(KEY_A);
-    pressKey(KEY_A, {KEY_LEFTSHIFT});
-    EXPECT_EQ(pressed(), QList<quint32>{2});
-}
-
-TEST_F(Press, ofAKeyThatWasDownBeforeItBecameAHotKeyDoesNotCount)
-{
-    keyDown(KEY_LEFTCTRL);
-    keyDown(KEY_A);
-    ASSERT_EQ(add(A, controlKey), noErr);
-    waitForRepeats();
-    keyUp(KEY_A);
-    EXPECT_TRUE(pressed().isEmpty());
-    keyDown(KEY_A);
-    EXPECT_EQ(pressed(), QList<quint32>{1});
-    keyUp(KEY_A);
-    keyUp(KEY_LEFTCTRL);
-}
-
-TEST_F(Press, ofAKeyThatRepeatsWhenItsModifierIsPressedDoesNotCount)
-{
-    ASSERT_EQ(add(A, controlKey), noErr);
-    keyDown(KEY_A);
-    EXPECT_TRUE(waitUntil([this] { return other.pressedKeys().count(KEY_A) > 3; }));
-    keyDown(KEY_LEFTCTRL);
-    waitForRepeats();
-    keyUp(KEY_A);
-    EXPECT_TRUE(pressed().isEmpty());
-    pressKey(KEY_A);
-    EXPECT_EQ(pressed(), QList<quint32>{1});
-    keyUp(KEY_LEFTCTRL);
-}
-
 TEST_F(Press, thatWaitsWhileAnotherCombinationOfItsKeyIsRegisteredCounts)
 {
     ASSERT_EQ(add(A, controlKey, 1), noErr);
@@ -222,56 +136,6 @@ TEST_F(Press, thatWaitsWhileAnotherCombinationOfItsKeyIsRegisteredCounts)
     keyUp(KEY_LEFTCTRL);
     pressKey(KEY_A, {KEY_LEFTCTRL});
     EXPECT_EQ(pressed(), QList<quint32>{1});
-}
-
-TEST_F(Press, isDeliveredWhileItIsHeldHoweverSoonItFollowsARelease)
-{
-    ASSERT_EQ(add(A, controlKey), noErr);
-    // A repeat would bring along what has been left lying.
-    other.setKeyRepeat(60000, 10);
-    keyDown(KEY_LEFTCTRL);
-    constexpr int presses = 2000, differentPauses = 16;
-    for (int press = 0; press < presses; ++press) {
-        // While the release is being handled here.
-        std::thread typist([this, pause = press % differentPauses] {
-            keyUp(KEY_A);
-            for (int step = 0; step < pause; ++step)
-                other.serverTime();
-            keyDown(KEY_A);
-        });
-        const bool isDelivered = waitForPresses(press + 1);
-        typist.join();
-        ASSERT_TRUE(isDelivered) << press;
-    }
-    keyUp(KEY_A);
-    keyUp(KEY_LEFTCTRL);
-}
-
-TEST_F(Press, heldLongerThanItsModifiersTypesIntoTheProgramWithTheFocus)
-{
-    ASSERT_EQ(add(A, controlKey), noErr);
-    keyDown(KEY_LEFTCTRL);
-    keyDown(KEY_A);
-    ASSERT_TRUE(waitForPresses(1));
-    keyUp(KEY_LEFTCTRL);
-    EXPECT_TRUE(waitUntil([this] { return other.pressedKeys().contains(KEY_A); }));
-    keyUp(KEY_A);
-    EXPECT_EQ(pressed(), QList<quint32>{1});
-}
-
-TEST_F(Press, ofTwoHotKeysAtOnceCountsBoth)
-{
-    ASSERT_EQ(add(A, controlKey, 1), noErr);
-    ASSERT_EQ(add(S, controlKey, 2), noErr);
-    keyDown(KEY_LEFTCTRL);
-    keyDown(KEY_A);
-    keyDown(KEY_S);
-    keyUp(KEY_A);
-    keyDown(KEY_A);
-    keyUp(KEY_S);
-    keyUp(KEY_A);
-    keyUp(KEY_LEFTCTRL);
-    EXPECT_EQ(pressed(), (QList<quint32>{1, 2, 1}));
 }
 
 TEST_F(Press, leavesTheKeyboardFreeForAMenu)

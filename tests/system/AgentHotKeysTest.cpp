@@ -29,6 +29,13 @@ QVariantMap key(int code)
     return {{KTXKeycode, QString::number(code)}};
 }
 
+QList<QList<int>> withoutAlt(QList<QList<int>> modifierKeys)
+{
+    constexpr int mod1 = 3; // after Shift, Lock and Control
+    modifierKeys[mod1].clear();
+    return modifierKeys;
+}
+
 class AgentHotKeys : public AgentSessionAfterFirstLaunch
 {
 protected:
@@ -198,8 +205,9 @@ TEST_F(AgentHotKeys, withoutModifiersAreNoneAndThatIsSaidOnce)
 
 TEST_F(AgentHotKeys, thatNoKeyBearsAreRefused)
 {
-    store({{KTXFirstLaunch, true}, {KTXUpPref, key(200)}, {KTXDownPref, key(-1)}, {KTXLeftPref, key(70000)}});
+    store({{KTXFirstLaunch, true}, {KTXUpPref, key(200)}, {KTXDownPref, key(-1)}, {KTXLeftPref, key(65536 + 124)}});
     start();
+    // The last one is the code of the key for right in its low half alone.
     for (const QString &action : {KTXUpPref, KTXDownPref, KTXLeftPref})
         EXPECT_EQ(refusal(action), "the keyboard has no such key") << action.toStdString();
     EXPECT_EQ(registeredCount(), KTXActionKeyCount - 3);
@@ -209,13 +217,24 @@ TEST_F(AgentHotKeys, whoseModifierTheKeyboardLosesAreToldAndComeBackWithIt)
 {
     start();
     const QList<QList<int>> before = other.modifierKeys();
-    QList<QList<int>> keys = before;
-    constexpr int mod1 = 3; // after Shift, Lock and Control
-    keys[mod1].clear();
-    other.setModifierKeys(keys);
+    other.setModifierKeys(withoutAlt(before));
     EXPECT_TRUE(waitUntil([] { return registeredCount() == 0; }));
     EXPECT_EQ(refusal(KTXUpPref), "the keyboard has no such key");
+    EXPECT_TRUE(waitUntil([this] {
+        return agent->errors().contains(
+            "lumaroo: agent: ⌃⌥S (takeScreenshot) is not registered: the keyboard has no such key\n");
+    }));
     change({});
+    other.setModifierKeys(before);
+    EXPECT_TRUE(waitUntil([] { return registeredCount() == KTXActionKeyCount; }));
+}
+
+TEST_F(AgentHotKeys, whoseModifierComesWithTheKeyboardLaterAreRegisteredThen)
+{
+    const QList<QList<int>> before = other.modifierKeys();
+    other.setModifierKeys(withoutAlt(before));
+    start();
+    EXPECT_EQ(registeredCount(), 0);
     other.setModifierKeys(before);
     EXPECT_TRUE(waitUntil([] { return registeredCount() == KTXActionKeyCount; }));
 }

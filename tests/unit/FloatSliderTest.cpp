@@ -183,6 +183,9 @@ TEST_F(ASliderToAScreenReader, isSetThroughItAsByItsUser)
     EXPECT_EQ(slider.value(), 1.234);
     EXPECT_EQ(chosen.count(), 1);
     value()->setCurrentValue(1.234);
+    slider.setEnabled(false);
+    value()->setCurrentValue(0.5);
+    slider.setEnabled(true);
     value()->setCurrentValue(std::numeric_limits<double>::quiet_NaN());
     value()->setCurrentValue(QStringLiteral("a lot"));
     EXPECT_EQ(slider.value(), 1.234);

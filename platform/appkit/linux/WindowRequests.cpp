@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QWindow>
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <memory>

@@ -150,6 +150,13 @@ bool HotKeyConnection::hasQueuedInput()
     return !events_.empty() || unconfirmed_;
 }
 
+bool HotKeyConnection::isKeyboardChangePending()
+{
+    take(xcb_poll_for_event);
+    const auto isChange = [](const Event &event) { return event.kind == Event::Kind::KeyboardChanged; };
+    return std::any_of(events_.cbegin(), events_.cend(), isChange);
+}
+
 std::optional<HotKeyInput> HotKeyConnection::nextInput()
 {
     for (;;) {
@@ -222,8 +229,8 @@ bool HotKeyConnection::isNewPress(quint8 keycode)
     return false;
 }
 
-/// Lets the keyboard go and sees to it that the release is told: while the keyboard is grabbed as a key event, then as
-/// a raw one. Nothing is sent yet, so that a press is told at once.
+/// Has the keyboard be let go, and the release told: while the keyboard is grabbed as a key event, then as a raw one.
+/// That is sent by confirmDown() only, so that a press is told at once.
 void HotKeyConnection::noteDown(quint8 keycode)
 {
     confirmDown();

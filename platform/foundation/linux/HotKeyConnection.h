@@ -19,8 +19,8 @@ struct HotKeyInput
 
 /// A connection to the X server that grabs keys, and tells presses from repeats.
 ///
-/// A held hot key would keep the whole keyboard grabbed, so the keyboard is let go at once, and the key's release is
-/// seen among the server's raw events. Those are asked for only while a hot key is down.
+/// A held hot key would keep the whole keyboard grabbed, so the keyboard is let go as soon as the press has been told,
+/// and the key's release is seen among the server's raw events. Those are asked for only while a hot key is down.
 class HotKeyConnection
 {
 public:
@@ -42,6 +42,8 @@ public:
     std::optional<HotKeyInput> nextInput();
     /// Whether something has come in, or been asked for, of which the socket tells no more.
     bool hasQueuedInput();
+    /// Whether a change of the keyboard has come in that is still to be told.
+    bool isKeyboardChangePending();
 
 private:
     struct Event

@@ -18,11 +18,9 @@ bool overlap(const std::vector<KeyGrab> &left, const std::vector<KeyGrab> &right
     return std::find_first_of(left.cbegin(), left.cend(), right.cbegin(), right.cend()) != left.cend();
 }
 
-void logMissing(quint32 keyCode, quint32 modifiers)
+void postChange()
 {
-    NSLog(QStringLiteral("lumaroo: hot keys: key code %1 with modifiers 0x%2 cannot be had on the changed keyboard")
-              .arg(keyCode)
-              .arg(modifiers, 0, 16));
+    NSNotificationCenter::defaultCenter()->postNotificationNameObject(LMHotKeysDidChange);
 }
 
 } // namespace
@@ -190,10 +188,12 @@ bool HotKeyService::isSomethingMissing() const
         [](const Registration &registration) { return registration.grabs.empty(); });
 }
 
+/// So that a registration goes by the keyboard as it is.
 void HotKeyService::renewIfDue()
 {
-    if (renewal_.isActive())
+    if (renewal_.isActive() || connection_->isKeyboardChangePending())
         renew();
+    scheduleInput();
 }
 
 /// Grabs anew where the keyboard has changed, and where something was missing.
@@ -205,25 +205,23 @@ void HotKeyService::renew()
     if (isChanged || isSomethingMissing())
         regrab();
     scheduleInput();
+    // Later: whoever is told may register, and may be registering now.
+    if (isChanged)
+        QMetaObject::invokeMethod(notifier_.get(), postChange, Qt::QueuedConnection);
 }
 
 void HotKeyService::regrab()
 {
     const auto wanted = wantedGrabs();
-    std::vector<bool> hadGrabs;
     // First all that goes, so that two can exchange their keys.
     for (size_t place = 0; place < wanted.size(); ++place) {
-        Registration &registration = registrations_[place];
-        hadGrabs.push_back(!registration.grabs.empty());
-        if (registration.grabs != wanted[place])
-            connection_->ungrab(std::exchange(registration.grabs, {}));
+        if (registrations_[place].grabs != wanted[place])
+            connection_->ungrab(std::exchange(registrations_[place].grabs, {}));
     }
     for (size_t place = 0; place < wanted.size(); ++place) {
         Registration &registration = registrations_[place];
         if (registration.grabs.empty() && !wanted[place].empty() && connection_->grab(wanted[place]))
             registration.grabs = wanted[place];
-        if (registration.grabs.empty() && hadGrabs[place] && !connection_->isLost())
-            logMissing(registration.keyCode, registration.modifiers);
     }
 }
 
