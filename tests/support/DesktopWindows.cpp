@@ -1,10 +1,13 @@
 #include "DesktopWindows.h"
 
+#include "Wait.h"
+
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QScreen>
 #include <QtEndian>
 #include <cstdlib>
+#include <gtest/gtest.h>
 #include <memory>
 #include <xcb/xcb.h>
 
@@ -160,6 +163,15 @@ quint32 desktops()
 void setDesktops(quint32 count)
 {
     tellWindowManager(rootWindow(), "_NET_NUMBER_OF_DESKTOPS", count);
+}
+
+void waitForWindowManager()
+{
+    const quint32 before = desktops();
+    for (const quint32 count : {before + 1, before}) {
+        setDesktops(count);
+        EXPECT_TRUE(waitUntil([count] { return desktops() == count; }));
+    }
 }
 
 quint32 currentDesktop()

@@ -36,6 +36,8 @@ QList<quint32> stackedWindows();
 // The desktops that the user may turn to, counted from 0.
 quint32 desktops();
 void setDesktops(quint32 count);
+/// Waits until the window manager has handled all that has happened so far, as a window that has gone with the focus.
+void waitForWindowManager();
 quint32 currentDesktop();
 void goToDesktop(quint32 desktop);
 

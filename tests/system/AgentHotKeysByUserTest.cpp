@@ -2,6 +2,7 @@
 // system-wide then.
 
 #include "AgentProgram.h"
+#include "DesktopWindows.h"
 #include "KTXActionKeys.h"
 #include "KTXConstants.h"
 #include "KTXModifiers.h"
@@ -89,6 +90,7 @@ TEST_F(AgentHotKeysByUser, aNewKeyWorksSystemWideAndTheOldOneIsFree)
     EXPECT_FALSE(combinations().contains("⌃⌥↑"));
     EXPECT_EQ(heldOf({KEY_UP, KEY_B, KEY_DOWN}), QList({KEY_B, KEY_DOWN}));
 
+    waitForWindowManager();
     other.takeFocus();
     pressKey(KEY_UP, heldControlAndAlt);
     pressKey(KEY_B, heldControlAndAlt);
@@ -129,6 +131,7 @@ TEST_F(AgentHotKeysByUser, modifiersTickedInTheWindowAreThoseOfAllKeys)
     EXPECT_EQ(heldOf(defaultKeys, controlAndAlt | XCB_MOD_MASK_SHIFT), QList<int>());
     EXPECT_EQ(heldOf(defaultKeys, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_SHIFT), defaultKeys);
 
+    waitForWindowManager();
     other.takeFocus();
     pressKey(KEY_S, heldControlAndAlt);
     pressKey(KEY_S, {KEY_LEFTCTRL, KEY_LEFTSHIFT});
@@ -148,6 +151,7 @@ TEST_F(AgentHotKeysByUser, theSwitchFreesAllKeysAndTakesThemAgain)
     ASSERT_TRUE(waitUntil([this] { return bus.names().contains(KTXLMAgentLaunched); }));
     EXPECT_EQ(heldOf(defaultKeys), defaultKeys);
 
+    waitForWindowManager();
     other.takeFocus();
     pressKey(KEY_UP, heldControlAndAlt);
     EXPECT_TRUE(agentReceives({"pressed moveUpHotKey (⌃⌥↑)"}));

@@ -1,6 +1,7 @@
 // The real agent's keys: which it holds, what it says of them, and that it obeys its settings.
 
 #include "AgentSession.h"
+#include "DesktopWindows.h"
 #include "KTXActionKeys.h"
 #include "KTXConstants.h"
 #include "KTXModifiers.h"
@@ -39,7 +40,12 @@ QList<QList<int>> withoutAlt(QList<QList<int>> modifierKeys)
 class AgentHotKeys : public AgentSessionAfterFirstLaunch
 {
 protected:
-    AgentHotKeys() { other.takeFocus(); }
+    AgentHotKeys()
+    {
+        // It may be giving the focus of a test before to somebody.
+        waitForWindowManager();
+        other.takeFocus();
+    }
 
     void start(const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment())
     {

@@ -122,6 +122,6 @@ TEST_F(BehaviourByUser, aRequestForAPageBringsMinimisedSettingsBack)
     minimise(window);
     ASSERT_TRUE(waitUntil([&] { return windowStates(window).contains("_NET_WM_STATE_HIDDEN"); }));
     bus.post(KTXPrefPaneToTab, "hotkeys");
+    EXPECT_TRUE(waitUntil([&] { return !windowStates(window).contains("_NET_WM_STATE_HIDDEN"); }));
     EXPECT_TRUE(waitUntil([&] { return activeWindow() == window; }));
-    EXPECT_FALSE(windowStates(window).contains("_NET_WM_STATE_HIDDEN"));
 }

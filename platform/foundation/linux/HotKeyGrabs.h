@@ -11,7 +11,7 @@ struct KeyGrab
     quint8 keycode = 0;
     quint16 modifiers = 0;
 
-    auto operator<=>(const KeyGrab &) const = default;
+    std::strong_ordering operator<=>(const KeyGrab &) const = default; // NOLINT(modernize-use-nullptr)
 };
 
 /// Whether a combination can be had at all: a key of some keyboard, and modifiers that hot keys know.
