@@ -148,9 +148,12 @@ void AlertSheets::end()
 
 void AlertSheets::dropSheetsOf(const QObject *delegate)
 {
-    if (!sheets_.empty() && sheets_.front().delegate == delegate)
+    const bool isShown = shown_ && !sheets_.empty() && sheets_.front().delegate == delegate;
+    if (isShown)
         takeDown();
     std::erase_if(sheets_, [delegate](const AlertSheet &sheet) { return sheet.delegate == delegate; });
+    if (isShown && sheets_.empty() && window())
+        window()->activateWindow();
     showFirst();
     if (window())
         showNextOn(window());
