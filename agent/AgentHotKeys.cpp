@@ -47,7 +47,7 @@ void AgentHotKeys::give(ActionKey &key, int keyCode, quint32 modifiers)
     const bool isChanged = key.hotKey->keycode() != quint32(keyCode) || key.hotKey->modifiers() != modifiers;
     key.hotKey->setKeycode(quint32(keyCode));
     key.hotKey->setModifiers(modifiers);
-    if (isChanged || isAnotherActions(key)) {
+    if (isChanged || (isAnotherActions(key) && key.hotKey->isHotKeyRegistered())) {
         key.hotKey->unregisterAsHotKey();
         key.refusal = Refusal::GivenUp;
     }

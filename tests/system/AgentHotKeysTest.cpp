@@ -181,6 +181,9 @@ TEST_F(AgentHotKeys, ofTwoActionsWithOneKeyAreTheFirstOnes)
     start();
     EXPECT_TRUE(isRegistered(KTXUpPref));
     EXPECT_EQ(refusal(KTXScreenshotPref), "another action has the same key");
+    // Told once, not at each reading.
+    change({{KTXScreenshotPref, key(126)}});
+    EXPECT_TRUE(says("lumaroo: agent: ⌃⌥↑ (takeScreenshot) is not registered: another action has the same key\n"));
     change({{KTXScreenshotPref, key(126)}, {KTXUpPref, key(11)}});
     EXPECT_TRUE(isRegistered(KTXScreenshotPref));
     EXPECT_TRUE(isRegistered(KTXUpPref));
