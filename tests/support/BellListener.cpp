@@ -1,17 +1,12 @@
 #include "BellListener.h"
 
+#include "platform/foundation/linux/X11.h"
+
 #include <QGuiApplication>
 #include <cstdlib>
 #include <gtest/gtest.h>
 
-// The header is C's and names a member with a word of ours.
-#define explicit explicitParts
-#include <xcb/xkb.h>
-#undef explicit
-
 namespace {
-
-constexpr quint8 eventTypeMask = 0x7f;
 
 template <typename Reply>
 using Owned = std::unique_ptr<Reply, decltype(&std::free)>;

@@ -1,16 +1,12 @@
 #include "Keyboard.h"
 
 #include "platform/foundation/KeyboardLayout.h"
+#include "platform/foundation/linux/X11.h"
 
 #include <QProcess>
 #include <cstdlib>
 #include <memory>
 #include <xcb/xcb.h>
-
-// The header is C's and names a member with a word of ours.
-#define explicit explicitParts
-#include <xcb/xkb.h>
-#undef explicit
 
 void setKeyboardLayout(const QString &layouts, const QString &variants, const QStringList &options)
 {

@@ -1,13 +1,9 @@
 #include "platform/appkit/NSBeep.h"
+#include "platform/foundation/linux/X11.h"
 
 #include <QApplication>
 #include <QWidget>
 #include <xcb/xcb.h>
-
-// The header is C's and names a member with a word of ours.
-#define explicit explicitParts
-#include <xcb/xkb.h>
-#undef explicit
 
 namespace {
 
