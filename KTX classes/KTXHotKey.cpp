@@ -2,7 +2,7 @@
 
 #include "KeyCodeTranslator.h"
 #include "platform/foundation/NSException.h"
-#include "platform/foundation/NSNotificationCenter.h"
+#include "platform/foundation/notifications/NSNotificationCenter.h"
 
 #include <QObject>
 #include <stdexcept>

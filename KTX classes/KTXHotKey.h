@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/foundation/HotKeys.h"
 #include "platform/foundation/NSValue.h"
+#include "platform/foundation/hotkeys/HotKeys.h"
 
 #include <QString>
 #include <atomic>

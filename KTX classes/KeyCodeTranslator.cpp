@@ -1,8 +1,8 @@
 #include "KeyCodeTranslator.h"
 
 #include "KTXModifiers.h"
-#include "platform/foundation/KeyboardLayout.h"
-#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/keyboard/KeyboardLayout.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -5,13 +5,13 @@
 #include "agent/NewerAgent.h"
 #include "agent/linux/AgentName.h"
 #include "agent/linux/ProgramReplacement.h"
-#include "platform/foundation/CFNotificationCenter.h"
-#include "platform/foundation/CFPreferences.h"
-#include "platform/foundation/Description.h"
-#include "platform/foundation/NSBundle.h"
-#include "platform/foundation/NSLog.h"
-#include "platform/foundation/NSUserDefaults.h"
-#include "platform/foundation/linux/SessionBus.h"
+#include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/notifications/CFNotificationCenter.h"
+#include "platform/foundation/notifications/SessionBus.h"
+#include "platform/foundation/preferences/CFPreferences.h"
+#include "platform/foundation/preferences/NSUserDefaults.h"
+#include "platform/foundation/propertylists/Description.h"
+#include "platform/foundation/system/NSLog.h"
 
 #include <QCoreApplication>
 #include <utility>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/ValueArguments.h"
+#include "platform/foundation/propertylists/ValueArguments.h"
 
 /// What the command line asks of the program.
 struct AgentRequest

@@ -3,9 +3,9 @@
 #include "KTXConstants.h"
 #include "agent/LoginEntry.h"
 #include "agent/linux/RunningAgent.h"
-#include "platform/foundation/CFNotificationCenter.h"
-#include "platform/foundation/CFPreferences.h"
-#include "platform/foundation/linux/SessionBus.h"
+#include "platform/foundation/notifications/CFNotificationCenter.h"
+#include "platform/foundation/notifications/SessionBus.h"
+#include "platform/foundation/preferences/CFPreferences.h"
 
 #include <QCoreApplication>
 #include <QHash>

@@ -3,10 +3,10 @@
 #include "KTXActionKeys.h"
 #include "KTXConstants.h"
 #include "KTXHotKey.h"
-#include "platform/foundation/Description.h"
-#include "platform/foundation/NSLog.h"
-#include "platform/foundation/NSNotificationCenter.h"
-#include "platform/foundation/VirtualKeyCodes.h"
+#include "platform/foundation/keyboard/VirtualKeyCodes.h"
+#include "platform/foundation/notifications/NSNotificationCenter.h"
+#include "platform/foundation/propertylists/Description.h"
+#include "platform/foundation/system/NSLog.h"
 
 #include <algorithm>
 #include <limits>

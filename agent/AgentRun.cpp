@@ -3,10 +3,10 @@
 #include "agent/linux/AgentName.h"
 #include "agent/linux/AgentObject.h"
 #include "agent/linux/ProgramReplacement.h"
-#include "platform/foundation/NSBundle.h"
-#include "platform/foundation/NSLog.h"
-#include "platform/foundation/linux/ApplicationIdentifier.h"
-#include "platform/foundation/linux/EndingSignals.h"
+#include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/processes/ApplicationIdentifier.h"
+#include "platform/foundation/system/EndingSignals.h"
+#include "platform/foundation/system/NSLog.h"
 
 #include <QCoreApplication>
 #include <cstdio>

@@ -3,8 +3,8 @@
 #include "KTXActionKeys.h"
 #include "KTXConstants.h"
 #include "KTXModifiers.h"
-#include "platform/foundation/CFPreferences.h"
-#include "platform/foundation/NSNumber.h"
+#include "platform/foundation/propertylists/CFTypeID.h"
+#include "platform/foundation/propertylists/NSNumber.h"
 
 #include <algorithm>
 #include <cmath>

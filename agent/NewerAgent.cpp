@@ -1,9 +1,9 @@
 #include "agent/NewerAgent.h"
 
 #include "KTXConstants.h"
-#include "platform/foundation/Description.h"
-#include "platform/foundation/NSBundle.h"
-#include "platform/foundation/NSLog.h"
+#include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/propertylists/Description.h"
+#include "platform/foundation/system/NSLog.h"
 
 #include <QFileInfo>
 

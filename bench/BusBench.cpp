@@ -2,7 +2,7 @@
 // same run.
 
 #include "bench/Median.h"
-#include "platform/foundation/NSDistributedNotificationCenter.h"
+#include "platform/foundation/notifications/NSDistributedNotificationCenter.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>

@@ -5,7 +5,7 @@
 #include "KeyPress.h"
 #include "bench/Median.h"
 #include "bench/OpenedPane.h"
-#include "platform/foundation/NSUserDefaults.h"
+#include "platform/foundation/preferences/NSUserDefaults.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -4,8 +4,8 @@
 #include "KTXHotKey.h"
 #include "KeyPress.h"
 #include "bench/Median.h"
-#include "platform/foundation/NSNotificationCenter.h"
-#include "platform/foundation/linux/X11.h"
+#include "platform/foundation/notifications/NSNotificationCenter.h"
+#include "platform/foundation/system/X11.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

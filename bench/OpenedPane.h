@@ -3,8 +3,8 @@
 #include "pane/KTXLumarooPreferencePane.h"
 
 #include "KTXConstants.h"
-#include "platform/foundation/CFPreferences.h"
-#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/preferences/CFPreferences.h"
 
 #include <QCoreApplication>
 #include <memory>

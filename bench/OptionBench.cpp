@@ -4,7 +4,7 @@
 
 #include "bench/Median.h"
 #include "bench/OpenedPane.h"
-#include "platform/foundation/NSUserDefaults.h"
+#include "platform/foundation/preferences/NSUserDefaults.h"
 
 #include <QApplication>
 #include <QDBusConnection>

@@ -4,9 +4,9 @@
 #include "KTXActionKeys.h"
 #include "KTXConstants.h"
 #include "pane/KTXLumarooPreferencePane.h"
-#include "platform/foundation/CFPreferences.h"
-#include "platform/foundation/NSBundle.h"
-#include "platform/foundation/PropertyList.h"
+#include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/preferences/CFPreferences.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 #include <QApplication>
 #include <QDBusConnection>

@@ -3,8 +3,8 @@
 
 #include "SystemCallFaults.h"
 #include "bench/Median.h"
-#include "platform/foundation/CFPreferences.h"
-#include "platform/foundation/NSUserDefaults.h"
+#include "platform/foundation/preferences/CFPreferences.h"
+#include "platform/foundation/preferences/NSUserDefaults.h"
 
 #include <QByteArray>
 #include <QDir>

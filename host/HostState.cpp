@@ -1,6 +1,6 @@
 #include "host/HostState.h"
 
-#include "platform/foundation/CFPreferences.h"
+#include "platform/foundation/preferences/CFPreferences.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "host/HostText.h"
 
-#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/bundles/NSBundle.h"
 
 QString hostText(const QString &english)
 {

@@ -6,7 +6,7 @@
 #include "host/Overview.h"
 #include "host/PanePage.h"
 #include "host/linux/WindowActivation.h"
-#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/bundles/NSBundle.h"
 
 #include <QApplication>
 #include <QCloseEvent>

@@ -2,7 +2,7 @@
 
 #include "host/IconFile.h"
 #include "host/LetterTile.h"
-#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/bundles/NSBundle.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -2,7 +2,7 @@
 
 #include "host/PanePlugIn.h"
 #include "host/PaneStage.h"
-#include "platform/appkit/NSPreferencePane.h"
+#include "platform/appkit/interface/NSPreferencePane.h"
 #include "platform/foundation/Boundary.h"
 
 #include <utility>

@@ -1,9 +1,9 @@
 #include "host/PanePlugIn.h"
 
 #include "host/linux/PlugInImage.h"
-#include "platform/appkit/NSPreferencePane.h"
+#include "platform/appkit/interface/NSPreferencePane.h"
 #include "platform/foundation/Boundary.h"
-#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/bundles/NSBundle.h"
 
 #include <QFileInfo>
 #include <QHash>

@@ -6,7 +6,7 @@
 #include "host/linux/SingleInstance.h"
 #include "host/linux/WindowActivation.h"
 #include "platform/appkit/NSApplication.h"
-#include "platform/foundation/linux/EndingSignals.h"
+#include "platform/foundation/system/EndingSignals.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

@@ -1,7 +1,7 @@
 #include "pane/AlertOverEditor.h"
 
-#include "platform/appkit/FieldEditor.h"
-#include "platform/appkit/SystemColors.h"
+#include "platform/appkit/colors/SystemColors.h"
+#include "platform/appkit/textfields/FieldEditor.h"
 
 void displayOverEditor(FieldEditor *editor, const std::function<void()> &display)
 {

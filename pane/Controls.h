@@ -2,9 +2,9 @@
 
 // The kinds of control the pane's outlets are, and the functions to use them with.
 
-#include "platform/appkit/Controls.h"
-#include "platform/appkit/NSColorWell.h"
-#include "platform/appkit/NSMatrix.h"
+#include "platform/appkit/colors/NSColorWell.h"
+#include "platform/appkit/controls/Controls.h"
+#include "platform/appkit/controls/NSMatrix.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

@@ -1,9 +1,9 @@
 #include "pane/KTXLumarooPreferencePane.h"
 
-#include "platform/appkit/NSAttributedString.h"
-#include "platform/foundation/CFPreferences.h"
-#include "platform/foundation/Description.h"
-#include "platform/foundation/NSBundle.h"
+#include "platform/appkit/richtext/NSAttributedString.h"
+#include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/propertylists/CFTypeID.h"
+#include "platform/foundation/propertylists/Description.h"
 
 void KTXLumarooPreferencePane::showVersion()
 {

@@ -2,16 +2,16 @@
 
 #include "KTXConstants.h"
 #include "platform/appkit/NSApplication.h"
-#include "platform/foundation/CFNotificationCenter.h"
-#include "platform/foundation/CFPreferences.h"
-#include "platform/foundation/Description.h"
-#include "platform/foundation/LaunchServices.h"
-#include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSException.h"
-#include "platform/foundation/NSLog.h"
-#include "platform/foundation/NSNotificationCenter.h"
-#include "platform/foundation/NSTask.h"
-#include "platform/foundation/Processes.h"
+#include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/notifications/CFNotificationCenter.h"
+#include "platform/foundation/notifications/NSNotificationCenter.h"
+#include "platform/foundation/preferences/CFPreferences.h"
+#include "platform/foundation/processes/LaunchServices.h"
+#include "platform/foundation/processes/NSTask.h"
+#include "platform/foundation/processes/Processes.h"
+#include "platform/foundation/propertylists/Description.h"
+#include "platform/foundation/system/NSLog.h"
 
 namespace {
 

@@ -1,9 +1,10 @@
 #include "pane/KTXLumarooPreferencePane.h"
 
 #include "KTXConstants.h"
-#include "platform/appkit/NSAlert.h"
-#include "platform/foundation/CFPreferences.h"
-#include "platform/foundation/NSBundle.h"
+#include "platform/appkit/alerts/NSAlert.h"
+#include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/preferences/CFPreferences.h"
+#include "platform/foundation/propertylists/CFTypeID.h"
 
 namespace {
 

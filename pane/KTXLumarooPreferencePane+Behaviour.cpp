@@ -1,7 +1,7 @@
 #include "pane/KTXLumarooPreferencePane.h"
 
 #include "KTXConstants.h"
-#include "platform/foundation/CFPreferences.h"
+#include "platform/foundation/preferences/CFPreferences.h"
 
 namespace {
 

@@ -4,12 +4,13 @@
 #include "KTXConstants.h"
 #include "KeyCodeTranslator.h"
 #include "pane/AlertOverEditor.h"
-#include "platform/appkit/FieldEditor.h"
 #include "platform/appkit/NSApplication.h"
 #include "platform/appkit/NSBeep.h"
-#include "platform/appkit/SystemColors.h"
-#include "platform/foundation/CFPreferences.h"
-#include "platform/foundation/NSNumber.h"
+#include "platform/appkit/colors/SystemColors.h"
+#include "platform/appkit/textfields/FieldEditor.h"
+#include "platform/foundation/preferences/CFPreferences.h"
+#include "platform/foundation/propertylists/CFTypeID.h"
+#include "platform/foundation/propertylists/NSNumber.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "pane/KTXLumarooPreferencePane.h"
 
 #include "KTXConstants.h"
-#include "platform/foundation/NSUserDefaults.h"
+#include "platform/foundation/preferences/NSUserDefaults.h"
 
 namespace {
 

@@ -3,9 +3,10 @@
 #include "KTXConstants.h"
 #include "KeyCodeTranslator.h"
 #include "pane/AlertOverEditor.h"
-#include "platform/appkit/FieldEditor.h"
 #include "platform/appkit/NSBeep.h"
-#include "platform/foundation/CFPreferences.h"
+#include "platform/appkit/textfields/FieldEditor.h"
+#include "platform/foundation/preferences/CFPreferences.h"
+#include "platform/foundation/propertylists/CFTypeID.h"
 
 namespace {
 

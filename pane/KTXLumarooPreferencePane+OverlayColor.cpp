@@ -1,7 +1,7 @@
 #include "pane/KTXLumarooPreferencePane.h"
 
 #include "KTXConstants.h"
-#include "platform/foundation/NSArchiver.h"
+#include "platform/foundation/colors/NSArchiver.h"
 
 void KTXLumarooPreferencePane::updateColorInfo(QObject *sender)
 {

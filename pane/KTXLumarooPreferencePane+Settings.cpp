@@ -3,12 +3,13 @@
 #include "KTXConstants.h"
 #include "KTXModifiers.h"
 #include "KeyCodeTranslator.h"
-#include "platform/foundation/CFNotificationCenter.h"
-#include "platform/foundation/CFPreferences.h"
-#include "platform/foundation/Description.h"
-#include "platform/foundation/NSArchiver.h"
-#include "platform/foundation/NSNumber.h"
-#include "platform/foundation/NSUserDefaults.h"
+#include "platform/foundation/colors/NSArchiver.h"
+#include "platform/foundation/notifications/CFNotificationCenter.h"
+#include "platform/foundation/preferences/CFPreferences.h"
+#include "platform/foundation/preferences/NSUserDefaults.h"
+#include "platform/foundation/propertylists/CFTypeID.h"
+#include "platform/foundation/propertylists/Description.h"
+#include "platform/foundation/propertylists/NSNumber.h"
 
 namespace {
 

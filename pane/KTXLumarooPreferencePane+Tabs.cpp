@@ -4,8 +4,8 @@
 #include "pane/TabIndexes.h"
 #include "platform/appkit/NSApplication.h"
 #include "platform/appkit/NSBeep.h"
-#include "platform/foundation/CFNotificationCenter.h"
-#include "platform/foundation/NSNotificationCenter.h"
+#include "platform/foundation/notifications/CFNotificationCenter.h"
+#include "platform/foundation/notifications/NSNotificationCenter.h"
 
 void KTXLumarooPreferencePane::tabViewDidSelectTabViewItem(QTabWidget *tabView, QWidget *tabViewItem)
 {

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "pane/PaneOutlets.h"
-#include "platform/appkit/NSControlTextEditingDelegate.h"
-#include "platform/appkit/NSPreferencePane.h"
-#include "platform/appkit/NSTabViewDelegate.h"
-#include "platform/appkit/NSWindowDelegate.h"
-#include "platform/foundation/NSNotification.h"
-#include "platform/foundation/ProcessSerialNumber.h"
+#include "platform/appkit/controls/NSTabViewDelegate.h"
+#include "platform/appkit/interface/NSPreferencePane.h"
+#include "platform/appkit/textfields/NSControlTextEditingDelegate.h"
+#include "platform/appkit/textfields/NSWindowDelegate.h"
+#include "platform/foundation/notifications/NSNotification.h"
+#include "platform/foundation/processes/ProcessSerialNumber.h"
 
 class NSAlert;
 class QUrl;

@@ -1,10 +1,10 @@
 #include "DefaultsCommands.h"
-#include "platform/foundation/CFNotificationCenter.h"
-#include "platform/foundation/CFPreferences.h"
-#include "platform/foundation/Description.h"
-#include "platform/foundation/NSUserDefaults.h"
-#include "platform/foundation/PropertyList.h"
-#include "platform/foundation/linux/SessionBus.h"
+#include "platform/foundation/notifications/CFNotificationCenter.h"
+#include "platform/foundation/notifications/SessionBus.h"
+#include "platform/foundation/preferences/CFPreferences.h"
+#include "platform/foundation/preferences/NSUserDefaults.h"
+#include "platform/foundation/propertylists/Description.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 #include <QFile>
 #include <QHash>

@@ -2,7 +2,7 @@
 
 #include "KTXConstants.h"
 #include "agent/linux/AgentBus.h"
-#include "platform/foundation/NSDistributedNotificationCenter.h"
+#include "platform/foundation/notifications/NSDistributedNotificationCenter.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>

@@ -1,7 +1,7 @@
 #include "agent/linux/RunningAgent.h"
 
 #include "agent/linux/AgentBus.h"
-#include "platform/foundation/linux/SessionBus.h"
+#include "platform/foundation/notifications/SessionBus.h"
 
 #include <QDBusConnection>
 #include <QDBusError>

@@ -1,6 +1,6 @@
 #include "host/linux/SingleInstance.h"
 
-#include "platform/foundation/NSLog.h"
+#include "platform/foundation/system/NSLog.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>

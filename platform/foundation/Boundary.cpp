@@ -1,7 +1,7 @@
 #include "platform/foundation/Boundary.h"
 
 #include "platform/foundation/NSException.h"
-#include "platform/foundation/NSLog.h"
+#include "platform/foundation/system/NSLog.h"
 
 void logCaughtException(const char *place)
 {

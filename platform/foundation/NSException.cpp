@@ -1,6 +1,6 @@
 #include "platform/foundation/NSException.h"
 
-#include "platform/foundation/NSLog.h"
+#include "platform/foundation/system/NSLog.h"
 
 NSException::NSException(QString name, QString reason)
     : name_(std::move(name)), reason_(std::move(reason)), reasonBytes_(reason_.toUtf8())

@@ -5,7 +5,7 @@
 #include "Wait.h"
 #include "agent/AgentArguments.h"
 #include "agent/AgentSettings.h"
-#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/bundles/NSBundle.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

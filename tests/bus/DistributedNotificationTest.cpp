@@ -1,8 +1,8 @@
 #include "BusRecorder.h"
 #include "CapturedLog.h"
 #include "Wait.h"
-#include "platform/foundation/CFNotificationCenter.h"
 #include "platform/foundation/NSException.h"
+#include "platform/foundation/notifications/CFNotificationCenter.h"
 
 #include <gtest/gtest.h>
 

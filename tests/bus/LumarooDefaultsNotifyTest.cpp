@@ -1,6 +1,6 @@
 #include "BusRecorder.h"
 #include "DefaultsProgram.h"
-#include "platform/foundation/CFPreferences.h"
+#include "platform/foundation/preferences/CFPreferences.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "Wait.h"
-#include "platform/foundation/NSDistributedNotificationCenter.h"
+#include "platform/foundation/notifications/NSDistributedNotificationCenter.h"
 
 #include <QCoreApplication>
 #include <QProcess>

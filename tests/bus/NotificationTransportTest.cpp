@@ -2,8 +2,8 @@
 
 #include "BusRecorder.h"
 #include "Wait.h"
-#include "platform/foundation/NSDistributedNotificationCenter.h"
-#include "platform/foundation/linux/NotificationMessage.h"
+#include "platform/foundation/notifications/NSDistributedNotificationCenter.h"
+#include "platform/foundation/notifications/linux/NotificationMessage.h"
 
 #include <QDBusArgument>
 #include <QDBusConnectionInterface>
@@ -251,8 +251,8 @@ TEST_F(NotificationTransport, postingDoesNotWaitForTheBus)
 
 TEST_F(NotificationTransport, theCheckedInDescriptionIsThatOfTheSignalsOnTheBus)
 {
-    QFile file(
-        qEnvironmentVariable("LUMAROO_SOURCE") + "/platform/foundation/com.quorvane.DistributedNotificationCenter.xml");
+    QFile file(qEnvironmentVariable("LUMAROO_SOURCE")
+        + "/platform/foundation/notifications/com.quorvane.DistributedNotificationCenter.xml");
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     QXmlStreamReader reader(&file);
     QStringList names;

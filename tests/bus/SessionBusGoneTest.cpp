@@ -1,6 +1,6 @@
 #include "CapturedLog.h"
 #include "Wait.h"
-#include "platform/foundation/NSDistributedNotificationCenter.h"
+#include "platform/foundation/notifications/NSDistributedNotificationCenter.h"
 
 #include <QDBusConnection>
 #include <csignal>

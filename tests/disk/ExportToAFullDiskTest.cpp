@@ -1,5 +1,5 @@
 #include "DefaultsProgram.h"
-#include "platform/foundation/CFPreferences.h"
+#include "platform/foundation/preferences/CFPreferences.h"
 
 // An export that does not fit is no success.
 

@@ -3,8 +3,8 @@
 #include "AlertSheetOnWindow.h"
 #include "DesktopWindows.h"
 #include "TestBundle.h"
-#include "platform/appkit/NSHelpManager.h"
-#include "platform/foundation/NSBundle.h"
+#include "platform/appkit/help/NSHelpManager.h"
+#include "platform/foundation/bundles/NSBundle.h"
 
 #include <QApplication>
 #include <QLabel>

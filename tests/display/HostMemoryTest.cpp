@@ -3,7 +3,7 @@
 #include "PaneBundle.h"
 #include "Wait.h"
 #include "host/SettingsApplication.h"
-#include "platform/foundation/NSUserDefaults.h"
+#include "platform/foundation/preferences/NSUserDefaults.h"
 
 #include <QListView>
 #include <gmock/gmock.h>

@@ -5,11 +5,11 @@
 #include "OpenAlert.h"
 #include "Wait.h"
 #include "host/SettingsApplication.h"
-#include "platform/appkit/Controls.h"
+#include "platform/appkit/controls/Controls.h"
 
 #include "KTXConstants.h"
-#include "platform/foundation/NSUserDefaults.h"
-#include "platform/foundation/PropertyList.h"
+#include "platform/foundation/preferences/NSUserDefaults.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 #include <QAbstractButton>
 #include <QLabel>

@@ -5,9 +5,9 @@
 #include "PaneOnHotKeyPage.h"
 #include "Wait.h"
 
-#include "platform/appkit/FieldEditor.h"
-#include "platform/appkit/StyledLabel.h"
-#include "platform/appkit/SystemColors.h"
+#include "platform/appkit/colors/SystemColors.h"
+#include "platform/appkit/controls/StyledLabel.h"
+#include "platform/appkit/textfields/FieldEditor.h"
 
 #include <QAccessible>
 #include <linux/input-event-codes.h>

@@ -6,7 +6,7 @@
 #include "Wait.h"
 
 #include "KTXConstants.h"
-#include "platform/appkit/FieldEditor.h"
+#include "platform/appkit/textfields/FieldEditor.h"
 
 #include <QAccessible>
 #include <QClipboard>

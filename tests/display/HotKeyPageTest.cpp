@@ -2,8 +2,8 @@
 
 #include "LoadedWindow.h"
 #include "Wait.h"
-#include "platform/appkit/ConflictMarker.h"
-#include "platform/appkit/Controls.h"
+#include "platform/appkit/controls/ConflictMarker.h"
+#include "platform/appkit/controls/Controls.h"
 
 #include <QLabel>
 #include <QLineEdit>

@@ -6,8 +6,8 @@
 #include "Wait.h"
 
 #include "KTXConstants.h"
-#include "platform/appkit/FieldEditor.h"
-#include "platform/appkit/SystemColors.h"
+#include "platform/appkit/colors/SystemColors.h"
+#include "platform/appkit/textfields/FieldEditor.h"
 
 #include <QLabel>
 #include <linux/input-event-codes.h>

@@ -1,4 +1,4 @@
-#include "platform/foundation/KeyboardLayout.h"
+#include "platform/foundation/keyboard/KeyboardLayout.h"
 #include "KeyCodeTranslator.h"
 #include "KeyCodes.h"
 #include "KeyPress.h"

@@ -1,9 +1,9 @@
-#include "platform/appkit/NSAlert.h"
+#include "platform/appkit/alerts/NSAlert.h"
 #include "KeyPress.h"
 #include "TestBundle.h"
 #include "Wait.h"
-#include "platform/appkit/NSHelpManager.h"
-#include "platform/foundation/NSBundle.h"
+#include "platform/appkit/help/NSHelpManager.h"
+#include "platform/foundation/bundles/NSBundle.h"
 
 #include <QAccessible>
 #include <QApplication>

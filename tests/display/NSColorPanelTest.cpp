@@ -1,6 +1,6 @@
-#include "platform/appkit/NSColorPanel.h"
+#include "platform/appkit/colors/NSColorPanel.h"
 #include "Wait.h"
-#include "platform/appkit/NSColorWell.h"
+#include "platform/appkit/colors/NSColorWell.h"
 
 #include <QColorDialog>
 #include <QGuiApplication>

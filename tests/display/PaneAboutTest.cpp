@@ -1,6 +1,6 @@
 #include "PaneOnRealStore.h"
 
-#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/bundles/NSBundle.h"
 
 namespace {
 

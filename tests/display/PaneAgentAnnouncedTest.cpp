@@ -4,7 +4,7 @@
 #include "Wait.h"
 
 #include "KTXConstants.h"
-#include "platform/foundation/NSNotificationCenter.h"
+#include "platform/foundation/notifications/NSNotificationCenter.h"
 
 #include <cmath>
 

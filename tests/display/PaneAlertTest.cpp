@@ -6,10 +6,10 @@
 #include "Wait.h"
 
 #include "KTXConstants.h"
-#include "platform/appkit/NSAlert.h"
-#include "platform/appkit/NSHelpManager.h"
-#include "platform/foundation/NSBundle.h"
-#include "platform/foundation/PropertyList.h"
+#include "platform/appkit/alerts/NSAlert.h"
+#include "platform/appkit/help/NSHelpManager.h"
+#include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 #include <QPushButton>
 #include <linux/input-event-codes.h>

@@ -6,11 +6,11 @@
 #include "Wait.h"
 
 #include "KTXConstants.h"
-#include "platform/appkit/FloatSlider.h"
-#include "platform/appkit/NSColorWell.h"
-#include "platform/appkit/SystemColors.h"
-#include "platform/foundation/NSArchiver.h"
-#include "platform/foundation/PropertyList.h"
+#include "platform/appkit/colors/NSColorWell.h"
+#include "platform/appkit/colors/SystemColors.h"
+#include "platform/appkit/controls/FloatSlider.h"
+#include "platform/foundation/colors/NSArchiver.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 #include <QAbstractItemView>
 #include <QClipboard>

@@ -1,7 +1,7 @@
 #include "PaneOnRealStore.h"
 #include "Wait.h"
 
-#include "platform/appkit/NSColorPanel.h"
+#include "platform/appkit/colors/NSColorPanel.h"
 
 #include <QColorDialog>
 

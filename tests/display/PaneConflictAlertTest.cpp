@@ -3,7 +3,7 @@
 #include "Wait.h"
 
 #include "KTXConstants.h"
-#include "platform/appkit/NSHelpManager.h"
+#include "platform/appkit/help/NSHelpManager.h"
 
 #include <linux/input-event-codes.h>
 

@@ -4,8 +4,8 @@
 #include "Wait.h"
 
 #include "KTXConstants.h"
-#include "platform/appkit/FloatSlider.h"
-#include "platform/foundation/PropertyList.h"
+#include "platform/appkit/controls/FloatSlider.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 #include <QTest>
 

@@ -1,7 +1,7 @@
 // The modifiers' matrix, which is not shown, and what each showing of the pane does with its zero cell.
 
 #include "PaneOnModifiers.h"
-#include "platform/appkit/SystemColors.h"
+#include "platform/appkit/colors/SystemColors.h"
 
 #include <QLineEdit>
 

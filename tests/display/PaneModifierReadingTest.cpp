@@ -1,7 +1,7 @@
 #include "PaneOnRealStore.h"
 
 #include "KTXConstants.h"
-#include "platform/foundation/PropertyList.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include "Wait.h"
 
 #include "KTXConstants.h"
-#include "platform/foundation/PropertyList.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 namespace {
 

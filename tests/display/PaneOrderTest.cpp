@@ -5,9 +5,9 @@
 #include "Wait.h"
 
 #include "KTXConstants.h"
-#include "platform/appkit/NSColorWell.h"
-#include "platform/foundation/NSArchiver.h"
-#include "platform/foundation/NSBundle.h"
+#include "platform/appkit/colors/NSColorWell.h"
+#include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/colors/NSArchiver.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

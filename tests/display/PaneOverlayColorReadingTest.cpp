@@ -1,8 +1,8 @@
 #include "PaneOnRealStore.h"
 
 #include "KTXConstants.h"
-#include "platform/foundation/NSArchiver.h"
-#include "platform/foundation/PropertyList.h"
+#include "platform/foundation/colors/NSArchiver.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 namespace {
 

@@ -6,10 +6,10 @@
 #include "Wait.h"
 
 #include "KTXConstants.h"
-#include "platform/appkit/NSColorPanel.h"
-#include "platform/appkit/SystemColors.h"
-#include "platform/foundation/NSArchiver.h"
-#include "platform/foundation/PropertyList.h"
+#include "platform/appkit/colors/NSColorPanel.h"
+#include "platform/appkit/colors/SystemColors.h"
+#include "platform/foundation/colors/NSArchiver.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 #include <QColorDialog>
 #include <QTest>

@@ -2,9 +2,9 @@
 #include "Wait.h"
 
 #include "KTXConstants.h"
-#include "platform/foundation/CFPreferences.h"
-#include "platform/foundation/NSArchiver.h"
-#include "platform/foundation/PropertyList.h"
+#include "platform/foundation/colors/NSArchiver.h"
+#include "platform/foundation/preferences/CFPreferences.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 #include <sys/stat.h>
 

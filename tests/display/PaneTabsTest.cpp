@@ -8,9 +8,9 @@
 #include "KTXActionKeys.h"
 #include "KTXConstants.h"
 #include "KeyCodeTranslator.h"
-#include "platform/foundation/CFPreferences.h"
 #include "platform/foundation/NSException.h"
-#include "platform/foundation/NSNotificationCenter.h"
+#include "platform/foundation/notifications/NSNotificationCenter.h"
+#include "platform/foundation/preferences/CFPreferences.h"
 
 #include <QTabBar>
 

@@ -2,7 +2,7 @@
 
 #include "LoadedWindow.h"
 #include "Wait.h"
-#include "platform/appkit/NSMatrix.h"
+#include "platform/appkit/controls/NSMatrix.h"
 
 #include <QAbstractButton>
 #include <QAccessible>

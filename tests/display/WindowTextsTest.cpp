@@ -2,7 +2,7 @@
 
 #include "LoadedWindow.h"
 #include "Wait.h"
-#include "platform/appkit/StyledLabel.h"
+#include "platform/appkit/controls/StyledLabel.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

@@ -1,7 +1,7 @@
 // What a stranger puts on the bus becomes a notification of plain values, or none. The messages go over a real
 // connection between two ends in this process, so that they arrive as the bus library hands them over.
 
-#include "platform/foundation/linux/NotificationMessage.h"
+#include "platform/foundation/notifications/linux/NotificationMessage.h"
 
 #include <QCoreApplication>
 #include <QDBusArgument>

@@ -1,5 +1,5 @@
-#include "platform/foundation/ColorArchiveWriter.h"
-#include "platform/foundation/NSArchiver.h"
+#include "platform/foundation/colors/NSArchiver.h"
+#include "platform/foundation/colors/internal/ColorArchiveWriter.h"
 
 #include <cstdlib>
 

@@ -1,4 +1,4 @@
-#include "platform/foundation/PropertyList.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 #include <cstdlib>
 

@@ -3,8 +3,8 @@
 #include "CapturedLog.h"
 #include "HotKeyObjects.h"
 #include "KeyPress.h"
-#include "platform/foundation/HotKeyEvents.h"
 #include "platform/foundation/NSException.h"
+#include "platform/foundation/hotkeys/internal/HotKeyEvents.h"
 
 #include <linux/input-event-codes.h>
 #include <stdexcept>

@@ -4,7 +4,7 @@
 #include "KeyPress.h"
 #include "Keyboard.h"
 #include "Wait.h"
-#include "platform/foundation/NSNotificationCenter.h"
+#include "platform/foundation/notifications/NSNotificationCenter.h"
 
 #include <QProcess>
 #include <QScopeGuard>

@@ -3,7 +3,7 @@
 #include "CapturedLog.h"
 #include "KTXHotKey.h"
 #include "SecondDisplay.h"
-#include "platform/foundation/NSNotificationCenter.h"
+#include "platform/foundation/notifications/NSNotificationCenter.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "AgentBundle.h"
 
 #include "AgentProgram.h"
-#include "platform/foundation/NSBundle.h"
-#include "platform/foundation/PropertyList.h"
+#include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 #include <QDir>
 #include <QFile>

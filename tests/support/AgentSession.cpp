@@ -2,9 +2,9 @@
 
 #include "KTXConstants.h"
 #include "Wait.h"
-#include "platform/foundation/Description.h"
-#include "platform/foundation/NSBundle.h"
-#include "platform/foundation/PropertyList.h"
+#include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/propertylists/Description.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 #include <QDir>
 #include <QFile>

@@ -3,8 +3,8 @@
 #include "KeyPress.h"
 #include "OpenAlert.h"
 #include "Wait.h"
-#include "platform/appkit/Controls.h"
-#include "platform/appkit/NSAlert.h"
+#include "platform/appkit/alerts/NSAlert.h"
+#include "platform/appkit/controls/Controls.h"
 
 #include <QCheckBox>
 #include <QLineEdit>

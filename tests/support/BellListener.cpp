@@ -1,6 +1,6 @@
 #include "BellListener.h"
 
-#include "platform/foundation/linux/X11.h"
+#include "platform/foundation/system/X11.h"
 
 #include <QGuiApplication>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/NSColor.h"
+#include "platform/foundation/colors/NSColor.h"
 
 #include <QByteArray>
 #include <QList>

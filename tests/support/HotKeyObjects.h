@@ -4,7 +4,7 @@
 #include "OtherClient.h"
 #include "Wait.h"
 
-#include "platform/foundation/NSNotificationCenter.h"
+#include "platform/foundation/notifications/NSNotificationCenter.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 
 #include "OtherClient.h"
 
-#include "platform/foundation/HotKeys.h"
+#include "platform/foundation/hotkeys/HotKeys.h"
 
 #include <QList>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "Keyboard.h"
 
-#include "platform/foundation/KeyboardLayout.h"
-#include "platform/foundation/linux/X11.h"
+#include "platform/foundation/keyboard/KeyboardLayout.h"
+#include "platform/foundation/system/X11.h"
 
 #include <QProcess>
 #include <cstdlib>

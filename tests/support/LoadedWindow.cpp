@@ -2,8 +2,8 @@
 
 #include "CapturedLog.h"
 #include "Wait.h"
-#include "platform/appkit/InterfaceFile.h"
-#include "platform/foundation/NSBundle.h"
+#include "platform/appkit/interface/InterfaceFile.h"
+#include "platform/foundation/bundles/NSBundle.h"
 
 #include <QDir>
 #include <QFile>

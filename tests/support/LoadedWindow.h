@@ -1,8 +1,8 @@
 #pragma once
 
 #include "TestBundle.h"
-#include "platform/appkit/NSControlTextEditingDelegate.h"
-#include "platform/appkit/NSTabViewDelegate.h"
+#include "platform/appkit/controls/NSTabViewDelegate.h"
+#include "platform/appkit/textfields/NSControlTextEditingDelegate.h"
 
 #include <QObject>
 #include <QPointer>

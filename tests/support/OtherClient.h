@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/linux/X11.h"
+#include "platform/foundation/system/X11.h"
 
 #include <QList>
 

@@ -5,7 +5,7 @@
 
 #include "KTXActionKeys.h"
 #include "KTXConstants.h"
-#include "platform/foundation/PropertyList.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include "Wait.h"
 
 #include "KTXConstants.h"
-#include "platform/foundation/PropertyList.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 #include <linux/input-event-codes.h>
 

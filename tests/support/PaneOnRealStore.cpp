@@ -3,10 +3,10 @@
 #include "Wait.h"
 
 #include "KTXConstants.h"
-#include "platform/foundation/CFPreferences.h"
-#include "platform/foundation/NSBundle.h"
-#include "platform/foundation/NSUserDefaults.h"
-#include "platform/foundation/PropertyList.h"
+#include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/preferences/CFPreferences.h"
+#include "platform/foundation/preferences/NSUserDefaults.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 #include <QDirIterator>
 

@@ -4,7 +4,7 @@
 #include "TestApplication.h"
 
 #include "KTXConstants.h"
-#include "platform/foundation/Processes.h"
+#include "platform/foundation/processes/Processes.h"
 
 PaneWithAgent::~PaneWithAgent()
 {

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "CapturedLog.h"
-#include "platform/foundation/CFPreferences.h"
-#include "platform/foundation/NSUserDefaults.h"
-#include "platform/foundation/PropertyList.h"
-#include "platform/foundation/linux/SystemCalls.h"
+#include "platform/foundation/preferences/CFPreferences.h"
+#include "platform/foundation/preferences/NSUserDefaults.h"
+#include "platform/foundation/propertylists/PropertyList.h"
+#include "platform/foundation/system/SystemCalls.h"
 
 #include <QDir>
 #include <QFile>

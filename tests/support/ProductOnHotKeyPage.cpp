@@ -5,8 +5,8 @@
 #include "Wait.h"
 
 #include "KTXConstants.h"
-#include "platform/foundation/NSUserDefaults.h"
-#include "platform/foundation/PropertyList.h"
+#include "platform/foundation/preferences/NSUserDefaults.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 #include <linux/input-event-codes.h>
 

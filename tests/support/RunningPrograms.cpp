@@ -2,7 +2,7 @@
 
 #include "Wait.h"
 
-#include "platform/foundation/Processes.h"
+#include "platform/foundation/processes/Processes.h"
 
 #include <QFile>
 #include <csignal>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/linux/SystemCalls.h"
+#include "platform/foundation/system/SystemCalls.h"
 
 #include <cerrno>
 #include <fcntl.h>

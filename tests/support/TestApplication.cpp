@@ -2,7 +2,7 @@
 
 #include "RunningPrograms.h"
 
-#include "platform/foundation/LaunchServices.h"
+#include "platform/foundation/processes/LaunchServices.h"
 
 #include <gtest/gtest.h>
 

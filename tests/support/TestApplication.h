@@ -2,7 +2,7 @@
 
 #include "TestBundle.h"
 
-#include "platform/foundation/ProcessSerialNumber.h"
+#include "platform/foundation/processes/ProcessSerialNumber.h"
 
 #include <sys/types.h>
 

@@ -1,6 +1,6 @@
 #include "TestBundle.h"
 
-#include "platform/foundation/PropertyList.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 #include <QDir>
 #include <QFile>

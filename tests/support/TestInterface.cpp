@@ -1,6 +1,6 @@
 #include "TestInterface.h"
 
-#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/bundles/NSBundle.h"
 
 #include <QTabWidget>
 

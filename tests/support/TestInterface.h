@@ -1,8 +1,8 @@
 #pragma once
 
 #include "TestBundle.h"
-#include "platform/appkit/InterfaceFile.h"
-#include "platform/appkit/NSTabViewDelegate.h"
+#include "platform/appkit/controls/NSTabViewDelegate.h"
+#include "platform/appkit/interface/InterfaceFile.h"
 
 #include <QPointer>
 #include <QStringList>

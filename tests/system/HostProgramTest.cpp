@@ -5,7 +5,7 @@
 #include "KeyPress.h"
 #include "PaneBundle.h"
 #include "Wait.h"
-#include "platform/foundation/CFPreferences.h"
+#include "platform/foundation/preferences/CFPreferences.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>

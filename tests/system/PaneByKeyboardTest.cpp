@@ -5,8 +5,8 @@
 #include "KeyPress.h"
 #include "SettingsProgram.h"
 #include "Wait.h"
-#include "platform/foundation/CFPreferences.h"
-#include "platform/foundation/NSUserDefaults.h"
+#include "platform/foundation/preferences/CFPreferences.h"
+#include "platform/foundation/preferences/NSUserDefaults.h"
 
 #include <gtest/gtest.h>
 #include <linux/input-event-codes.h>

@@ -7,9 +7,9 @@
 #include "PaneBundle.h"
 #include "SettingsProgram.h"
 #include "Wait.h"
-#include "platform/foundation/CFPreferences.h"
-#include "platform/foundation/NSUserDefaults.h"
-#include "platform/foundation/PropertyList.h"
+#include "platform/foundation/preferences/CFPreferences.h"
+#include "platform/foundation/preferences/NSUserDefaults.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 #include <csignal>
 #include <gtest/gtest.h>

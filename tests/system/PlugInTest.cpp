@@ -1,7 +1,7 @@
 #include "KTXConstants.h"
-#include "platform/appkit/NSPreferencePane.h"
-#include "platform/foundation/CFPreferences.h"
-#include "platform/foundation/NSBundle.h"
+#include "platform/appkit/interface/NSPreferencePane.h"
+#include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/preferences/CFPreferences.h"
 
 #include <QPluginLoader>
 #include <gtest/gtest.h>

@@ -3,7 +3,7 @@
 #include "agent/AgentSettings.h"
 #include "KTXConstants.h"
 #include "agent/SettingsJson.h"
-#include "platform/foundation/PropertyList.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 #include <QDateTime>
 #include <QJsonArray>

@@ -1,6 +1,6 @@
 // What an alert says of its own, apart from the texts that it is given.
 
-#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/bundles/NSBundle.h"
 
 #include <QLocale>
 #include <gtest/gtest.h>

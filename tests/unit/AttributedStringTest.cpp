@@ -1,4 +1,4 @@
-#include "platform/appkit/NSAttributedString.h"
+#include "platform/appkit/richtext/NSAttributedString.h"
 
 #include <QTextBlock>
 #include <QTextCursor>

@@ -1,6 +1,6 @@
 #include "ColorSamples.h"
-#include "platform/foundation/ColorArchiveWriter.h"
-#include "platform/foundation/NSArchiver.h"
+#include "platform/foundation/colors/NSArchiver.h"
+#include "platform/foundation/colors/internal/ColorArchiveWriter.h"
 
 #include <gtest/gtest.h>
 #include <limits>

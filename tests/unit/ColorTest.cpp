@@ -1,4 +1,4 @@
-#include "platform/foundation/NSColor.h"
+#include "platform/foundation/colors/NSColor.h"
 
 #include <gtest/gtest.h>
 #include <limits>

@@ -1,5 +1,5 @@
-#include "platform/appkit/NSColorWell.h"
-#include "platform/appkit/SystemColors.h"
+#include "platform/appkit/colors/NSColorWell.h"
+#include "platform/appkit/colors/SystemColors.h"
 
 #include <QClipboard>
 #include <QDropEvent>

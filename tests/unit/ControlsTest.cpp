@@ -1,7 +1,7 @@
-#include "platform/appkit/Controls.h"
+#include "platform/appkit/controls/Controls.h"
 #include "Wait.h"
-#include "platform/appkit/ConflictMarker.h"
-#include "platform/appkit/FloatSlider.h"
+#include "platform/appkit/controls/ConflictMarker.h"
+#include "platform/appkit/controls/FloatSlider.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,5 +1,5 @@
 #include "ColorSamples.h"
-#include "platform/foundation/NSArchiver.h"
+#include "platform/foundation/colors/NSArchiver.h"
 
 #include <gtest/gtest.h>
 

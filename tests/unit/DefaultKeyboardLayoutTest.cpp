@@ -1,6 +1,6 @@
 #include "KeyCodes.h"
 #include "Keyboard.h"
-#include "platform/foundation/KeyboardLayout.h"
+#include "platform/foundation/keyboard/KeyboardLayout.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/foundation/Description.h"
+#include "platform/foundation/propertylists/Description.h"
 
 #include <QDateTime>
 #include <gtest/gtest.h>

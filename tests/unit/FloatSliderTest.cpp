@@ -1,5 +1,5 @@
-#include "platform/appkit/FloatSlider.h"
-#include "platform/appkit/Controls.h"
+#include "platform/appkit/controls/FloatSlider.h"
+#include "platform/appkit/controls/Controls.h"
 
 #include <QAccessible>
 #include <QLocale>

@@ -1,6 +1,6 @@
 // Handlers of hot key presses, and what they can ask an event.
 
-#include "platform/foundation/HotKeyEvents.h"
+#include "platform/foundation/hotkeys/internal/HotKeyEvents.h"
 #include "CapturedLog.h"
 
 #include <array>

@@ -1,9 +1,9 @@
 #include "CapturedLog.h"
 #include "TestInterface.h"
-#include "platform/appkit/Controls.h"
-#include "platform/appkit/FloatSlider.h"
-#include "platform/appkit/NSColorWell.h"
-#include "platform/appkit/NSMatrix.h"
+#include "platform/appkit/colors/NSColorWell.h"
+#include "platform/appkit/controls/Controls.h"
+#include "platform/appkit/controls/FloatSlider.h"
+#include "platform/appkit/controls/NSMatrix.h"
 #include "platform/foundation/NSException.h"
 
 #include <QAbstractButton>

@@ -1,9 +1,9 @@
 #include "CapturedLog.h"
 #include "TestInterface.h"
-#include "platform/appkit/ConflictMarker.h"
-#include "platform/appkit/Controls.h"
-#include "platform/appkit/NSMatrix.h"
-#include "platform/foundation/NSBundle.h"
+#include "platform/appkit/controls/ConflictMarker.h"
+#include "platform/appkit/controls/Controls.h"
+#include "platform/appkit/controls/NSMatrix.h"
+#include "platform/foundation/bundles/NSBundle.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,5 +1,5 @@
 #include "TestInterface.h"
-#include "platform/appkit/Controls.h"
+#include "platform/appkit/controls/Controls.h"
 
 #include <QComboBox>
 #include <QLabel>

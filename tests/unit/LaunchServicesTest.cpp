@@ -1,7 +1,7 @@
 #include "TestApplication.h"
 #include "Wait.h"
 
-#include "platform/foundation/LaunchServices.h"
+#include "platform/foundation/processes/LaunchServices.h"
 
 #include <QFile>
 #include <QTemporaryFile>

@@ -1,5 +1,5 @@
 #include "DefaultsProgram.h"
-#include "platform/foundation/PropertyList.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 #include <QDateTime>
 #include <QDir>

@@ -1,6 +1,6 @@
-#include "platform/appkit/NSMatrix.h"
+#include "platform/appkit/controls/NSMatrix.h"
 #include "TestInterface.h"
-#include "platform/appkit/Controls.h"
+#include "platform/appkit/controls/Controls.h"
 
 #include "Wait.h"
 

@@ -1,4 +1,4 @@
-#include "platform/foundation/NSNumber.h"
+#include "platform/foundation/propertylists/NSNumber.h"
 
 #include <gtest/gtest.h>
 

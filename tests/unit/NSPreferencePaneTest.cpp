@@ -1,8 +1,8 @@
-#include "platform/appkit/NSPreferencePane.h"
+#include "platform/appkit/interface/NSPreferencePane.h"
 #include "CapturedLog.h"
 #include "TestBundle.h"
-#include "platform/appkit/Controls.h"
-#include "platform/foundation/NSBundle.h"
+#include "platform/appkit/controls/Controls.h"
+#include "platform/foundation/bundles/NSBundle.h"
 
 #include <QPushButton>
 #include <gtest/gtest.h>

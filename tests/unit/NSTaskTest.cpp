@@ -2,7 +2,7 @@
 #include "Wait.h"
 
 #include "platform/foundation/NSException.h"
-#include "platform/foundation/NSTask.h"
+#include "platform/foundation/processes/NSTask.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "CapturedLog.h"
 #include "Wait.h"
-#include "platform/foundation/CFNotificationCenter.h"
+#include "platform/foundation/notifications/CFNotificationCenter.h"
 
 #include <gtest/gtest.h>
 

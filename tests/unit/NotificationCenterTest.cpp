@@ -1,6 +1,6 @@
 #include "CapturedLog.h"
 #include "platform/foundation/NSException.h"
-#include "platform/foundation/NSNotificationCenter.h"
+#include "platform/foundation/notifications/NSNotificationCenter.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "platform/appkit/NSAttributedString.h"
-#include "platform/foundation/NSBundle.h"
+#include "platform/appkit/richtext/NSAttributedString.h"
+#include "platform/foundation/bundles/NSBundle.h"
 
 #include <QIcon>
 #include <QImageReader>

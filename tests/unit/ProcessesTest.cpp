@@ -2,7 +2,7 @@
 #include "TestApplication.h"
 #include "Wait.h"
 
-#include "platform/foundation/Processes.h"
+#include "platform/foundation/processes/Processes.h"
 
 #include <QDir>
 #include <QProcess>

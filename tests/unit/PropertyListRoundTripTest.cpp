@@ -1,5 +1,5 @@
-#include "platform/foundation/PropertyList.h"
-#include "platform/foundation/PropertyListValue.h"
+#include "platform/foundation/propertylists/PropertyList.h"
+#include "platform/foundation/propertylists/PropertyListValue.h"
 
 #include <QDateTime>
 #include <QProcess>

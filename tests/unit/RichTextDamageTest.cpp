@@ -1,5 +1,5 @@
 #include "CapturedLog.h"
-#include "platform/appkit/NSAttributedString.h"
+#include "platform/appkit/richtext/NSAttributedString.h"
 
 #include <QFile>
 #include <QTextDocument>

@@ -1,4 +1,5 @@
 #include "PrivateSettings.h"
+#include "platform/foundation/propertylists/CFTypeID.h"
 
 #include <QDateTime>
 

@@ -1,6 +1,6 @@
 #include "CapturedLog.h"
 #include "TestBundle.h"
-#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/bundles/NSBundle.h"
 
 #include <QFile>
 #include <QLocale>

@@ -1,6 +1,6 @@
 // Labels in the window's text styles.
 
-#include "platform/appkit/StyledLabel.h"
+#include "platform/appkit/controls/StyledLabel.h"
 
 #include <QApplication>
 #include <QVBoxLayout>

@@ -1,6 +1,6 @@
 // The on/off switch.
 
-#include "platform/appkit/NSSwitch.h"
+#include "platform/appkit/controls/NSSwitch.h"
 
 #include <QAccessible>
 #include <QSignalSpy>

@@ -1,7 +1,7 @@
-#include "platform/appkit/SystemColors.h"
+#include "platform/appkit/colors/SystemColors.h"
 #include "Wait.h"
-#include "platform/appkit/NSColorPanel.h"
-#include "platform/appkit/NSColorWell.h"
+#include "platform/appkit/colors/NSColorPanel.h"
+#include "platform/appkit/colors/NSColorWell.h"
 
 #include <QAccessible>
 #include <QApplication>

@@ -1,6 +1,6 @@
 #include "CapturedLog.h"
 #include "TestInterface.h"
-#include "platform/appkit/Controls.h"
+#include "platform/appkit/controls/Controls.h"
 #include "platform/foundation/NSException.h"
 
 #include <QApplication>

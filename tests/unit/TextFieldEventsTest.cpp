@@ -3,11 +3,11 @@
 #include "CapturedLog.h"
 #include "TestInterface.h"
 #include "Wait.h"
-#include "platform/appkit/FieldEditor.h"
-#include "platform/appkit/KeyBindings.h"
 #include "platform/appkit/NSApplication.h"
-#include "platform/appkit/NSControlTextEditingDelegate.h"
-#include "platform/appkit/NSWindowDelegate.h"
+#include "platform/appkit/textfields/FieldEditor.h"
+#include "platform/appkit/textfields/NSControlTextEditingDelegate.h"
+#include "platform/appkit/textfields/NSWindowDelegate.h"
+#include "platform/appkit/textfields/internal/KeyBindings.h"
 
 #include <QKeyEvent>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // The environment is read once in a process, so each question goes to a second process of this program.
 
 #include "TestBundle.h"
-#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/bundles/NSBundle.h"
 
 #include <QProcess>
 #include <cstdio>

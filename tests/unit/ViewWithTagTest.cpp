@@ -1,5 +1,5 @@
-#include "platform/appkit/Controls.h"
-#include "platform/appkit/NSMatrix.h"
+#include "platform/appkit/controls/Controls.h"
+#include "platform/appkit/controls/NSMatrix.h"
 
 #include <QCheckBox>
 #include <QGroupBox>

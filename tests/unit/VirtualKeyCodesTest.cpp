@@ -1,4 +1,4 @@
-#include "platform/foundation/VirtualKeyCodes.h"
+#include "platform/foundation/keyboard/VirtualKeyCodes.h"
 #include "KeyCodes.h"
 
 #include <gtest/gtest.h>

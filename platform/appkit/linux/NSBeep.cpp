@@ -1,5 +1,5 @@
 #include "platform/appkit/NSBeep.h"
-#include "platform/foundation/linux/X11.h"
+#include "platform/foundation/system/X11.h"
 
 #include <QApplication>
 #include <QWidget>

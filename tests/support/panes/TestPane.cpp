@@ -1,8 +1,8 @@
 // A pane that records the host's calls in the file "calls" of its bundle, and does at each what the file
 // "wishes/<call>" there says. Its button "alert" begins a sheet.
 
-#include "platform/appkit/NSAlert.h"
-#include "platform/appkit/NSPreferencePane.h"
+#include "platform/appkit/alerts/NSAlert.h"
+#include "platform/appkit/interface/NSPreferencePane.h"
 #include "platform/foundation/NSException.h"
 
 #include <QDir>

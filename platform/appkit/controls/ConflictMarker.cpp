@@ -1,0 +1,52 @@
+#include "platform/appkit/controls/ConflictMarker.h"
+
+#include <QEvent>
+#include <QIcon>
+#include <QPainter>
+#include <QStyle>
+#include <utility>
+
+ConflictMarker::ConflictMarker(QWidget *parent) : QWidget(parent)
+{
+    QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    policy.setRetainSizeWhenHidden(true);
+    setSizePolicy(policy);
+}
+
+void ConflictMarker::setText(const QString &text)
+{
+    text_ = text;
+    Q_EMIT textSet(text);
+}
+
+bool ConflictMarker::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent)
+        tellOfConflict(event->type() == QEvent::ShowToParent);
+    return QWidget::event(event);
+}
+
+void ConflictMarker::tellOfConflict(bool isConflict)
+{
+    auto *field = parentWidget() && !field_.isEmpty() ? parentWidget()->findChild<QWidget *>(field_) : nullptr;
+    if (!field || isConflict == fieldsOwnDescription_.has_value())
+        return;
+    if (isConflict) {
+        fieldsOwnDescription_ = field->accessibleDescription();
+        field->setAccessibleDescription((accessibleName() + u' ' + *fieldsOwnDescription_).trimmed());
+    } else {
+        field->setAccessibleDescription(*std::exchange(fieldsOwnDescription_, std::nullopt));
+    }
+}
+
+QSize ConflictMarker::sizeHint() const
+{
+    const int extent = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+    return {extent, extent};
+}
+
+void ConflictMarker::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this).paint(&painter, rect());
+}

@@ -1,0 +1,26 @@
+#include "platform/appkit/controls/Controls.h"
+
+#include <QTabWidget>
+
+int selectedTabIndex(const QObject *tabView)
+{
+    const auto *tabs = qobject_cast<const QTabWidget *>(tabView);
+    return tabs ? tabs->currentIndex() : 0;
+}
+
+void selectTabViewItemAtIndex(QObject *tabView, int index)
+{
+    if (auto *tabs = qobject_cast<QTabWidget *>(tabView))
+        tabs->setCurrentIndex(index);
+}
+
+qint64 indexOfTabViewItemWithIdentifier(const QObject *tabView, const QString &identifier)
+{
+    const auto *tabs = qobject_cast<const QTabWidget *>(tabView);
+    for (int index = 0; tabs && index < tabs->count(); ++index) {
+        const QVariant own = tabs->widget(index)->property("identifier");
+        if (own.isValid() && own.toString() == identifier)
+            return index;
+    }
+    return NSNotFound;
+}

@@ -1,0 +1,36 @@
+#include "platform/appkit/interface/InterfaceFile.h"
+
+#include "platform/appkit/interface/internal/InterfaceConnections.h"
+#include "platform/appkit/interface/internal/InterfaceLoader.h"
+#include "platform/appkit/interface/internal/InterfaceText.h"
+#include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/system/NSLog.h"
+
+#include <QFile>
+
+namespace {
+
+QWidget *refuse(const QString &file, const QString &reason)
+{
+    NSLog(QStringLiteral("lumaroo: %1: %2").arg(file, reason));
+    return nullptr;
+}
+
+} // namespace
+
+QWidget *loadInterfaceFile(const NSBundle *bundle, const QString &nibName, const InterfaceOwner &owner)
+{
+    const QString name = nibName + QStringLiteral(".ui");
+    if (!bundle)
+        return refuse(name, QStringLiteral("no bundle to load it from"));
+    QFile file(bundle->resourcePath() + u'/' + name);
+    if (!file.open(QIODevice::ReadOnly))
+        return refuse(file.fileName(), file.errorString());
+    const InterfaceText text = readInterfaceText(&file, bundle, nibName);
+    if (!text.error.isEmpty())
+        return refuse(file.fileName(), text.error);
+    QWidget *root = InterfaceLoader::loadInterface(text.xml, name, bundle->resourcePath(), text.baseClasses);
+    if (root)
+        InterfaceConnections(name, owner).connectAll(root);
+    return root;
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/appkit/Export.h"
+#include "platform/appkit/interface/InterfaceOwner.h"
+
+#include <QWidget>
+
+class NSBundle;
+
+/// Loads <bundle>/Contents/Resources/<nibName>.ui, translates its texts from the bundle's string table `nibName`,
+/// connects outlets, tags, actions and delegates with the owner, and returns the root view; the caller owns it.
+///
+/// An outlet is an object whose objectName an owner's outlet bears, the root included. A tag is the property `tag`
+/// (combo boxes: the string list `tags`, one for each item). An action is the property `action`, performed on what the
+/// user does with the control; setting a control by code performs none. A delegate is the property `delegate` with the
+/// value "owner". An unknown selector or class, or an outlet of the wrong type, is one logged line with file and
+/// object. Returns null, with one logged line, when the file is missing or is no interface file.
+LM_APPKIT QWidget *loadInterfaceFile(const NSBundle *bundle, const QString &nibName, const InterfaceOwner &owner);

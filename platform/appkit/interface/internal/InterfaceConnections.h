@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/appkit/interface/InterfaceOwner.h"
+
+#include <QList>
+#include <QString>
+#include <functional>
+
+class QComboBox;
+class QLineEdit;
+class QTabWidget;
+class QToolButton;
+class QWidget;
+class TextFieldEvents;
+
+/// Connects the objects of one interface file with its owner; what does not fit is one logged line with file and
+/// object.
+class InterfaceConnections
+{
+public:
+    InterfaceConnections(const QString &file, const InterfaceOwner &owner) : file_(file), owner_(owner) { }
+
+    /// Called once, after everything is built: whatever building has changed is told to nobody.
+    void connectAll(QWidget *root);
+
+private:
+    void connectOutlets(const QList<QObject *> &objects);
+    void connectObject(QObject *object);
+    void connectAction(QObject *control, const QString &selector);
+    void connectDelegate(QObject *object, const QString &delegate);
+    void connectTabView(QTabWidget *tabView);
+    void connectTextField(QLineEdit *field);
+    void giveItemsTheirTags(QComboBox *popUp, const QStringList &tags);
+    void useOnlyActionAsDefault(QToolButton *button);
+    template <typename Control, typename Signal>
+    bool connectSender(QObject *object, Signal signal, const ActionEntry &action);
+    void log(const QObject *object, const QString &what) const;
+
+    QString file_;
+    InterfaceOwner owner_;
+    TextFieldEvents *textFieldEvents_ = nullptr; // made for the first field, owned by what the actions end with
+};

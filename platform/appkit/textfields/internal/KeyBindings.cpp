@@ -1,0 +1,107 @@
+#include "platform/appkit/textfields/internal/KeyBindings.h"
+
+#include "platform/foundation/keyboard/VirtualKeyCodes.h"
+
+#include <QKeyEvent>
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr quint32 scanCodeToEvdev = 8;
+
+struct KeyRange
+{
+    quint16 first;
+    quint16 last;
+};
+
+constexpr std::array typingKeys{
+    KeyRange{0, 35},
+    KeyRange{37, 47},
+    KeyRange{49, 50},
+    KeyRange{65, 65},
+    KeyRange{67, 67},
+    KeyRange{69, 69},
+    KeyRange{75, 75},
+    KeyRange{78, 78},
+    KeyRange{81, 89},
+    KeyRange{91, 95},
+};
+
+struct KeyBinding
+{
+    quint16 keyCode;
+    const char16_t *selector;
+    const char16_t *selectorWithShift;
+};
+
+constexpr std::array bindings{
+    KeyBinding{36, u"insertNewline:", u"insertNewline:"},
+    KeyBinding{48, u"insertTab:", u"insertBacktab:"},
+    KeyBinding{51, u"deleteBackward:", u"deleteBackward:"},
+    KeyBinding{53, u"cancelOperation:", u"cancelOperation:"},
+    KeyBinding{76, u"insertNewline:", u"insertNewline:"},
+    KeyBinding{115, u"scrollToBeginningOfDocument:", u"moveToBeginningOfDocumentAndModifySelection:"},
+    KeyBinding{116, u"scrollPageUp:", u"pageUpAndModifySelection:"},
+    KeyBinding{117, u"deleteForward:", u"deleteForward:"},
+    KeyBinding{119, u"scrollToEndOfDocument:", u"moveToEndOfDocumentAndModifySelection:"},
+    KeyBinding{121, u"scrollPageDown:", u"pageDownAndModifySelection:"},
+    KeyBinding{123, u"moveLeft:", u"moveLeftAndModifySelection:"},
+    KeyBinding{124, u"moveRight:", u"moveRightAndModifySelection:"},
+    KeyBinding{125, u"moveDown:", u"moveDownAndModifySelection:"},
+    KeyBinding{126, u"moveUp:", u"moveUpAndModifySelection:"},
+};
+
+constexpr quint16 returnKey = 36;
+constexpr std::array<quint16, 5> enterAndArrows{76, 123, 124, 125, 126};
+
+quint32 flagsOf(Qt::KeyboardModifiers modifiers)
+{
+    quint32 flags = 0;
+    flags |= modifiers & Qt::ShiftModifier ? quint32(NSShiftKeyMask) : 0;
+    flags |= modifiers & Qt::ControlModifier ? quint32(NSControlKeyMask) : 0;
+    flags |= modifiers & Qt::AltModifier ? quint32(NSAlternateKeyMask) : 0;
+    flags |= modifiers & Qt::MetaModifier ? quint32(NSCommandKeyMask) : 0;
+    return flags;
+}
+
+} // namespace
+
+std::optional<NSEvent> keyDownEvent(const QKeyEvent &event)
+{
+    const quint32 scanCode = event.nativeScanCode();
+    if (scanCode < scanCodeToEvdev)
+        return std::nullopt;
+    const std::optional<quint16> keyCode = virtualKeyCodeForEvdev(scanCode - scanCodeToEvdev);
+    if (!keyCode)
+        return std::nullopt;
+    return NSEvent{NSEventType::KeyDown, *keyCode, flagsOf(event.modifiers())};
+}
+
+bool isTypingKey(quint16 keyCode)
+{
+    const auto holds = [keyCode](KeyRange range) { return range.first <= keyCode && keyCode <= range.last; };
+    return std::any_of(typingKeys.begin(), typingKeys.end(), holds);
+}
+
+bool countsOnceWhileHeld(quint16 keyCode)
+{
+    const bool isEnterOrArrow =
+        std::find(enterAndArrows.begin(), enterAndArrows.end(), keyCode) != enterAndArrows.end();
+    return isEnterOrArrow || isTypingKey(keyCode);
+}
+
+bool comesBeforeShortcuts(quint16 keyCode)
+{
+    return keyCode == returnKey || countsOnceWhileHeld(keyCode);
+}
+
+QString commandSelector(const NSEvent &event)
+{
+    const auto isIts = [&event](const KeyBinding &binding) { return binding.keyCode == event.keyCode; };
+    const auto binding = std::find_if(bindings.begin(), bindings.end(), isIts);
+    if (binding == bindings.end())
+        return {};
+    return QString::fromUtf16(event.modifierFlags & NSShiftKeyMask ? binding->selectorWithShift : binding->selector);
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/foundation/hotkeys/HotKeys.h"
+
+/// An event on its way to the handlers.
+struct OpaqueEventRef
+{
+    EventTypeSpec type;
+    EventHotKeyID hotKeyID;
+};
+
+/// Hands a hot key's press to the application target's handlers. Nothing is thrown.
+LM_FOUNDATION void dispatchHotKeyPressed(EventHotKeyID hotKeyID);

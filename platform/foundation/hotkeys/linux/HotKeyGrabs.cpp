@@ -1,0 +1,82 @@
+#include "platform/foundation/hotkeys/linux/HotKeyGrabs.h"
+
+#include "platform/foundation/hotkeys/HotKeys.h"
+#include "platform/foundation/keyboard/VirtualKeyCodes.h"
+
+#include <limits>
+#include <optional>
+#include <set>
+#include <utility>
+
+namespace {
+
+constexpr int evdevToX11 = 8;
+constexpr quint32 hotKeyModifiers = cmdKey | shiftKey | optionKey | controlKey;
+
+QList<PhysicalKey> keysOf(quint32 keyCode)
+{
+    const bool isCode = keyCode <= std::numeric_limits<quint16>::max();
+    return isCode ? physicalKeysOf(quint16(keyCode)) : QList<PhysicalKey>();
+}
+
+/// Found by name, which holds for every kind of keyboard; by number only where that is nobody else's.
+std::optional<quint8> keycodeOf(const PhysicalKey &key, const KeyboardMapping &keyboard)
+{
+    const auto named = keyboard.keycodes.constFind(QByteArray(key.xkbName));
+    if (named != keyboard.keycodes.cend())
+        return *named;
+    const int keycode = key.evdev + evdevToX11;
+    if (keycode < keyboard.leastKeycode || keycode > keyboard.greatestKeycode || keyboard.isNamed(quint8(keycode)))
+        return std::nullopt;
+    return quint8(keycode);
+}
+
+std::set<quint8> keycodesOf(quint32 keyCode, const KeyboardMapping &keyboard)
+{
+    std::set<quint8> keycodes;
+    for (const PhysicalKey &key : keysOf(keyCode)) {
+        if (const auto keycode = keycodeOf(key, keyboard))
+            keycodes.insert(*keycode);
+    }
+    return keycodes;
+}
+
+/// No value where a modifier that is asked for is on no key.
+std::optional<quint16> serverModifiers(quint32 modifiers, const KeyboardMapping &keyboard)
+{
+    const std::pair<quint32, quint16> bits[]{{shiftKey, XCB_MOD_MASK_SHIFT}, {controlKey, XCB_MOD_MASK_CONTROL},
+        {optionKey, keyboard.option}, {cmdKey, keyboard.command}};
+    quint16 mask = 0;
+    for (const auto &[modifier, bit] : bits) {
+        if (!(modifiers & modifier))
+            continue;
+        if (bit == 0)
+            return std::nullopt;
+        mask |= bit;
+    }
+    return mask;
+}
+
+} // namespace
+
+bool isHotKeyCombination(quint32 keyCode, quint32 modifiers)
+{
+    return !keysOf(keyCode).isEmpty() && !(modifiers & ~hotKeyModifiers);
+}
+
+std::vector<KeyGrab> grabsOf(quint32 keyCode, quint32 modifiers, const KeyboardMapping &keyboard)
+{
+    const auto mask = serverModifiers(modifiers, keyboard);
+    std::vector<KeyGrab> grabs;
+    if (!mask)
+        return grabs;
+    for (const quint8 keycode : keycodesOf(keyCode, keyboard)) {
+        // Every part of the lock bits, from all of them down to none.
+        for (quint16 locks = keyboard.locks;; locks = quint16(locks - 1) & keyboard.locks) {
+            grabs.push_back({keycode, quint16(*mask | locks)});
+            if (locks == 0)
+                break;
+        }
+    }
+    return grabs;
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/foundation/keyboard/KeyboardMapping.h"
+
+#include <compare>
+#include <vector>
+
+/// One grab of the X server: a key with exactly these modifiers, lock keys included.
+struct KeyGrab
+{
+    quint8 keycode = 0;
+    quint16 modifiers = 0;
+
+    std::strong_ordering operator<=>(const KeyGrab &) const = default; // NOLINT(modernize-use-nullptr)
+};
+
+/// Whether a combination can be had at all: a key of some keyboard, and modifiers that hot keys know.
+bool isHotKeyCombination(quint32 keyCode, quint32 modifiers);
+
+/// The grabs that together are a combination: each key that counts as the virtual key code, with each state of the lock
+/// keys. Empty where this keyboard has no such key or modifier.
+std::vector<KeyGrab> grabsOf(quint32 keyCode, quint32 modifiers, const KeyboardMapping &keyboard);

@@ -1,0 +1,22 @@
+#include "platform/foundation/hotkeys/HotKeys.h"
+
+#include "platform/foundation/hotkeys/linux/HotKeyService.h"
+
+OSStatus RegisterEventHotKey(quint32 keyCode, quint32 modifiers, EventHotKeyID hotKeyID, EventTargetRef target,
+    quint32 options, EventHotKeyRef *hotKeyRef)
+{
+    const bool hasOptions = options == kEventHotKeyNoOptions || options == kEventHotKeyExclusive;
+    if (target != GetApplicationEventTarget() || !hotKeyRef || !hasOptions || !isHotKeyCombination(keyCode, modifiers))
+        return paramErr;
+    return HotKeyService::instance().add(keyCode, modifiers, hotKeyID, hotKeyRef);
+}
+
+OSStatus LMHotKeyStatus(EventHotKeyRef hotKeyRef)
+{
+    return HotKeyService::instance().status(hotKeyRef);
+}
+
+OSStatus UnregisterEventHotKey(EventHotKeyRef hotKeyRef)
+{
+    return HotKeyService::instance().remove(hotKeyRef);
+}

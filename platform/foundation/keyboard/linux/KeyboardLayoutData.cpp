@@ -1,0 +1,81 @@
+#include "platform/foundation/keyboard/linux/KeyboardLayoutData.h"
+
+#include "platform/foundation/keyboard/VirtualKeyCodes.h"
+
+#include <utility>
+
+namespace {
+
+constexpr xkb_keycode_t evdevToKeycode = 8;
+constexpr xkb_level_index_t numLockLevel = 1;
+
+constexpr quint16 lastTypingCode = 50;
+constexpr quint16 returnCode = 36;
+constexpr quint16 tabCode = 48;
+constexpr quint16 keypadDecimalCode = 65;
+constexpr quint16 yenCode = 93;
+constexpr quint16 underscoreCode = 94;
+
+bool dependsOnTheLayout(quint16 code)
+{
+    const bool isTypingKey = code <= lastTypingCode && code != returnCode && code != tabCode;
+    return isTypingKey || code == yenCode || code == underscoreCode;
+}
+
+xkb_keycode_t keycodeOf(xkb_keymap *keymap, const VirtualKey &key)
+{
+    const xkb_keycode_t named = xkb_keymap_key_by_name(keymap, key.xkbName);
+    return named != XKB_KEYCODE_INVALID ? named : key.evdev + evdevToKeycode;
+}
+
+} // namespace
+
+XkbContext ownedContext(xkb_context *context)
+{
+    return context ? XkbContext(context, &xkb_context_unref) : nullptr;
+}
+
+XkbKeymap ownedKeymap(xkb_keymap *keymap)
+{
+    return keymap ? XkbKeymap(keymap, &xkb_keymap_unref) : nullptr;
+}
+
+XkbState ownedState(xkb_state *state)
+{
+    return state ? XkbState(state, &xkb_state_unref) : nullptr;
+}
+
+KeyboardLayoutData::KeyboardLayoutData(XkbKeymap keymap, xkb_layout_index_t group)
+    : keymap_(std::move(keymap)), unmodified_(ownedState(xkb_state_new(keymap_.get())))
+{
+    if (unmodified_)
+        xkb_state_update_mask(unmodified_.get(), 0, 0, 0, 0, 0, group);
+}
+
+char32_t KeyboardLayoutData::character(quint16 virtualKeyCode) const
+{
+    const VirtualKey *key = virtualKey(virtualKeyCode);
+    if (!key || !unmodified_)
+        return 0;
+    if (virtualKeyCode == keypadDecimalCode)
+        return numLockCharacter(keycodeOf(keymap_.get(), *key));
+    if (dependsOnTheLayout(virtualKeyCode))
+        return typedCharacter(keycodeOf(keymap_.get(), *key));
+    return key->character;
+}
+
+char32_t KeyboardLayoutData::typedCharacter(xkb_keycode_t key) const
+{
+    return xkb_keysym_to_utf32(xkb_state_key_get_one_sym(unmodified_.get(), key));
+}
+
+// Without Num Lock the key deletes; its sign stands one level up.
+char32_t KeyboardLayoutData::numLockCharacter(xkb_keycode_t key) const
+{
+    const xkb_layout_index_t group = xkb_state_key_get_layout(unmodified_.get(), key);
+    const xkb_keysym_t *symbols = nullptr;
+    const int count = group == XKB_LAYOUT_INVALID
+        ? 0
+        : xkb_keymap_key_get_syms_by_level(keymap_.get(), key, group, numLockLevel, &symbols);
+    return count == 1 ? xkb_keysym_to_utf32(symbols[0]) : typedCharacter(key);
+}

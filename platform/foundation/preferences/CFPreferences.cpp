@@ -1,0 +1,61 @@
+#include "platform/foundation/preferences/CFPreferences.h"
+
+#include "platform/foundation/preferences/internal/PreferencesDomain.h"
+#include "platform/foundation/propertylists/CFTypeID.h"
+
+#include <limits>
+
+namespace {
+
+/// The integer a number stands for, where it is within 32 bits; a real counts by its whole part.
+std::optional<int> integerWithin32Bits(const QVariant &value)
+{
+    constexpr double Least = std::numeric_limits<int>::min();
+    constexpr double Most = std::numeric_limits<int>::max();
+    if (CFGetTypeID(value) != CFTypeID::Number)
+        return {};
+    const double number = value.toDouble();
+    if (!(number > Least - 1 && number < Most + 1))
+        return {};
+    return int(number);
+}
+
+void report(bool *keyExistsAndHasValidFormat, bool valid)
+{
+    if (keyExistsAndHasValidFormat)
+        *keyExistsAndHasValidFormat = valid;
+}
+
+} // namespace
+
+QVariant CFPreferencesCopyAppValue(const QString &key, const QString &applicationID)
+{
+    PreferencesDomain *domain = PreferencesDomain::named(applicationID);
+    return domain ? domain->value(key) : QVariant();
+}
+
+bool CFPreferencesGetAppBooleanValue(const QString &key, const QString &applicationID, bool *keyExistsAndHasValidFormat)
+{
+    const QVariant value = CFPreferencesCopyAppValue(key, applicationID);
+    report(keyExistsAndHasValidFormat, CFGetTypeID(value) == CFBooleanGetTypeID());
+    return CFBooleanGetValue(value);
+}
+
+int CFPreferencesGetAppIntegerValue(const QString &key, const QString &applicationID, bool *keyExistsAndHasValidFormat)
+{
+    const std::optional<int> integer = integerWithin32Bits(CFPreferencesCopyAppValue(key, applicationID));
+    report(keyExistsAndHasValidFormat, integer.has_value());
+    return integer.value_or(0);
+}
+
+void CFPreferencesSetAppValue(const QString &key, const QVariant &value, const QString &applicationID)
+{
+    if (PreferencesDomain *domain = PreferencesDomain::named(applicationID))
+        domain->setValue(key, value);
+}
+
+bool CFPreferencesAppSynchronize(const QString &applicationID)
+{
+    PreferencesDomain *domain = PreferencesDomain::named(applicationID);
+    return domain && domain->flush();
+}

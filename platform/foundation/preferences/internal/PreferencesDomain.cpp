@@ -1,0 +1,192 @@
+#include "platform/foundation/preferences/internal/PreferencesDomain.h"
+
+#include "platform/foundation/propertylists/PropertyList.h"
+#include "platform/foundation/propertylists/PropertyListValue.h"
+#include "platform/foundation/system/NSLog.h"
+
+#include <QDir>
+#include <QFile>
+#include <cstdlib>
+#include <memory>
+#include <unordered_map>
+#include <utility>
+
+namespace {
+
+constexpr qsizetype LongestName = 200; // in bytes; the file's name has a suffix, and so have its side files
+
+bool canNameADomain(const QString &name)
+{
+    const auto isAllowed = [](QChar character) {
+        return character != u'/' && character.category() != QChar::Other_Control;
+    };
+    return !name.isEmpty() && !name.startsWith(u'.') && QFile::encodeName(name).size() <= LongestName
+        && std::all_of(name.begin(), name.end(), isAllowed);
+}
+
+/// A relative path in the variable counts as none.
+QString settingsFolder()
+{
+    QString folder = qEnvironmentVariable("XDG_CONFIG_HOME");
+    if (!folder.startsWith(u'/'))
+        folder = QDir::homePath() + QStringLiteral("/.config");
+    return folder + QStringLiteral("/lumaroo");
+}
+
+/// What a domain's path depends on, for comparison.
+struct DomainLookup
+{
+    QByteArray configurationFolder = std::getenv("XDG_CONFIG_HOME");
+    QByteArray home = std::getenv("HOME");
+    QString name;
+};
+
+bool isStillValid(const DomainLookup &lookup, const QString &name)
+{
+    return lookup.name == name && lookup.configurationFolder == std::getenv("XDG_CONFIG_HOME")
+        && lookup.home == std::getenv("HOME");
+}
+
+} // namespace
+
+/// Every key that is read or written asks, mostly for the same domain as the one before.
+PreferencesDomain *PreferencesDomain::named(const QString &name)
+{
+    static DomainLookup last;
+    static PreferencesDomain *lastAnswer = nullptr;
+    if (!lastAnswer || !isStillValid(last, name)) {
+        lastAnswer = find(name);
+        last = DomainLookup();
+        last.name = name;
+    }
+    return lastAnswer;
+}
+
+PreferencesDomain *PreferencesDomain::find(const QString &name)
+{
+    if (!canNameADomain(name)) {
+        NSLog(QStringLiteral("lumaroo: settings: \"%1\" cannot name a domain; nothing is read or written").arg(name));
+        return nullptr;
+    }
+    static std::unordered_map<QString, std::unique_ptr<PreferencesDomain>> domains;
+    const QString path = settingsFolder() + u'/' + name + QStringLiteral(".plist");
+    std::unique_ptr<PreferencesDomain> &domain = domains[path];
+    if (!domain)
+        domain.reset(new PreferencesDomain(QFile::encodeName(path)));
+    return domain.get();
+}
+
+PreferencesDomain::PreferencesDomain(const QByteArray &path) : file_(path) { }
+
+QVariant PreferencesDomain::value(const QString &key)
+{
+    const auto pending = pending_.constFind(key);
+    if (pending != pending_.constEnd() && !(blind_.contains(key) && givesWayTo(file_.values(), key)))
+        return *pending;
+    return replacement_ ? replacement_->value(key) : file_.values().value(key);
+}
+
+QVariantMap PreferencesDomain::values()
+{
+    return withPendingChanges(replacement_ ? QVariantMap() : file_.values());
+}
+
+void PreferencesDomain::setValue(const QString &key, const QVariant &value)
+{
+    const QVariant converted = propertyListValue(value);
+    if (value.isValid() && !converted.isValid())
+        NSLog(QStringLiteral(
+            "lumaroo: settings: the value for \"%1\" is no property-list value (%2); the key keeps what it has")
+                  .arg(key, QString::fromLatin1(value.typeName())));
+    else
+        addPending(key, converted);
+}
+
+void PreferencesDomain::addPending(const QString &key, const QVariant &value)
+{
+    pending_.insert(key, value);
+    if (file_.wasReadable())
+        blind_.remove(key);
+    else
+        blind_.insert(key);
+}
+
+bool PreferencesDomain::givesWayTo(const QVariantMap &stored, const QString &key) const
+{
+    return !replacement_ && blind_.contains(key) && stored.contains(key);
+}
+
+QStringList PreferencesDomain::keysThatGiveWayTo(const QVariantMap &stored) const
+{
+    QStringList keys(blind_.begin(), blind_.end());
+    keys.removeIf([&](const QString &key) { return !givesWayTo(stored, key); });
+    keys.sort();
+    return keys;
+}
+
+bool PreferencesDomain::replace(const QVariantMap &values)
+{
+    const QVariant converted = propertyListValue(values);
+    if (!converted.isValid()) {
+        NSLog(QStringLiteral(
+            "lumaroo: settings: the dictionary for a whole domain is no property list; the domain keeps what it has"));
+        return false;
+    }
+    const auto before = std::exchange(replacement_, converted.toMap());
+    const QVariantMap pendingBefore = std::exchange(pending_, {});
+    const QSet<QString> blindBefore = std::exchange(blind_, {});
+    if (flush())
+        return true;
+    if (!file_.isReadable()) {
+        replacement_ = before;
+        pending_ = pendingBefore;
+        blind_ = blindBefore;
+        setWhatDiffers(converted.toMap());
+    }
+    return false;
+}
+
+void PreferencesDomain::setWhatDiffers(const QVariantMap &values)
+{
+    const QVariantMap seen = this->values();
+    for (auto entry = seen.begin(); entry != seen.end(); ++entry) {
+        if (!values.contains(entry.key()))
+            addPending(entry.key(), QVariant());
+    }
+    for (auto entry = values.begin(); entry != values.end(); ++entry) {
+        if (!seen.contains(entry.key()) || !isEqualPropertyList(seen.value(entry.key()), entry.value()))
+            addPending(entry.key(), entry.value());
+    }
+}
+
+bool PreferencesDomain::flush()
+{
+    QStringList kept;
+    const auto change = [&](const QVariantMap &stored) {
+        kept = keysThatGiveWayTo(stored);
+        return withPendingChanges(stored);
+    };
+    if (!file_.update(change))
+        return false;
+    if (!kept.isEmpty())
+        NSLog(QStringLiteral("lumaroo: settings: can be read again; what is stored stays for %1")
+                  .arg(kept.join(QStringLiteral(", "))));
+    replacement_.reset();
+    pending_.clear();
+    blind_.clear();
+    return true;
+}
+
+QVariantMap PreferencesDomain::withPendingChanges(const QVariantMap &stored) const
+{
+    QVariantMap values = replacement_.value_or(stored);
+    for (auto change = pending_.begin(); change != pending_.end(); ++change) {
+        if (givesWayTo(stored, change.key()))
+            continue;
+        if (change.value().isValid())
+            values.insert(change.key(), change.value());
+        else
+            values.remove(change.key());
+    }
+    return values;
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/foundation/preferences/linux/SettingsFile.h"
+
+#include <QSet>
+#include <optional>
+
+/// One settings domain as this process sees it: the file, under this process's changes that are not flushed yet.
+class LM_FOUNDATION PreferencesDomain
+{
+public:
+    /// The domain of a name; none for a name that cannot be a file's, which is logged.
+    static PreferencesDomain *named(const QString &name);
+
+    QVariant value(const QString &key);
+    QVariantMap values();
+
+    /// Pending until flush(); no value removes the key. What is no property-list value is logged and changes nothing.
+    /// What is set after a look at a file that could not be read fills in what the file turns out to lack, and changes
+    /// nothing that it holds: whoever set it saw nothing there.
+    void setValue(const QString &key, const QVariant &value);
+
+    /// Replaces everything at once; pending as a whole where that fails. While the file cannot be read, only what
+    /// differs from values() is pending: what nobody could see is not removed with the rest.
+    bool replace(const QVariantMap &values);
+
+    /// Brings what is pending into the file. False where that failed, or where the file cannot be read.
+    bool flush();
+
+private:
+    explicit PreferencesDomain(const QByteArray &path);
+    static PreferencesDomain *find(const QString &name);
+    QVariantMap withPendingChanges(const QVariantMap &stored) const;
+    void setWhatDiffers(const QVariantMap &values);
+    void addPending(const QString &key, const QVariant &value);
+    bool givesWayTo(const QVariantMap &stored, const QString &key) const;
+    QStringList keysThatGiveWayTo(const QVariantMap &stored) const;
+
+    SettingsFile file_;
+    std::optional<QVariantMap> replacement_; ///< stands for the file's content
+    QVariantMap pending_; ///< over both; no value means removal
+    QSet<QString> blind_; ///< the pending keys that were set after a look at a file that could not be read
+};

@@ -1,0 +1,174 @@
+#include "platform/foundation/preferences/linux/SettingsFile.h"
+
+#include "platform/foundation/preferences/linux/FileLock.h"
+#include "platform/foundation/preferences/linux/FileReplacement.h"
+#include "platform/foundation/propertylists/PropertyList.h"
+#include "platform/foundation/system/NSLog.h"
+
+#include <QFile>
+#include <cerrno>
+#include <climits>
+
+using Content = StoredSettings::Content;
+
+namespace {
+
+constexpr int LongestLinkChain = 40;
+constexpr int MostFilesKeptAside = 1000;
+
+bool makeFolders(const QByteArray &folder)
+{
+    if (systemCalls().mkdir(folder.constData(), 0700) == 0 || errno == EEXIST)
+        return true;
+    return errno == ENOENT && folder.size() > 1 && makeFolders(folderOf(folder))
+        && systemCalls().mkdir(folder.constData(), 0700) == 0;
+}
+
+QByteArray lockPathFor(const QByteArray &path)
+{
+    const qsizetype name = path.lastIndexOf('/') + 1;
+    return path.left(name) + '.' + path.mid(name) + ".lock";
+}
+
+QString lockError()
+{
+    if (errno == ETIMEDOUT)
+        return QStringLiteral("another process keeps it locked");
+    return systemError("lock");
+}
+
+} // namespace
+
+const QVariantMap &SettingsFile::values()
+{
+    current();
+    return stored_.values();
+}
+
+bool SettingsFile::update(const Change &change)
+{
+    const Content content = current();
+    if (content != Content::Values)
+        return content == Content::Unreadable ? failToRead() : false;
+    if (isEqualPropertyList(change(stored_.values()), stored_.values()))
+        return securePreviousWrite();
+    const QByteArray path = target();
+    if (!makeFolders(folderOf(path)))
+        return failToWrite(systemError("mkdir"));
+    const FileLock lock(lockPathFor(path));
+    return lock ? updateUnderLock(change, path) : failToWrite(lockError());
+}
+
+bool SettingsFile::updateUnderLock(const Change &change, const QByteArray &path)
+{
+    const Content content = stored_.refresh();
+    if (content == Content::Damaged && !moveAsideUnderLock(path))
+        return false;
+    if (content == Content::Unreadable)
+        return failToRead();
+    const QVariantMap changed = change(stored_.values());
+    return isEqualPropertyList(changed, stored_.values()) ? securePreviousWrite() : write(path, changed);
+}
+
+bool SettingsFile::write(const QByteArray &path, const QVariantMap &values)
+{
+    const QByteArray bytes = writeBinaryPropertyList(values);
+    if (bytes.isEmpty())
+        return failToWrite(QStringLiteral("it would be more than a property list may hold"));
+    const FileReplacement replacement = replaceFile(path, bytes);
+    if (replacement.outcome == FileReplacement::Outcome::Unchanged)
+        return failToWrite(replacement.error);
+    stored_.adopt(values, bytes, replacement.status);
+    unsecuredFolder_ = folderOf(path);
+    if (replacement.outcome == FileReplacement::Outcome::Replaced)
+        return fail(QStringLiteral("is written but might not survive a power failure (%1)").arg(replacement.error));
+    unsecuredFolder_.clear();
+    reported_.clear();
+    return true;
+}
+
+/// After a write whose folder could not be synced the file holds everything, and only that is left to do.
+bool SettingsFile::securePreviousWrite()
+{
+    const QString error = unsecuredFolder_.isEmpty() ? QString() : secureFolder(unsecuredFolder_);
+    if (!error.isEmpty())
+        return fail(QStringLiteral("is written but might not survive a power failure (%1)").arg(error));
+    unsecuredFolder_.clear();
+    reported_.clear();
+    return true;
+}
+
+Content SettingsFile::current()
+{
+    const Content content = stored_.refresh();
+    return content == Content::Damaged ? moveAside() : content;
+}
+
+/// Reads again under the lock: another process may have put the file in order meanwhile, or be about to.
+Content SettingsFile::moveAside()
+{
+    const QByteArray path = target();
+    const FileLock lock(lockPathFor(path));
+    if (!lock) {
+        fail(QStringLiteral("does not parse (%1) and cannot be moved aside (%2)").arg(stored_.problem(), lockError()));
+        return Content::Damaged;
+    }
+    const Content content = stored_.refresh();
+    return content == Content::Damaged && moveAsideUnderLock(path) ? Content::Values : content;
+}
+
+bool SettingsFile::moveAsideUnderLock(const QByteArray &path)
+{
+    const QString damage = stored_.problem();
+    for (int number = 1; number <= MostFilesKeptAside; ++number) {
+        const QByteArray suffix = '~' + QByteArray::number(number);
+        if (systemCalls().renameWithoutReplacing(path.constData(), (path + suffix).constData()) == 0) {
+            NSLog(QStringLiteral("lumaroo: settings: %1 does not parse (%2); kept as %1%3, starting empty")
+                      .arg(name(), damage, QString::fromLatin1(suffix)));
+            stored_.refresh();
+            return true;
+        }
+        if (errno != EEXIST)
+            break;
+    }
+    return fail(
+        QStringLiteral("does not parse (%1) and cannot be moved aside (%2)").arg(damage, systemError("rename")));
+}
+
+bool SettingsFile::fail(const QString &problem)
+{
+    if (problem != reported_)
+        NSLog(QStringLiteral("lumaroo: settings: %1 %2; changes wait for the next attempt").arg(name(), problem));
+    reported_ = problem;
+    return false;
+}
+
+bool SettingsFile::failToRead()
+{
+    return fail(QStringLiteral("cannot be read (%1)").arg(stored_.problem()));
+}
+
+bool SettingsFile::failToWrite(const QString &reason)
+{
+    return fail(QStringLiteral("cannot be written (%1)").arg(reason));
+}
+
+QString SettingsFile::name() const
+{
+    return QFile::decodeName(path_.mid(path_.lastIndexOf('/') + 1));
+}
+
+/// Where the settings really lie: links at the path are followed and stay.
+QByteArray SettingsFile::target() const
+{
+    QByteArray path = path_;
+    for (int followed = 0; followed < LongestLinkChain; ++followed) {
+        QByteArray link(PATH_MAX, '\0');
+        const ssize_t size = systemCalls().readlink(path.constData(), link.data(), size_t(link.size()));
+        if (size < 0)
+            break;
+        link.truncate(size);
+        path = link.startsWith('/') ? link : folderOf(path) + '/' + link;
+    }
+    return path;
+}

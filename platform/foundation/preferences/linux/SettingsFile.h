@@ -1,0 +1,49 @@
+#pragma once
+
+#include "platform/foundation/Export.h"
+#include "platform/foundation/preferences/linux/StoredSettings.h"
+
+#include <functional>
+
+/// The file of one settings domain: read as it is now, changed under a kernel lock, replaced whole or not at all.
+class LM_FOUNDATION SettingsFile
+{
+public:
+    using Change = std::function<QVariantMap(const QVariantMap &)>;
+
+    explicit SettingsFile(const QByteArray &path) : path_(path), stored_(path) { }
+
+    /// What the file holds now; empty where there is none, or where it cannot be read. A file that does not parse is
+    /// moved aside.
+    const QVariantMap &values();
+
+    /// Whether values() is what is stored, rather than empty because the file could not be read.
+    bool isReadable() { return current() == StoredSettings::Content::Values; }
+
+    /// The same of the last look at the file, without another.
+    bool wasReadable() const { return stored_.content() == StoredSettings::Content::Values; }
+
+    /// Applies a change to what the file holds, with no other writer in between. Writes nothing, and makes no system
+    /// call that writes, where it changes nothing. False, with one line logged, where the change could not be made to
+    /// last; the old or the new file then stands whole.
+    bool update(const Change &change);
+
+private:
+    StoredSettings::Content current();
+    StoredSettings::Content moveAside();
+    bool moveAsideUnderLock(const QByteArray &path);
+    bool updateUnderLock(const Change &change, const QByteArray &path);
+    bool write(const QByteArray &path, const QVariantMap &values);
+    bool securePreviousWrite();
+
+    bool fail(const QString &problem);
+    bool failToRead();
+    bool failToWrite(const QString &reason);
+    QString name() const;
+    QByteArray target() const;
+
+    QByteArray path_;
+    StoredSettings stored_;
+    QString reported_; ///< the problem last logged, so that it is not logged again until something has succeeded
+    QByteArray unsecuredFolder_; ///< where a rename may not survive a power failure yet
+};

@@ -1,0 +1,83 @@
+#include "platform/foundation/processes/Processes.h"
+
+#include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/processes/ApplicationIdentifier.h"
+#include "platform/foundation/processes/linux/ProcessFolders.h"
+#include "platform/foundation/system/RunningExecutable.h"
+
+#include <QFile>
+#include <algorithm>
+
+namespace {
+
+/// The list that a walk goes through, and how far it has come.
+struct ProcessWalk
+{
+    std::vector<pid_t> processes;
+    size_t next = 0;
+
+    bool isAt(pid_t process) const { return next > 0 && processes[next - 1] == process; }
+    void moveBehind(pid_t process)
+    {
+        const auto found = std::find(processes.begin(), processes.end(), process);
+        next = found == processes.end() ? processes.size() : size_t(found - processes.begin()) + 1;
+    }
+};
+
+ProcessWalk &walkOfThisThread()
+{
+    thread_local ProcessWalk walk;
+    return walk;
+}
+
+/// The .app bundle that a program stands in (<bundle>/Contents/Linux/<program>), or empty.
+QByteArray applicationAround(const QByteArray &executable)
+{
+    static const QByteArray codeFolder("/Contents/Linux");
+    const qsizetype nameStart = executable.lastIndexOf('/');
+    const QByteArrayView folder = QByteArrayView(executable).first(std::max<qsizetype>(nameStart, 0));
+    if (!folder.endsWith(codeFolder))
+        return {};
+    const QByteArrayView bundle = folder.chopped(codeFolder.size());
+    return bundle.endsWith(".app") ? bundle.toByteArray() : QByteArray();
+}
+
+QString identifierOf(pid_t process, const QByteArray &executable)
+{
+    const QByteArray application = applicationAround(executable);
+    if (application.isEmpty())
+        return {};
+    const QVariantMap info = NSBundle::infoDictionaryOnDisk(QFile::decodeName(application));
+    const QString identifier = info.value(kCFBundleIdentifierKey).toString();
+    return identifier.isEmpty() ? QString::fromUtf8(environmentVariableOf(process, applicationIdentifierVariable))
+                                : identifier;
+}
+
+} // namespace
+
+OSStatus GetNextProcess(ProcessSerialNumber *process)
+{
+    if (!process)
+        return paramErr;
+    ProcessWalk &walk = walkOfThisThread();
+    if (*process == kNoProcess)
+        walk = {processesOfThisUser()};
+    else if (!walk.isAt(pid_t(process->lowLongOfPSN)))
+        walk.moveBehind(pid_t(process->lowLongOfPSN));
+    const bool isAtEnd = walk.next >= walk.processes.size();
+    *process = isAtEnd ? kNoProcess : ProcessSerialNumber{0, quint32(walk.processes[walk.next++])};
+    return isAtEnd ? procNotFound : noErr;
+}
+
+QVariantMap ProcessInformationCopyDictionary(const ProcessSerialNumber &process, quint32)
+{
+    const pid_t id = pid_t(process.lowLongOfPSN);
+    const QByteArray executable = executableOf(id);
+    if (executable.isEmpty())
+        return {};
+    QVariantMap information{{kCFBundleExecutableKey, QFile::decodeName(executable)}};
+    const QString identifier = identifierOf(id, executable);
+    if (!identifier.isEmpty())
+        information.insert(kCFBundleIdentifierKey, identifier);
+    return information;
+}
