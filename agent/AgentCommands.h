@@ -1,13 +1,7 @@
 #pragma once
 
 #include "agent/AgentArguments.h"
-
-/// What could not be done; what() tells the user why.
-class CommandFailure : public std::runtime_error
-{
-public:
-    explicit CommandFailure(const QString &reason) : std::runtime_error(reason.toStdString()) { }
-};
+#include "platform/foundation/system/CommandFailure.h"
 
 /// Does what was asked for beside running: prints, sets, quits ... Throws CommandFailure.
 void perform(const AgentRequest &request);
