@@ -1,18 +1,16 @@
 #include "agent/LoginEntry.h"
 
+#include "platform/foundation/system/UserFolders.h"
+
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
 
 namespace {
 
-/// A relative path in the variable counts as none.
 QString loginFolder()
 {
-    QString folder = qEnvironmentVariable("XDG_CONFIG_HOME");
-    if (!folder.startsWith(u'/'))
-        folder = QDir::homePath() + QStringLiteral("/.config");
-    return folder + QStringLiteral("/autostart");
+    return userConfigurationFolder() + QStringLiteral("/autostart");
 }
 
 /// A text as the value of an entry's key.

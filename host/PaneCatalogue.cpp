@@ -3,11 +3,11 @@
 #include "host/IconFile.h"
 #include "host/LetterTile.h"
 #include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/system/UserFolders.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QSet>
-#include <QStandardPaths>
 
 namespace {
 
@@ -59,8 +59,7 @@ bool anyContains(const QStringList &texts, const QString &word)
 QStringList paneFolders()
 {
     const QString beside = QFileInfo(NSBundle::mainBundle()->bundlePath()).path();
-    return {QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/PreferencePanes"),
-        beside + QStringLiteral("/PreferencePanes"), beside};
+    return {userDataFolder() + QStringLiteral("/PreferencePanes"), beside + QStringLiteral("/PreferencePanes"), beside};
 }
 
 QList<InstalledPane> installedPanes(const QStringList &folders)

@@ -3,10 +3,9 @@
 #include "platform/foundation/propertylists/PropertyList.h"
 #include "platform/foundation/propertylists/PropertyListValue.h"
 #include "platform/foundation/system/NSLog.h"
+#include "platform/foundation/system/UserFolders.h"
 
-#include <QDir>
 #include <QFile>
-#include <cstdlib>
 #include <memory>
 #include <unordered_map>
 #include <utility>
@@ -24,40 +23,18 @@ bool canNameADomain(const QString &name)
         && std::all_of(name.begin(), name.end(), isAllowed);
 }
 
-/// A relative path in the variable counts as none.
-QString settingsFolder()
-{
-    QString folder = qEnvironmentVariable("XDG_CONFIG_HOME");
-    if (!folder.startsWith(u'/'))
-        folder = QDir::homePath() + QStringLiteral("/.config");
-    return folder + QStringLiteral("/lumaroo");
-}
-
-/// What a domain's path depends on, for comparison.
-struct DomainLookup
-{
-    QByteArray configurationFolder = std::getenv("XDG_CONFIG_HOME");
-    QByteArray home = std::getenv("HOME");
-    QString name;
-};
-
-bool isStillValid(const DomainLookup &lookup, const QString &name)
-{
-    return lookup.name == name && lookup.configurationFolder == std::getenv("XDG_CONFIG_HOME")
-        && lookup.home == std::getenv("HOME");
-}
-
 } // namespace
 
 /// Every key that is read or written asks, mostly for the same domain as the one before.
 PreferencesDomain *PreferencesDomain::named(const QString &name)
 {
-    static DomainLookup last;
+    static QString lastFolder;
+    static QString lastName;
     static PreferencesDomain *lastAnswer = nullptr;
-    if (!lastAnswer || !isStillValid(last, name)) {
+    if (!lastAnswer || lastName != name || lastFolder != userConfigurationFolder()) {
         lastAnswer = find(name);
-        last = DomainLookup();
-        last.name = name;
+        lastFolder = userConfigurationFolder();
+        lastName = name;
     }
     return lastAnswer;
 }
@@ -69,7 +46,7 @@ PreferencesDomain *PreferencesDomain::find(const QString &name)
         return nullptr;
     }
     static std::unordered_map<QString, std::unique_ptr<PreferencesDomain>> domains;
-    const QString path = settingsFolder() + u'/' + name + QStringLiteral(".plist");
+    const QString path = userConfigurationFolder() + QStringLiteral("/lumaroo/") + name + QStringLiteral(".plist");
     std::unique_ptr<PreferencesDomain> &domain = domains[path];
     if (!domain)
         domain.reset(new PreferencesDomain(QFile::encodeName(path)));
