@@ -1,5 +1,7 @@
 #include "host/OutlineStyle.h"
 
+#include "platform/appkit/colors/ColorMixing.h"
+
 #include <QAbstractScrollArea>
 #include <QPainter>
 #include <QStyleOption>
@@ -8,13 +10,6 @@ namespace {
 
 constexpr float shareOfText = 0.55f;
 constexpr int fusionDarkensOutlinesBy = 140; // percent
-
-QColor mixed(const QColor &one, const QColor &other, float shareOfOther)
-{
-    const auto mix = [shareOfOther](float from, float to) { return from + (to - from) * shareOfOther; };
-    return QColor::fromRgbF(
-        mix(one.redF(), other.redF()), mix(one.greenF(), other.greenF()), mix(one.blueF(), other.blueF()));
-}
 
 QColor outlineColor(const QPalette &palette, QPalette::ColorGroup group)
 {

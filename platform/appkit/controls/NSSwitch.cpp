@@ -1,5 +1,7 @@
 #include "platform/appkit/controls/NSSwitch.h"
 
+#include "platform/appkit/colors/ColorMixing.h"
+
 #include <QPainter>
 #include <QStyle>
 
@@ -9,12 +11,6 @@ constexpr QSizeF TrackSize(44, 24);
 constexpr qreal RingGap = 1;
 constexpr qreal RingWidth = 2;
 constexpr qreal KnobInset = 3;
-
-QColor between(const QColor &one, const QColor &other)
-{
-    return QColor::fromRgb(
-        (one.red() + other.red()) / 2, (one.green() + other.green()) / 2, (one.blue() + other.blue()) / 2);
-}
 
 } // namespace
 
@@ -55,7 +51,7 @@ void NSSwitch::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF track = trackRect();
-    const QColor off = between(palette().color(QPalette::WindowText), palette().color(QPalette::Window));
+    const QColor off = mixed(palette().color(QPalette::WindowText), palette().color(QPalette::Window), 0.5f);
     const bool isOn = checkState() == Qt::Checked;
     painter.setPen(Qt::NoPen);
     painter.setBrush(isOn ? palette().color(QPalette::Highlight) : off);

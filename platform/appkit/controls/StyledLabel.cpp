@@ -1,5 +1,7 @@
 #include "platform/appkit/controls/StyledLabel.h"
 
+#include "platform/appkit/colors/ColorMixing.h"
+
 #include <QApplication>
 #include <QEvent>
 #include <QScopedValueRollback>
@@ -23,17 +25,10 @@ double luminance(const QColor &color)
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
-QColor mixed(const QColor &color, const QColor &other, double share)
-{
-    const auto mix = [share](double one, double two) { return static_cast<float>(one + (two - one) * share); };
-    return QColor::fromRgbF(
-        mix(color.redF(), other.redF()), mix(color.greenF(), other.greenF()), mix(color.blueF(), other.blueF()));
-}
-
 QColor palerText(const QColor &text, const QColor &window)
 {
     for (int percent = 40; percent > 0; percent -= 5) {
-        const QColor pale = mixed(text, window, percent / 100.0);
+        const QColor pale = mixed(text, window, float(percent) / 100);
         if (contrastRatio(pale, window) >= LeastContrast)
             return pale;
     }
