@@ -1,6 +1,6 @@
 #include "platform/appkit/NSApplication.h"
 
-#include "platform/appkit/linux/WindowRequests.h"
+#include "platform/appkit/WindowRequests.h"
 
 #include <QApplication>
 #include <QTimer>

@@ -1,5 +1,7 @@
 #include "AttentionListener.h"
 
+#include "platform/appkit/linux/WindowManagerMessage.h"
+
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <xcb/xcb.h>
@@ -13,14 +15,6 @@ constexpr quint32 addState = 1;
 
 template <typename Reply>
 using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
-
-xcb_atom_t atom(xcb_connection_t *connection, const char *name)
-{
-    const Owned<xcb_intern_atom_reply_t> reply(
-        xcb_intern_atom_reply(connection, xcb_intern_atom(connection, 0, quint16(qstrlen(name)), name), nullptr),
-        &std::free);
-    return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
-}
 
 } // namespace
 
@@ -38,8 +32,8 @@ AttentionListener::AttentionListener(quint32 window)
 bool AttentionListener::hasBeenAskedFor() const
 {
     xcb_connection_t *const connection = connection_.get();
-    const xcb_atom_t state = atom(connection, stateName);
-    const xcb_atom_t attention = atom(connection, attentionName);
+    const xcb_atom_t state = displayAtom(connection, stateName);
+    const xcb_atom_t attention = displayAtom(connection, attentionName);
     while (const Owned<xcb_generic_event_t> event{xcb_poll_for_event(connection), &std::free}) {
         if ((event->response_type & eventTypeMask) != XCB_CLIENT_MESSAGE)
             continue;

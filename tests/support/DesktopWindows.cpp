@@ -1,6 +1,7 @@
 #include "DesktopWindows.h"
 
 #include "Wait.h"
+#include "platform/appkit/linux/WindowManagerMessage.h"
 
 #include <QGuiApplication>
 #include <QPixmap>
@@ -28,17 +29,10 @@ xcb_window_t rootWindow()
     return xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;
 }
 
-xcb_atom_t atom(const char *name)
-{
-    const Owned<xcb_intern_atom_reply_t> reply(
-        xcb_intern_atom_reply(connection(), xcb_intern_atom(connection(), 0, quint16(qstrlen(name)), name), nullptr),
-        &std::free);
-    return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
-}
-
 QByteArray property(xcb_window_t window, const char *name)
 {
-    const auto cookie = xcb_get_property(connection(), 0, window, atom(name), XCB_GET_PROPERTY_TYPE_ANY, 0, 65536);
+    const auto cookie =
+        xcb_get_property(connection(), 0, window, displayAtom(connection(), name), XCB_GET_PROPERTY_TYPE_ANY, 0, 65536);
     const Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection(), cookie, nullptr), &std::free);
     if (!reply)
         return {};
@@ -77,16 +71,7 @@ QString atomName(xcb_atom_t atom)
 
 void tellWindowManager(xcb_window_t window, const char *request, quint32 value = 0)
 {
-    xcb_client_message_event_t message = {};
-    message.response_type = XCB_CLIENT_MESSAGE;
-    message.format = 32;
-    message.window = window;
-    message.type = atom(request);
-    message.data.data32[0] = value;
-    xcb_send_event(connection(), 0, rootWindow(),
-        XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-        reinterpret_cast<const char *>(&message));
-    xcb_flush(connection());
+    sendToWindowManager(connection(), window, request, {value});
 }
 
 } // namespace

@@ -1,12 +1,9 @@
-#include "platform/appkit/linux/WindowRequests.h"
+#include "platform/appkit/WindowRequests.h"
+
+#include "platform/appkit/linux/WindowManagerMessage.h"
 
 #include <QGuiApplication>
 #include <QWindow>
-#include <algorithm>
-#include <array>
-#include <cstdlib>
-#include <memory>
-#include <xcb/xcb.h>
 
 namespace {
 
@@ -20,39 +17,17 @@ xcb_connection_t *connection()
     return x11 ? x11->connection() : nullptr;
 }
 
-xcb_atom_t atom(const char *name)
-{
-    const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> reply(
-        xcb_intern_atom_reply(connection(), xcb_intern_atom(connection(), 0, quint16(qstrlen(name)), name), nullptr),
-        &std::free);
-    return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
-}
-
-void send(const QWindow *window, const char *request, const std::array<quint32, 4> &data)
-{
-    xcb_client_message_event_t message = {};
-    message.response_type = XCB_CLIENT_MESSAGE;
-    message.format = 32;
-    message.window = xcb_window_t(window->winId());
-    message.type = atom(request);
-    std::copy(data.begin(), data.end(), message.data.data32);
-    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;
-    xcb_send_event(connection(), 0, root, XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-        reinterpret_cast<const char *>(&message));
-    xcb_flush(connection());
-}
-
 } // namespace
 
-void askForActivation(const QWindow *window)
+void askForActivation(const QWindow *window, quint32 time)
 {
     if (connection())
-        send(window, "_NET_ACTIVE_WINDOW", {fromApplication, XCB_CURRENT_TIME});
+        sendToWindowManager(connection(), quint32(window->winId()), "_NET_ACTIVE_WINDOW", {fromApplication, time});
 }
 
 void askForAttention(const QWindow *window)
 {
     if (connection())
-        send(window, "_NET_WM_STATE",
-            {addState, atom("_NET_WM_STATE_DEMANDS_ATTENTION"), XCB_ATOM_NONE, fromApplication});
+        sendToWindowManager(connection(), quint32(window->winId()), "_NET_WM_STATE",
+            {addState, displayAtom(connection(), "_NET_WM_STATE_DEMANDS_ATTENTION"), 0, fromApplication});
 }
