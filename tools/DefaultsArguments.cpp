@@ -1,6 +1,8 @@
 #include "DefaultsArguments.h"
 
-const char *const DefaultsHelp =
+namespace {
+
+const char *const helpText =
     R"(Shows and changes the settings that Lumaroo has stored.
 
 usage: lumaroo-defaults [OPTION...] read [KEY]
@@ -15,7 +17,7 @@ usage: lumaroo-defaults [OPTION...] read [KEY]
   export   writes everything as an XML property list to FILE, or to standard output
   import   takes the keys of a property list (XML or binary) from FILE, or from standard input; other keys stay as they are
 
-  --domain NAME  the settings of NAME instead of com.quorvane.Lumaroo
+  --domain NAME  the settings of NAME instead of %1
   --notify       tell the settings window and the agent of the change (write, delete, import)
   --replace      remove the keys that the imported property list does not have (import)
   --binary       write the binary form (export)
@@ -32,8 +34,6 @@ Values:
 
 Exit status: 0 done, 1 not done (a line on standard error says why), 2 the command line makes no sense.
 )";
-
-namespace {
 
 const QStringList &verbs()
 {
@@ -157,4 +157,9 @@ bool isOption(const QString &argument)
 DefaultsRequest parseDefaultsArguments(const QStringList &arguments)
 {
     return Parser(arguments).parse();
+}
+
+QString defaultsHelp()
+{
+    return QString::fromUtf8(helpText).arg(KTXLMAppID);
 }

@@ -1,10 +1,12 @@
 #include "DefaultsCommands.h"
+#include "KTXConstants.h"
 #include "platform/foundation/notifications/CFNotificationCenter.h"
 #include "platform/foundation/notifications/SessionBus.h"
 #include "platform/foundation/preferences/CFPreferences.h"
 #include "platform/foundation/preferences/NSUserDefaults.h"
 #include "platform/foundation/propertylists/Description.h"
 #include "platform/foundation/propertylists/PropertyList.h"
+#include "platform/foundation/propertylists/PropertyListBounds.h"
 
 #include <QFile>
 #include <QHash>
@@ -12,8 +14,8 @@
 
 namespace {
 
-constexpr qint64 LargestFile =
-    64 * 1024 * 1024 + 1; // one byte more than a property list may have, so that it is refused
+// One byte more than a property list may have, so that a longer one is refused.
+constexpr qint64 LargestFile = PropertyListBounds::MaximumBytes + 1;
 
 bool isStandardStream(const QString &file)
 {
@@ -146,10 +148,9 @@ void importValues(const DefaultsRequest &request)
 /// The settings window listens for changes by the agent, the agent for those of its domain.
 void announce(const QString &domain)
 {
-    const QString name = QStringLiteral("Lumaroo Preferences Changed");
     CFNotificationCenterRef center = CFNotificationCenterGetDistributedCenter();
-    CFNotificationCenterPostNotification(center, name, QStringLiteral("com.quorvane.LumarooAgent"), {}, true);
-    CFNotificationCenterPostNotification(center, name, domain, {}, true);
+    CFNotificationCenterPostNotification(center, KTXLMPrefsChanged, KTXLMAgentID, {}, true);
+    CFNotificationCenterPostNotification(center, KTXLMPrefsChanged, domain, {}, true);
     if (!waitForSessionBus())
         throw CommandFailure(QStringLiteral("the change is stored, but there is no session bus to announce it on"));
 }

@@ -15,7 +15,7 @@ int main(int argumentCount, char **arguments)
     try {
         const DefaultsRequest request = parseDefaultsArguments(QCoreApplication::arguments().mid(1));
         if (request.verb == QStringLiteral("help"))
-            std::fputs(DefaultsHelp, stdout);
+            std::fputs(defaultsHelp().toUtf8().constData(), stdout);
         else
             perform(request);
     } catch (const UsageError &error) {
