@@ -11,6 +11,8 @@ struct KTXActionKey
 };
 
 inline constexpr int KTXActionKeyCount = 11;
+/// The first of them move the selection; only these are told of conflicts.
+inline constexpr int KTXMovementKeyCount = 5;
 
 /// The actions in the order of the hot key table's rows.
 const std::array<KTXActionKey, KTXActionKeyCount> &KTXActionKeys();

@@ -3,9 +3,9 @@
 #include "KTXActionKeys.h"
 #include "KTXConstants.h"
 #include "KTXHotKey.h"
+#include "KTXHotKeyEntry.h"
 #include "platform/foundation/keyboard/VirtualKeyCodes.h"
 #include "platform/foundation/notifications/NSNotificationCenter.h"
-#include "platform/foundation/propertylists/Description.h"
 #include "platform/foundation/system/NSLog.h"
 
 #include <algorithm>
@@ -34,7 +34,7 @@ void AgentHotKeys::apply(const QVariantMap &settings)
 {
     const auto modifiers = quint32(settings.value(KTXModifierMask).toUInt());
     for (ActionKey &key : keys_)
-        give(key, intValue(settings.value(key.action).toMap().value(KTXKeycode)), modifiers);
+        give(key, quint16(keyCodeOf(settings.value(key.action)).value_or(0)), modifiers);
     // Only now, so that two actions can exchange their keys.
     registerKeys();
     if (modifiers == 0 && !saidNoModifiers_)
@@ -42,10 +42,10 @@ void AgentHotKeys::apply(const QVariantMap &settings)
     saidNoModifiers_ = modifiers == 0;
 }
 
-void AgentHotKeys::give(ActionKey &key, int keyCode, quint32 modifiers)
+void AgentHotKeys::give(ActionKey &key, quint16 keyCode, quint32 modifiers)
 {
-    const bool isChanged = key.hotKey->keycode() != quint32(keyCode) || key.hotKey->modifiers() != modifiers;
-    key.hotKey->setKeycode(quint32(keyCode));
+    const bool isChanged = key.hotKey->keycode() != keyCode || key.hotKey->modifiers() != modifiers;
+    key.hotKey->setKeycode(keyCode);
     key.hotKey->setModifiers(modifiers);
     if (isChanged || (isAnotherActions(key) && key.hotKey->isHotKeyRegistered())) {
         key.hotKey->unregisterAsHotKey();

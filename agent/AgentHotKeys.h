@@ -51,7 +51,7 @@ private:
         Refusal refusal = Refusal::GivenUp; ///< as of the last attempt
     };
 
-    void give(ActionKey &key, int keyCode, quint32 modifiers);
+    void give(ActionKey &key, quint16 keyCode, quint32 modifiers);
     void registerKeys();
     void registerKey(ActionKey &key);
     Refusal registration(const ActionKey &key) const;

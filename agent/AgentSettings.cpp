@@ -1,14 +1,14 @@
 #include "agent/AgentSettings.h"
 
-#include "KTXActionKeys.h"
-#include "KTXConstants.h"
+#include "KTXHotKeyEntry.h"
 #include "KTXModifiers.h"
+#include "KTXOptions.h"
+#include "KTXSettings.h"
+#include "platform/foundation/colors/NSArchiver.h"
 #include "platform/foundation/propertylists/CFTypeID.h"
 #include "platform/foundation/propertylists/NSNumber.h"
 
 #include <algorithm>
-#include <cmath>
-#include <limits>
 
 namespace {
 
@@ -17,112 +17,54 @@ QVariant asBoolean(const QVariant &value)
     return CFGetTypeID(value) == CFTypeID::Boolean ? value : QVariant();
 }
 
-/// A real counts by its whole part, as it does for the pane.
 QVariant asModifierMask(const QVariant &value)
 {
-    constexpr double least = std::numeric_limits<qint32>::min();
-    constexpr double most = std::numeric_limits<qint32>::max();
-    const bool isNumber = CFGetTypeID(value) == CFTypeID::Number;
-    const double number = isNumber ? value.toDouble() : std::numeric_limits<double>::quiet_NaN();
-    return number > least - 1 && number < most + 1 ? QVariant(qlonglong(number) & KTXAllModifiers) : QVariant();
+    const auto mask = integerWithin32Bits(value);
+    return mask ? QVariant(qlonglong(quint32(*mask) & KTXAllModifiers)) : QVariant();
 }
 
-QVariant asFloat(const QVariant &value)
+/// As the setting's slider shows it: no number is the least.
+QVariant asNumber(const KTXSetting &setting, const QVariant &value)
 {
-    const bool isNumber = CFGetTypeID(value) == CFTypeID::Number && std::isfinite(floatValue(value));
-    return isNumber ? QVariant(floatValue(value)) : QVariant();
+    const float number = floatValue(value);
+    return number > setting.least ? std::min(number, setting.most) : setting.least;
 }
 
-QVariant asText(const QVariant &value)
+QVariant asColor(const QVariant &value)
 {
-    return CFGetTypeID(value) == CFTypeID::String ? value : QVariant();
+    const bool isColor =
+        CFGetTypeID(value) == CFTypeID::Data && NSUnarchiver::unarchiveObjectWithData(value.toByteArray()) != nullptr;
+    return isColor ? value : QVariant();
 }
 
-QVariant asData(const QVariant &value)
+/// A stored value in the form of its setting, or no value where it counts as absent.
+QVariant accepted(const KTXSetting &setting, const QVariant &value)
 {
-    return CFGetTypeID(value) == CFTypeID::Data ? value : QVariant();
-}
-
-QVariant asHotKey(const QVariant &value)
-{
-    const bool isHotKey = CFGetTypeID(value) == CFTypeID::Dictionary && value.toMap().contains(KTXKeycode);
-    return isHotKey ? value : QVariant();
-}
-
-/// The value in the form of its type, or no value.
-QVariant accepted(SettingType type, const QVariant &value)
-{
-    switch (type) {
-    case SettingType::Boolean:
-        return asBoolean(value);
-    case SettingType::ModifierMask:
-        return asModifierMask(value);
-    case SettingType::Float:
-        return asFloat(value);
-    case SettingType::Text:
-        return asText(value);
-    case SettingType::Data:
-        return asData(value);
-    case SettingType::HotKey:
-        return asHotKey(value);
-    case SettingType::Anything:
+    switch (setting.type) {
+    case KTXSettingType::Presence:
         break;
+    case KTXSettingType::Boolean:
+        return asBoolean(value);
+    case KTXSettingType::Truth:
+        return boolValue(value);
+    case KTXSettingType::ModifierMask:
+        return asModifierMask(value);
+    case KTXSettingType::Number:
+        return asNumber(setting, value);
+    case KTXSettingType::SortOrder:
+        return isChoice(setting.key, value) ? value : QVariant();
+    case KTXSettingType::Color:
+        return asColor(value);
+    case KTXSettingType::HotKey:
+        return keyCodeOf(value) ? value : QVariant();
     }
     return value;
 }
 
-QList<AgentSetting> actionKeySettings()
-{
-    QList<AgentSetting> settings;
-    for (const KTXActionKey &action : KTXActionKeys()) {
-        const QVariantMap key{{KTXKeycode, QString::number(action.defaultKeyCode)}};
-        settings.append({action.preferenceName, SettingType::HotKey, key});
-    }
-    return settings;
-}
-
-QList<AgentSetting> allSettings()
-{
-    using enum SettingType;
-    const QString firstSelected = QStringLiteral("FirstSelected");
-    const QList<AgentSetting> beforeTheKeys{
-        {KTXShouldDebug, Boolean, false},
-        {KTXFirstLaunch, Anything, {}},
-        {KTXModifierMask, ModifierMask, qlonglong(DEFAULT_MODIFIER_MASK)},
-        {KTXSuppressHKeyTaken, Boolean, false},
-        {KTXsuppressHKeysTaken, Boolean, false},
-        {KTXSuppressModAlert, Boolean, false},
-        {KTXOverlayColor, Data, {}},
-    };
-    const QList<AgentSetting> afterTheKeys{
-        {SUEnableAutomaticChecks, Boolean, false},
-        {KTXAutoRepeat, Boolean, true},
-        {KTXRepeatRate, Float, 1.0F},
-        {KTXInitialDelay, Float, 0.0F},
-        {KTXAnimate, Boolean, false},
-        {KTXHWrap, Boolean, true},
-        {KTXVWrap, Boolean, true},
-        {KTXHSort, Text, firstSelected},
-        {KTXVSort, Text, firstSelected},
-        // What the window shows for these until the user chooses.
-        {KTXCycleAscending, Boolean, false},
-        {KTXActivateDoubleClick, Boolean, false},
-        {KTXPersistentDoubleClick, Boolean, false},
-        // The agent's own.
-        {KTXsuppressMissionControl, Boolean, false},
-        {KTXShowHidden, Boolean, false},
-        {KTXVisualMode, Boolean, false},
-        {KTXShouldToggle, Boolean, false},
-        {KTXShouldBeep, Boolean, false},
-        {KTXTutorialDone, Boolean, false},
-    };
-    return beforeTheKeys + actionKeySettings() + afterTheKeys;
-}
-
 /// In the order of a dictionary, which is then filled at its end without a search.
-QList<AgentSetting> sortedSettings()
+QList<KTXSetting> sortedSettings()
 {
-    QList<AgentSetting> settings = agentSettings();
+    QList<KTXSetting> settings = KTXSettings();
     std::sort(
         settings.begin(), settings.end(), [](const auto &left, const auto &right) { return left.key < right.key; });
     return settings;
@@ -130,19 +72,13 @@ QList<AgentSetting> sortedSettings()
 
 } // namespace
 
-const QList<AgentSetting> &agentSettings()
-{
-    static const QList<AgentSetting> settings = allSettings();
-    return settings;
-}
-
 QVariantMap effectiveSettings(const QVariantMap &stored)
 {
-    static const QList<AgentSetting> settings = sortedSettings();
+    static const QList<KTXSetting> settings = sortedSettings();
     QVariantMap effective;
-    for (const AgentSetting &setting : settings) {
+    for (const KTXSetting &setting : settings) {
         const auto found = stored.constFind(setting.key);
-        const QVariant value = found == stored.cend() ? QVariant() : accepted(setting.type, *found);
+        const QVariant value = found == stored.cend() ? QVariant() : accepted(setting, *found);
         effective.insert(effective.cend(), setting.key, value.isValid() ? value : setting.defaultValue);
     }
     return effective;

@@ -89,7 +89,6 @@ void storeEverything()
     for (auto setting = settings.cbegin(); setting != settings.cend(); ++setting)
         CFPreferencesSetAppValue(setting.key(), setting.value(), KTXLMAppID);
     CFPreferencesSetAppValue(KTXFirstLaunch, true, KTXLMAppID);
-    CFPreferencesSetAppValue(KTXOverlayColor, QByteArray(150, 'c'), KTXLMAppID);
 }
 
 bool storeChange(int number)

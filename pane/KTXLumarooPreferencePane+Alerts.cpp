@@ -1,18 +1,12 @@
 #include "pane/KTXLumarooPreferencePane.h"
 
 #include "KTXConstants.h"
+#include "pane/SuppressedAlerts.h"
 #include "platform/appkit/alerts/NSAlert.h"
 #include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/preferences/CFPreferences.h"
-#include "platform/foundation/propertylists/CFTypeID.h"
 
 namespace {
-
-bool isSuppressed(const QString &suppressionKey)
-{
-    const QVariant stored = CFPreferencesCopyAppValue(suppressionKey, KTXLMAppID);
-    return stored.isValid() && CFGetTypeID(stored) == CFBooleanGetTypeID() && CFBooleanGetValue(stored);
-}
 
 QString iconFile(const NSBundle *bundle)
 {

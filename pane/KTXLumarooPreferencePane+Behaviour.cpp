@@ -1,47 +1,10 @@
 #include "pane/KTXLumarooPreferencePane.h"
 
 #include "KTXConstants.h"
+#include "KTXOptions.h"
 #include "platform/foundation/preferences/CFPreferences.h"
 
 namespace {
-
-enum Tag {
-    HorizontalWrapTag = 30,
-    VerticalWrapTag = 31,
-    KeyRepeatTag = 70,
-    AnimateTag = 73,
-    DoubleClickActivateTag = 74,
-    PersistentByDoubleClickTag = 74,
-    PersistentWithoutDoubleClickTag = 75,
-};
-
-/// What an item of a pop-up stores.
-struct Choice
-{
-    int tag;
-    QString key;
-    QVariant value;
-};
-
-/// In the order in which a selected item is compared with them.
-const QList<Choice> &choices()
-{
-    static const QList<Choice> all{
-        {50, KTXCycleAscending, true},
-        {51, KTXCycleAscending, false},
-        {52, KTXHSort, QStringLiteral("RightEdge")},
-        {60, KTXHSort, QStringLiteral("Center")},
-        {53, KTXHSort, QStringLiteral("LeftEdge")},
-        {58, KTXHSort, QStringLiteral("LeadingEdge")},
-        {54, KTXHSort, QStringLiteral("FirstSelected")},
-        {55, KTXVSort, QStringLiteral("TopEdge")},
-        {61, KTXVSort, QStringLiteral("Center")},
-        {56, KTXVSort, QStringLiteral("BottomEdge")},
-        {59, KTXVSort, QStringLiteral("LeadingEdge")},
-        {57, KTXVSort, QStringLiteral("FirstSelected")},
-    };
-    return all;
-}
 
 bool isOn(const QObject *checkBox)
 {
@@ -53,19 +16,19 @@ bool isOn(const QObject *checkBox)
 void KTXLumarooPreferencePane::enableChecked(QObject *sender)
 {
     switch (tag(sender)) {
-    case DoubleClickActivateTag:
+    case KTXDoubleClickActivateTag:
         activateByDoubleClick(sender);
         break;
-    case AnimateTag:
+    case KTXAnimateTag:
         storeAndSync(KTXAnimate, isOn(sender));
         break;
-    case HorizontalWrapTag:
+    case KTXHorizontalWrapTag:
         storeAndSync(KTXHWrap, isOn(sender));
         break;
-    case VerticalWrapTag:
+    case KTXVerticalWrapTag:
         storeAndSync(KTXVWrap, isOn(sender));
         break;
-    case KeyRepeatTag:
+    case KTXKeyRepeatTag:
         storeAndSync(KTXAutoRepeat, isOn(sender));
         setEnabled(repeatDelaySlider_, isOn(sender));
         setEnabled(repeatRateSlider_, isOn(sender));
@@ -79,8 +42,8 @@ void KTXLumarooPreferencePane::enableChecked(QObject *sender)
 void KTXLumarooPreferencePane::activateByDoubleClick(QObject *checkBox)
 {
     const NSMatrix *matrix = persistentModeMatrix_.get();
-    QObject *byDoubleClick = matrix ? matrix->cellWithTag(PersistentByDoubleClickTag) : nullptr;
-    QObject *withoutDoubleClick = matrix ? matrix->cellWithTag(PersistentWithoutDoubleClickTag) : nullptr;
+    QObject *byDoubleClick = matrix ? matrix->cellWithTag(KTXPersistentByDoubleClickTag) : nullptr;
+    QObject *withoutDoubleClick = matrix ? matrix->cellWithTag(KTXPersistentWithoutDoubleClickTag) : nullptr;
     CFPreferencesSetAppValue(KTXActivateDoubleClick, isOn(checkBox), KTXLMAppID);
     if (state(checkBox) == NSOnState) {
         setState(byDoubleClick, NSOnState);
@@ -96,7 +59,7 @@ void KTXLumarooPreferencePane::activateByDoubleClick(QObject *checkBox)
 
 void KTXLumarooPreferencePane::storeSelectedItem(QObject *popUp)
 {
-    for (const Choice &choice : choices()) {
+    for (const KTXChoice &choice : KTXChoices()) {
         if (selectedItemTag(popUp) == choice.tag)
             storeAndSync(choice.key, choice.value);
     }
@@ -105,5 +68,5 @@ void KTXLumarooPreferencePane::storeSelectedItem(QObject *popUp)
 void KTXLumarooPreferencePane::updatePersistentState(QObject *sender)
 {
     const auto *matrix = qobject_cast<NSMatrix *>(sender);
-    storeAndSync(KTXPersistentDoubleClick, matrix && tag(matrix->selectedCell()) == PersistentByDoubleClickTag);
+    storeAndSync(KTXPersistentDoubleClick, matrix && tag(matrix->selectedCell()) == KTXPersistentByDoubleClickTag);
 }

@@ -2,19 +2,18 @@
 
 #include "KTXActionKeys.h"
 #include "KTXConstants.h"
+#include "KTXHotKeyEntry.h"
 #include "KeyCodeTranslator.h"
 #include "pane/AlertOverEditor.h"
+#include "pane/SuppressedAlerts.h"
 #include "platform/appkit/NSApplication.h"
 #include "platform/appkit/NSBeep.h"
 #include "platform/appkit/colors/SystemColors.h"
 #include "platform/appkit/textfields/FieldEditor.h"
 #include "platform/foundation/preferences/CFPreferences.h"
-#include "platform/foundation/propertylists/CFTypeID.h"
-#include "platform/foundation/propertylists/NSNumber.h"
 
 namespace {
 
-constexpr int movementKeyCount = 5;
 constexpr quint16 keypadEnter = 76;
 constexpr quint16 leftArrow = 123;
 constexpr quint16 upArrow = 126;
@@ -32,11 +31,6 @@ QString labelOfPressedKey(quint16 keyCode)
         {upArrow, QStringLiteral("↑")}};
     const auto sign = signs.constFind(keyCode);
     return sign == signs.cend() ? keyName(keyCode).toUpper() : *sign;
-}
-
-bool isTrue(const QString &key)
-{
-    return CFBooleanGetValue(CFPreferencesCopyAppValue(key, KTXLMAppID));
 }
 
 } // namespace
@@ -77,7 +71,7 @@ bool KTXLumarooPreferencePane::controlTextShouldBeginEditing(QWidget *control, F
 void KTXLumarooPreferencePane::refuseHotKey(QWidget *control, FieldEditor *fieldEditor, quint16 keyCode)
 {
     setStringValue(control, keyName(keyCodes_->at(tag(control))).toUpper());
-    if (isTrue(KTXSuppressHKeyTaken)) {
+    if (isSuppressed(KTXSuppressHKeyTaken)) {
         NSBeep();
         return;
     }
@@ -95,10 +89,9 @@ void KTXLumarooPreferencePane::refuseHotKey(QWidget *control, FieldEditor *field
 void KTXLumarooPreferencePane::takeHotKey(QWidget *control, quint16 keyCode)
 {
     const int row = tag(control);
-    const QVariantMap hotKey{{KTXKeycode, QString::number(keyCode)}};
-    CFPreferencesSetAppValue(keyCodePrefNames_.at(row), hotKey, KTXLMAppID);
+    CFPreferencesSetAppValue(keyCodePrefNames_.at(row), hotKeyEntry(keyCode), KTXLMAppID);
     setStringValue(control, labelOfPressedKey(keyCode));
-    setHidden(viewWithTag(mainView(), row + movementKeyCount), true);
+    setHidden(viewWithTag(mainView(), row + KTXMovementKeyCount), true);
     // The agent is told before the table changes.
     syncPrefsAndNotifyAgent();
     keyCodes_->replace(row, keyCode);
@@ -144,7 +137,7 @@ void KTXLumarooPreferencePane::updateHotKeyFields()
 {
     if (!keyCodes_ || !mainView())
         return;
-    for (int row = 0; row < movementKeyCount; ++row)
+    for (int row = 0; row < KTXMovementKeyCount; ++row)
         setStringValue(viewWithTag(mainView(), row), keyName(keyCodes_->at(row)).toUpper());
     if (refreshConflictMarkers())
         warnOfConflicts(QStringLiteral("The marked keys have multiple actions assigned to them. Please change them to "

@@ -1,19 +1,13 @@
 #include "pane/KTXLumarooPreferencePane.h"
 
+#include "KTXActionKeys.h"
 #include "KTXConstants.h"
 #include "KeyCodeTranslator.h"
 #include "pane/AlertOverEditor.h"
+#include "pane/SuppressedAlerts.h"
 #include "platform/appkit/NSBeep.h"
 #include "platform/appkit/textfields/FieldEditor.h"
 #include "platform/foundation/preferences/CFPreferences.h"
-#include "platform/foundation/propertylists/CFTypeID.h"
-
-namespace {
-
-/// Rows 0 to 4, whose markers are tagged 5 to 9.
-constexpr int movementKeyCount = 5;
-
-} // namespace
 
 QString KTXLumarooPreferencePane::modifierGlyphs() const
 {
@@ -66,7 +60,7 @@ void KTXLumarooPreferencePane::setOnAgainAfterDelayZero(QObject *button)
 
 void KTXLumarooPreferencePane::warnOfLastModifier()
 {
-    if (CFBooleanGetValue(CFPreferencesCopyAppValue(KTXSuppressModAlert, KTXLMAppID))) {
+    if (isSuppressed(KTXSuppressModAlert)) {
         NSBeep();
         return;
     }
@@ -82,9 +76,9 @@ void KTXLumarooPreferencePane::warnOfLastModifier()
 bool KTXLumarooPreferencePane::refreshConflictMarkers()
 {
     bool isConflict = false;
-    for (int row = 0; row < movementKeyCount; ++row) {
+    for (int row = 0; row < KTXMovementKeyCount; ++row) {
         const bool isDuplicate = hotKeyIsDuplicateAtIndex(row);
-        setHidden(viewWithTag(mainView(), row + movementKeyCount), !isDuplicate);
+        setHidden(viewWithTag(mainView(), row + KTXMovementKeyCount), !isDuplicate);
         isConflict = isConflict || isDuplicate;
     }
     return isConflict;
@@ -92,7 +86,7 @@ bool KTXLumarooPreferencePane::refreshConflictMarkers()
 
 void KTXLumarooPreferencePane::warnOfConflicts(const QString &information)
 {
-    if (CFBooleanGetValue(CFPreferencesCopyAppValue(KTXsuppressHKeysTaken, KTXLMAppID)))
+    if (isSuppressed(KTXsuppressHKeysTaken))
         return;
     displayOverEditor(FieldEditor::forWindow(mainView()), [this, &information] {
         displayAlertwitheMessageAndInformationSuppressionPrefValueAndHelpAnchor(

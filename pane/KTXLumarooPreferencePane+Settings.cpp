@@ -1,49 +1,49 @@
 #include "pane/KTXLumarooPreferencePane.h"
 
 #include "KTXConstants.h"
+#include "KTXHotKeyEntry.h"
 #include "KTXModifiers.h"
+#include "KTXOptions.h"
+#include "KTXSettings.h"
 #include "KeyCodeTranslator.h"
 #include "platform/foundation/colors/NSArchiver.h"
 #include "platform/foundation/notifications/CFNotificationCenter.h"
 #include "platform/foundation/preferences/CFPreferences.h"
 #include "platform/foundation/preferences/NSUserDefaults.h"
 #include "platform/foundation/propertylists/CFTypeID.h"
-#include "platform/foundation/propertylists/Description.h"
 #include "platform/foundation/propertylists/NSNumber.h"
 
 namespace {
-
-constexpr int noItem = -1;
 
 bool isStored(const QString &key)
 {
     return CFPreferencesCopyAppValue(key, KTXLMAppID).isValid();
 }
 
-void addDefault(QVariantMap &domain, const QString &key, const QVariant &value)
+void addDefault(QVariantMap &domain, const QString &key)
 {
     if (!isStored(key))
-        domain.insert(key, value);
+        domain.insert(key, KTXDefaultValue(key));
 }
 
-QString sortOrder(const QString &key)
+QVariant storeDefault(const QString &key)
 {
-    const QVariant stored = CFPreferencesCopyAppValue(key, KTXLMAppID);
-    if (CFGetTypeID(stored) == CFTypeID::String)
-        return stored.toString();
-    const QString byDefault = QStringLiteral("FirstSelected");
+    const QVariant byDefault = KTXDefaultValue(key);
     CFPreferencesSetAppValue(key, byDefault, KTXLMAppID);
     return byDefault;
+}
+
+QVariant sortOrder(const QString &key)
+{
+    const QVariant stored = CFPreferencesCopyAppValue(key, KTXLMAppID);
+    return CFGetTypeID(stored) == CFTypeID::String ? stored : storeDefault(key);
 }
 
 bool isWrapping(const QString &key)
 {
     bool isValid = false;
     const bool stored = CFPreferencesGetAppBooleanValue(key, KTXLMAppID, &isValid);
-    if (isValid)
-        return stored;
-    CFPreferencesSetAppValue(key, true, KTXLMAppID);
-    return true;
+    return isValid ? stored : storeDefault(key).toBool();
 }
 
 void storeModifierMask(quint32 mask)
@@ -55,10 +55,8 @@ quint32 modifierMask()
 {
     bool isValid = false;
     quint32 mask = quint32(CFPreferencesGetAppIntegerValue(KTXModifierMask, KTXLMAppID, &isValid));
-    if (!isValid) {
-        mask = DEFAULT_MODIFIER_MASK;
-        storeModifierMask(mask);
-    }
+    if (!isValid)
+        mask = storeDefault(KTXModifierMask).toUInt();
     if (mask & ~KTXAllModifiers) {
         mask &= KTXAllModifiers;
         storeModifierMask(mask);
@@ -81,14 +79,14 @@ void KTXLumarooPreferencePane::readUserPrefs()
 void KTXLumarooPreferencePane::readKeyRepeatAndAnimation()
 {
     QVariantMap domain = NSUserDefaults::standardUserDefaults()->persistentDomainForName(KTXLMAppID);
-    addDefault(domain, KTXAnimate, false);
+    addDefault(domain, KTXAnimate);
     setState(animateButton_, boolValue(domain.value(KTXAnimate)));
-    addDefault(domain, KTXAutoRepeat, true);
+    addDefault(domain, KTXAutoRepeat);
     const bool isRepeating = boolValue(domain.value(KTXAutoRepeat));
     setState(keyRepeatButton_, isRepeating);
-    addDefault(domain, KTXRepeatRate, 1.0f);
+    addDefault(domain, KTXRepeatRate);
     setFloatValue(repeatRateSlider_, floatValue(domain.value(KTXRepeatRate)));
-    addDefault(domain, KTXInitialDelay, 0.0f);
+    addDefault(domain, KTXInitialDelay);
     setFloatValue(repeatDelaySlider_, floatValue(domain.value(KTXInitialDelay)));
     setEnabled(repeatDelaySlider_, isRepeating);
     setEnabled(repeatRateSlider_, isRepeating);
@@ -100,12 +98,8 @@ void KTXLumarooPreferencePane::readKeyRepeatAndAnimation()
 
 void KTXLumarooPreferencePane::readSortOrdersAndWrapping()
 {
-    static const QHash<QString, int> horizontalTags{
-        {QStringLiteral("RightEdge"), 52}, {QStringLiteral("LeftEdge"), 53}, {QStringLiteral("FirstSelected"), 54}};
-    static const QHash<QString, int> verticalTags{
-        {QStringLiteral("BottomEdge"), 56}, {QStringLiteral("TopEdge"), 55}, {QStringLiteral("FirstSelected"), 57}};
-    selectItemWithTag(HorizontalPopup_, horizontalTags.value(sortOrder(KTXHSort), noItem));
-    selectItemWithTag(VerticalPopup_, verticalTags.value(sortOrder(KTXVSort), noItem));
+    selectItemWithTag(HorizontalPopup_, itemToSelect(KTXHSort, sortOrder(KTXHSort)));
+    selectItemWithTag(VerticalPopup_, itemToSelect(KTXVSort, sortOrder(KTXVSort)));
     setState(enableHorizontalWrapButton_, isWrapping(KTXHWrap));
     setState(enableVerticalWrapButton_, isWrapping(KTXVWrap));
 }
@@ -128,10 +122,9 @@ void KTXLumarooPreferencePane::readHotKeys()
     keyCodes_ = defaultKeyCodes_;
     const QWidgetList fields = viewsWithTagsBelow(mainView(), int(keyCodePrefNames_.size()));
     for (int row = 0; row < keyCodePrefNames_.size(); ++row) {
-        const QVariant entry = CFPreferencesCopyAppValue(keyCodePrefNames_.at(row), KTXLMAppID);
-        const QVariantMap hotKey = CFGetTypeID(entry) == CFTypeID::Dictionary ? entry.toMap() : QVariantMap();
-        if (hotKey.contains(KTXKeycode))
-            keyCodes_->replace(row, intValue(hotKey.value(KTXKeycode)));
+        const auto stored = keyCodeOf(CFPreferencesCopyAppValue(keyCodePrefNames_.at(row), KTXLMAppID));
+        if (stored)
+            keyCodes_->replace(row, *stored);
         const QString name = KeyCodeTranslator::stringForKeyCodeWithModifierFlags(quint16(keyCodes_->at(row)), 0);
         setStringValue(fields.at(row), name);
     }
@@ -141,8 +134,7 @@ void KTXLumarooPreferencePane::readOverlayColor()
 {
     const QVariant archive = CFPreferencesCopyAppValue(KTXOverlayColor, KTXLMAppID);
     if (!archive.isValid()) {
-        const QByteArray byDefault = NSArchiver::archivedDataWithRootObject(NSColor::selectedTextBackgroundColor());
-        CFPreferencesSetAppValue(KTXOverlayColor, byDefault, KTXLMAppID);
+        storeDefault(KTXOverlayColor);
         return;
     }
     const bool isData = CFGetTypeID(archive) == CFTypeID::Data;

@@ -1,5 +1,6 @@
 #include "pane/KTXLumarooPreferencePane.h"
 
+#include "KTXActionKeys.h"
 #include "KTXConstants.h"
 #include "crashreporter/QBCheckForCrash.h"
 #include "pane/HelpBook.h"
@@ -19,7 +20,6 @@
 
 namespace {
 
-constexpr int lastMovementKey = 4;
 constexpr double gapToColorPanel = 10;
 
 } // namespace
@@ -119,7 +119,7 @@ void KTXLumarooPreferencePane::didSelect()
 NSPreferencePaneUnselectReply KTXLumarooPreferencePane::shouldUnselect()
 {
     bool isConflict = false;
-    for (int index = 0; index <= lastMovementKey; ++index)
+    for (int index = 0; index < KTXMovementKeyCount; ++index)
         isConflict = isConflict || hotKeyIsDuplicateAtIndex(index);
     if (!isConflict || userQuitsDespiteConflicts())
         return NSUnselectNow;
@@ -130,7 +130,7 @@ NSPreferencePaneUnselectReply KTXLumarooPreferencePane::shouldUnselect()
 void KTXLumarooPreferencePane::didUnselect()
 {
     if (selectedTabIndex(tabbedView_) == HotKeyTab) {
-        for (int row = 0; row <= lastMovementKey; ++row)
+        for (int row = 0; row < KTXMovementKeyCount; ++row)
             setBackgroundColor(viewWithTag(mainView(), row), Qt::white);
     }
     syncPrefsAndNotifyAgent();

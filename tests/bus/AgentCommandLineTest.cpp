@@ -1,10 +1,11 @@
 // The agent's program as people and scripts use it.
 
 #include "AgentSession.h"
+#include "ColorSamples.h"
 #include "KTXConstants.h"
+#include "KTXSettings.h"
 #include "Wait.h"
 #include "agent/AgentArguments.h"
-#include "agent/AgentSettings.h"
 #include "platform/foundation/bundles/NSBundle.h"
 
 #include <QDBusConnection>
@@ -57,15 +58,15 @@ QStringList methodsOf(const QByteArray &description, const QString &interface)
 
 TEST_F(TheCommandLine, printsWhatTheRunningAgentHasRead)
 {
-    store({{KTXFirstLaunch, true}, {KTXOverlayColor, QByteArray("\x01\x02\x03")}, {KTXRepeatRate, 0.5F},
+    store({{KTXFirstLaunch, true}, {KTXOverlayColor, colorSample("S005")}, {KTXRepeatRate, 0.5F},
         {KTXLeftPref, QVariantMap{{KTXKeycode, "0"}}}});
     AgentProgram agent;
     ASSERT_TRUE(agent.waitForLaunch());
     const QJsonObject shown = runningAgent();
     EXPECT_EQ(shown.value("version").toInt(), builtVersion());
     EXPECT_EQ(shown.value("readings").toInt(), 1);
-    EXPECT_EQ(shown.value("settings").toObject().size(), agentSettings().size());
-    EXPECT_EQ(runningAgentsSetting(KTXOverlayColor), QJsonValue("AQID"));
+    EXPECT_EQ(shown.value("settings").toObject().size(), KTXSettings().size());
+    EXPECT_EQ(runningAgentsSetting(KTXOverlayColor), QJsonValue(QString::fromLatin1(colorSample("S005").toBase64())));
     EXPECT_EQ(runningAgentsSetting(KTXRepeatRate), QJsonValue(0.5));
     EXPECT_EQ(runningAgentsSetting(KTXLeftPref), QJsonValue(QJsonObject{{"keycode", "0"}}));
 }

@@ -1,7 +1,9 @@
 // What the agent goes by for whatever is stored, and how it shows that.
 
 #include "agent/AgentSettings.h"
+#include "ColorSamples.h"
 #include "KTXConstants.h"
+#include "KTXSettings.h"
 #include "agent/SettingsJson.h"
 #include "platform/foundation/propertylists/PropertyList.h"
 
@@ -45,7 +47,7 @@ TEST(AgentSettings, areAllKeysOfTheDomainInTheirOrder)
         "VerticalSortOrder", "ActionKeyCyclesAscending", "doubleClickToActivate", "doubleClickForPersistent",
         "suppressMissionControl", "ShowHidden", "visualMode", "Toggle", "Beep", "tutorialWasClosed"};
     QStringList keys;
-    for (const AgentSetting &setting : agentSettings())
+    for (const KTXSetting &setting : KTXSettings())
         keys += setting.key;
     EXPECT_EQ(keys, expected);
 }
@@ -53,7 +55,7 @@ TEST(AgentSettings, areAllKeysOfTheDomainInTheirOrder)
 TEST(AgentSettings, ofAnEmptyDomainAreTheDefaultsThatThePaneWrites)
 {
     const QVariantMap settings = effectiveSettings({});
-    EXPECT_EQ(settings.size(), agentSettings().size());
+    EXPECT_EQ(settings.size(), KTXSettings().size());
     const QVariantMap expected{{KTXAnimate, false}, {KTXAutoRepeat, true}, {KTXRepeatRate, 1.0F},
         {KTXInitialDelay, 0.0F}, {KTXHSort, "FirstSelected"}, {KTXVSort, "FirstSelected"}, {KTXHWrap, true},
         {KTXVWrap, true}, {KTXModifierMask, qlonglong(0x1800)}, {KTXShouldDebug, false},
@@ -63,46 +65,59 @@ TEST(AgentSettings, ofAnEmptyDomainAreTheDefaultsThatThePaneWrites)
         EXPECT_TRUE(isEqualPropertyList(settings.value(value.key()), value.value())) << value.key().toStdString();
     EXPECT_EQ(settings.value(KTXUpPref), QVariantMap({{KTXKeycode, "126"}}));
     EXPECT_EQ(settings.value(KTXSnapPref), QVariantMap({{KTXKeycode, "36"}}));
-    EXPECT_FALSE(settings.value(KTXOverlayColor).isValid());
+    EXPECT_EQ(settings.value(KTXOverlayColor), systemColorArchive());
     EXPECT_FALSE(settings.value(KTXFirstLaunch).isValid());
 }
 
 TEST(AgentSettings, areWhatIsStoredWhereItIsOfTheRightType)
 {
     const QVariantMap stored{{KTXShouldDebug, true}, {KTXFirstLaunch, "long ago"}, {KTXModifierMask, qlonglong(0x100)},
-        {KTXOverlayColor, QByteArray("archive")}, {KTXUpPref, QVariantMap{{KTXKeycode, "13"}, {KTXUnichar, "w"}}},
-        {KTXRepeatRate, 0.25F}, {KTXHSort, "Center"}, {KTXVSort, "of no known meaning"}, {KTXCycleAscending, true}};
+        {KTXOverlayColor, colorSample("S001")}, {KTXUpPref, QVariantMap{{KTXKeycode, "13"}, {KTXUnichar, "w"}}},
+        {KTXRepeatRate, 0.25F}, {KTXHSort, "Center"}, {KTXVSort, "BottomEdge"}, {KTXCycleAscending, true}};
     const QVariantMap settings = effectiveSettings(stored);
     for (auto value = stored.cbegin(); value != stored.cend(); ++value)
         EXPECT_TRUE(isEqualPropertyList(settings.value(value.key()), value.value())) << value.key().toStdString();
 }
 
-TEST(AgentSettings, ofAnotherTypeCountAsAbsent)
+TEST(AgentSettings, ofAnotherTypeCountAsAbsentWhereTheTypeIsChecked)
 {
-    for (const AgentSetting &setting : agentSettings()) {
-        if (setting.type == SettingType::Anything)
+    const QVariant date = QDateTime::currentDateTimeUtc();
+    for (const KTXSetting &setting : KTXSettings()) {
+        const bool isTakenAsItComes = setting.type == KTXSettingType::Presence || setting.type == KTXSettingType::Truth
+            || setting.type == KTXSettingType::Number;
+        if (isTakenAsItComes)
             continue;
-        const QVariant date = QDateTime::currentDateTimeUtc();
         for (const QVariant &wrong : {date, QVariant(QVariantList{true}), QVariant(QVariantMap{{"other", "1"}})})
             EXPECT_EQ(effective(setting.key, wrong), setting.defaultValue) << setting.key.toStdString();
     }
     EXPECT_EQ(effective(KTXHWrap, qlonglong(0)), true);
     EXPECT_EQ(effective(KTXHWrap, "no"), true);
-    EXPECT_EQ(effective(KTXRepeatRate, "2"), 1.0F);
-    EXPECT_EQ(effective(KTXRepeatRate, true), 1.0F);
     EXPECT_EQ(effective(KTXHSort, QByteArray("Center")), "FirstSelected");
-    EXPECT_FALSE(effective(KTXOverlayColor, "text").isValid());
+    EXPECT_EQ(effective(KTXVSort, "of no known meaning"), "FirstSelected");
+    EXPECT_EQ(effective(KTXVSort, "LeftEdge"), "FirstSelected") << "an order of the other direction";
+    EXPECT_EQ(effective(KTXOverlayColor, "text"), systemColorArchive());
+    EXPECT_EQ(effective(KTXOverlayColor, QByteArray("damaged")), systemColorArchive());
     EXPECT_EQ(effective(KTXUpPref, "13"), QVariantMap({{KTXKeycode, "126"}}));
 }
 
-TEST(AgentSettings, takeNumbersThatAreNoneForAbsent)
+TEST(AgentSettings, ofAnotherTypeAreUsedAsTheyComeWhereTheTypeIsNotChecked)
+{
+    EXPECT_EQ(effective(KTXAutoRepeat, qlonglong(0)), false);
+    EXPECT_EQ(effective(KTXAutoRepeat, QByteArray("1")), false);
+    EXPECT_EQ(effective(KTXAnimate, "YES"), true);
+    EXPECT_EQ(effective(KTXCycleAscending, 0.5), true);
+    EXPECT_EQ(effective(KTXRepeatRate, "0.5"), 0.5F);
+    EXPECT_EQ(effective(KTXRepeatRate, QVariantList()), 0.0F);
+}
+
+TEST(AgentSettings, keepNumbersWithinTheBoundsOfTheirSliders)
 {
     EXPECT_EQ(effective(KTXRepeatRate, infinity), 1.0F);
-    EXPECT_EQ(effective(KTXRepeatRate, -infinity), 1.0F);
-    EXPECT_EQ(effective(KTXInitialDelay, std::numeric_limits<double>::quiet_NaN()), 0.0F);
-    EXPECT_EQ(effective(KTXInitialDelay, 1e300), 0.0F);
-    EXPECT_EQ(effective(KTXInitialDelay, 2.5), 2.5F);
-    EXPECT_EQ(effective(KTXInitialDelay, qlonglong(3)), 3.0F);
+    EXPECT_EQ(effective(KTXRepeatRate, -infinity), 0.0F);
+    EXPECT_EQ(effective(KTXRepeatRate, std::numeric_limits<double>::quiet_NaN()), 0.0F);
+    EXPECT_EQ(effective(KTXInitialDelay, 1e300), 2.0F);
+    EXPECT_EQ(effective(KTXInitialDelay, 1.5), 1.5F);
+    EXPECT_EQ(effective(KTXInitialDelay, qlonglong(3)), 2.0F);
 }
 
 TEST(AgentSettings, keepOnlyTheModifiersOfAMask)
@@ -128,7 +143,7 @@ TEST(TheShownSettings, holdVersionReadingsAndEveryKey)
     EXPECT_EQ(object.keys(), QStringList({"hotKeys", "readings", "settings", "version"}));
     EXPECT_EQ(object.value("version").toInt(), 100);
     EXPECT_EQ(object.value("readings").toInt(), 7);
-    EXPECT_EQ(object.value("settings").toObject().size(), agentSettings().size());
+    EXPECT_EQ(object.value("settings").toObject().size(), KTXSettings().size());
 }
 
 TEST(TheShownSettings, tellWhichKeysWork)

@@ -2,23 +2,9 @@
 
 #include "platform/foundation/preferences/internal/PreferencesDomain.h"
 #include "platform/foundation/propertylists/CFTypeID.h"
-
-#include <limits>
+#include "platform/foundation/propertylists/NSNumber.h"
 
 namespace {
-
-/// The integer a number stands for, where it is within 32 bits; a real counts by its whole part.
-std::optional<int> integerWithin32Bits(const QVariant &value)
-{
-    constexpr double Least = std::numeric_limits<int>::min();
-    constexpr double Most = std::numeric_limits<int>::max();
-    if (CFGetTypeID(value) != CFTypeID::Number)
-        return {};
-    const double number = value.toDouble();
-    if (!(number > Least - 1 && number < Most + 1))
-        return {};
-    return int(number);
-}
 
 void report(bool *keyExistsAndHasValidFormat, bool valid)
 {

@@ -3,6 +3,7 @@
 #include "platform/foundation/propertylists/CFTypeID.h"
 
 #include <QRegularExpression>
+#include <limits>
 
 namespace {
 
@@ -45,4 +46,16 @@ float floatValue(const QVariant &value)
     default:
         return 0;
     }
+}
+
+std::optional<qint32> integerWithin32Bits(const QVariant &value)
+{
+    constexpr double least = std::numeric_limits<qint32>::min();
+    constexpr double most = std::numeric_limits<qint32>::max();
+    if (CFGetTypeID(value) != CFTypeID::Number)
+        return {};
+    const double number = value.toDouble();
+    if (!(number > least - 1 && number < most + 1))
+        return {};
+    return qint32(number);
 }
