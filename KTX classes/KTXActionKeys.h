@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/foundation/keyboard/VirtualKeyCodes.h"
+
 #include <QString>
 #include <array>
 
@@ -7,7 +9,7 @@
 struct KTXActionKey
 {
     QString preferenceName;
-    quint16 defaultKeyCode;
+    VirtualKeyCode defaultKeyCode;
 };
 
 inline constexpr int KTXActionKeyCount = 11;

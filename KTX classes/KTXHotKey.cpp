@@ -64,7 +64,7 @@ void KTXHotKey::setHotKeyHandler()
     }
 }
 
-std::shared_ptr<KTXHotKey> KTXHotKey::createWithKeyCodeAndModifiers(quint32 keyCode, quint32 modifiers)
+std::shared_ptr<KTXHotKey> KTXHotKey::createWithKeyCodeAndModifiers(VirtualKeyCode keyCode, quint32 modifiers)
 {
     List &all = assignedHotKeys();
     const auto hotKey = std::make_shared<KTXHotKey>();
@@ -77,7 +77,7 @@ std::shared_ptr<KTXHotKey> KTXHotKey::createWithKeyCodeAndModifiers(quint32 keyC
     return all.back();
 }
 
-bool KTXHotKey::isAvailableWithKeyCodeAndModifiers(quint32 keyCode, quint32 modifiers)
+bool KTXHotKey::isAvailableWithKeyCodeAndModifiers(VirtualKeyCode keyCode, quint32 modifiers)
 {
     initialize();
     EventHotKeyRef reference = nullptr;
@@ -134,7 +134,7 @@ void KTXHotKey::removeFromAssignedHotKeys()
     all.erase(all.begin() + hotKeyID_.id);
 }
 
-bool KTXHotKey::setToKeyCodeWithModifiersForceChanges(quint32 keyCode, quint32 modifiers, bool forceChanges)
+bool KTXHotKey::setToKeyCodeWithModifiersForceChanges(VirtualKeyCode keyCode, quint32 modifiers, bool forceChanges)
 {
     if (modifiers == 0)
         return false;
@@ -159,7 +159,7 @@ QString KTXHotKey::modifierGlyphs() const
 
 QString KTXHotKey::description() const
 {
-    return modifierGlyphs() + KeyCodeTranslator::stringForKeyCodeWithModifierFlags(quint16(keycode_), 0);
+    return modifierGlyphs() + KeyCodeTranslator::stringForKeyCodeWithModifierFlags(keycode_, 0);
 }
 
 OSStatus KTXHotKeyHandler(EventHandlerCallRef, EventRef event, void *)

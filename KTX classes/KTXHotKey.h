@@ -36,9 +36,9 @@ public:
     /// Throws AssertionFailure when the system takes no handler.
     static void setHotKeyHandler();
     /// Adds a hot key at the end of the list; it is not registered yet.
-    static std::shared_ptr<KTXHotKey> createWithKeyCodeAndModifiers(quint32 keyCode, quint32 modifiers);
+    static std::shared_ptr<KTXHotKey> createWithKeyCodeAndModifiers(VirtualKeyCode keyCode, quint32 modifiers);
     /// Whether the combination can be registered now. It is tried, so a hot key that has it already makes it taken.
-    static bool isAvailableWithKeyCodeAndModifiers(quint32 keyCode, quint32 modifiers);
+    static bool isAvailableWithKeyCodeAndModifiers(VirtualKeyCode keyCode, quint32 modifiers);
     /// Unregisters all and empties the list.
     static void unregisterAllHotkeys();
 
@@ -49,8 +49,8 @@ public:
     KTXHotKey &operator=(const KTXHotKey &) = delete;
     bool init();
 
-    quint32 keycode() const { return keycode_; }
-    void setKeycode(quint32 keycode) { keycode_ = keycode; }
+    VirtualKeyCode keycode() const { return keycode_; }
+    void setKeycode(VirtualKeyCode keycode) { keycode_ = keycode; }
     quint32 modifiers() const { return modifiers_; }
     void setModifiers(quint32 modifiers) { modifiers_ = modifiers; }
     /// Kept for its owner; every registration is made without options.
@@ -78,14 +78,14 @@ public:
     ///
     /// Returns whether it was free; where it is the hot key's own already, whether it is registered. Refuses, and
     /// changes nothing, for no modifiers.
-    bool setToKeyCodeWithModifiersForceChanges(quint32 keyCode, quint32 modifiers, bool forceChanges);
+    bool setToKeyCodeWithModifiersForceChanges(VirtualKeyCode keyCode, quint32 modifiers, bool forceChanges);
 
     /// The modifiers' glyphs, and with description() the key's name after them.
     QString modifierGlyphs() const;
     QString description() const;
 
 private:
-    quint32 keycode_ = 0;
+    VirtualKeyCode keycode_;
     quint32 modifiers_ = 0;
     quint32 exclusive_ = 0;
     bool keyWasPressed_ = false;

@@ -54,7 +54,7 @@ constexpr std::array<ModifierGlyph, 4> modifierTable{{
 constexpr quint64 longestTranslation = 1;
 
 /// What the current layout gives for a key without modifiers: one UTF-16 unit, or nothing.
-QString translation(quint16 keyCode)
+QString translation(VirtualKeyCode keyCode)
 {
     const UCKeyboardLayoutRef layout =
         TISGetInputSourceProperty(TISCopyCurrentKeyboardLayoutInputSource(), kTISPropertyUnicodeKeyLayoutData);
@@ -75,9 +75,9 @@ QString textOf(const KeyName &row)
 
 } // namespace
 
-QString KeyCodeTranslator::stringForKeyCodeWithModifierFlags(quint16 keyCode, quint64)
+QString KeyCodeTranslator::stringForKeyCodeWithModifierFlags(VirtualKeyCode keyCode, quint64)
 {
-    return nameOfTranslation(translation(keyCode));
+    return nameOfTranslation(translation(keyCode.low16Bits()));
 }
 
 QString KeyCodeTranslator::nameOfTranslation(const QString &units)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/foundation/keyboard/VirtualKeyCodes.h"
+
 #include <QString>
 #include <array>
 
@@ -18,9 +20,10 @@ extern const std::array<KeyName, 24> keyNameTable;
 class KeyCodeTranslator
 {
 public:
-    /// The short text for a virtual key code: "Z" or "Y" by the layout in use, a name in the user's language, an arrow,
-    /// or nothing for a dead key. The modifier flags are ignored: a key is called the same whatever is held with it.
-    static QString stringForKeyCodeWithModifierFlags(quint16 keyCode, quint64 modifierFlags);
+    /// The short text for a virtual key code (its low 16 bits): "Z" or "Y" by the layout in use, a name in the user's
+    /// language, an arrow, or nothing for a dead key. The modifier flags are ignored: a key is called the same whatever
+    /// is held with it.
+    static QString stringForKeyCodeWithModifierFlags(VirtualKeyCode keyCode, quint64 modifierFlags);
 
     /// The text for what a key translates to (zero or one UTF-16 unit). Names are looked up in the main bundle.
     static QString nameOfTranslation(const QString &units);

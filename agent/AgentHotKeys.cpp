@@ -4,12 +4,10 @@
 #include "KTXConstants.h"
 #include "KTXHotKey.h"
 #include "KTXHotKeyEntry.h"
-#include "platform/foundation/keyboard/VirtualKeyCodes.h"
 #include "platform/foundation/notifications/NSNotificationCenter.h"
 #include "platform/foundation/system/NSLog.h"
 
 #include <algorithm>
-#include <limits>
 #include <utility>
 
 AgentHotKeys::AgentHotKeys()
@@ -34,7 +32,7 @@ void AgentHotKeys::apply(const QVariantMap &settings)
 {
     const auto modifiers = quint32(settings.value(KTXModifierMask).toUInt());
     for (ActionKey &key : keys_)
-        give(key, quint16(keyCodeOf(settings.value(key.action)).value_or(0)), modifiers);
+        give(key, keyCodeOf(settings.value(key.action)).value_or(0).low16Bits(), modifiers);
     // Only now, so that two actions can exchange their keys.
     registerKeys();
     if (modifiers == 0 && !saidNoModifiers_)
@@ -42,7 +40,7 @@ void AgentHotKeys::apply(const QVariantMap &settings)
     saidNoModifiers_ = modifiers == 0;
 }
 
-void AgentHotKeys::give(ActionKey &key, quint16 keyCode, quint32 modifiers)
+void AgentHotKeys::give(ActionKey &key, VirtualKeyCode keyCode, quint32 modifiers)
 {
     const bool isChanged = key.hotKey->keycode() != keyCode || key.hotKey->modifiers() != modifiers;
     key.hotKey->setKeycode(keyCode);
@@ -89,10 +87,7 @@ AgentHotKeys::Refusal AgentHotKeys::registration(const ActionKey &key) const
 /// Whether an action before it has the same key.
 bool AgentHotKeys::isAnotherActions(const ActionKey &key) const
 {
-    const auto pressedKey = [](const ActionKey &one) {
-        const quint32 code = one.hotKey->keycode();
-        return code <= std::numeric_limits<quint16>::max() ? pressedKeyCode(quint16(code)) : code;
-    };
+    const auto pressedKey = [](const ActionKey &one) { return pressedKeyCode(one.hotKey->keycode()); };
     return std::any_of(keys_.cbegin(), keys_.cbegin() + (&key - keys_.constData()),
         [&](const ActionKey &before) { return pressedKey(before) == pressedKey(key); });
 }
@@ -130,7 +125,7 @@ QList<AgentHotKey> AgentHotKeys::hotKeys() const
 {
     QList<AgentHotKey> hotKeys;
     for (const ActionKey &key : keys_)
-        hotKeys.append({key.action, int(key.hotKey->keycode()), key.hotKey->description(), text(refusalNow(key))});
+        hotKeys.append({key.action, key.hotKey->keycode(), key.hotKey->description(), text(refusalNow(key))});
     return hotKeys;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/foundation/OSStatus.h"
+#include "platform/foundation/keyboard/VirtualKeyCodes.h"
 
 #include <QList>
 #include <QObject>
@@ -13,7 +14,7 @@ class KTXHotKey;
 struct AgentHotKey
 {
     QString action; ///< the name under which its key is stored
-    int keyCode = 0;
+    VirtualKeyCode keyCode;
     QString combination; ///< glyphs of the modifiers and the key's name
     QString refusal; ///< why it is not registered; empty where it is
 };
@@ -51,7 +52,7 @@ private:
         Refusal refusal = Refusal::GivenUp; ///< as of the last attempt
     };
 
-    void give(ActionKey &key, quint16 keyCode, quint32 modifiers);
+    void give(ActionKey &key, VirtualKeyCode keyCode, quint32 modifiers);
     void registerKeys();
     void registerKey(ActionKey &key);
     Refusal registration(const ActionKey &key) const;

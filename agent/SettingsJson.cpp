@@ -45,8 +45,9 @@ QJsonValue jsonValue(const QVariant &value)
 QJsonObject hotKeyObject(const AgentHotKey &hotKey)
 {
     const bool isRegistered = hotKey.refusal.isEmpty();
-    QJsonObject object{{QStringLiteral("action"), hotKey.action}, {QStringLiteral("keyCode"), hotKey.keyCode},
-        {QStringLiteral("combination"), hotKey.combination}, {QStringLiteral("registered"), isRegistered}};
+    QJsonObject object{{QStringLiteral("action"), hotKey.action},
+        {QStringLiteral("keyCode"), int(hotKey.keyCode.number())}, {QStringLiteral("combination"), hotKey.combination},
+        {QStringLiteral("registered"), isRegistered}};
     if (!isRegistered)
         object.insert(QStringLiteral("refusal"), hotKey.refusal);
     return object;

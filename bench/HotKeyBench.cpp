@@ -116,10 +116,10 @@ int main(int argumentCount, char **arguments)
         measure(watch, plain.get(), block < 0 ? warmUp : floors);
         measure(watch, field, block < 0 ? warmUp : ours);
     }
-    const int last = pane->keyCodes()->at(screenshotRow);
+    const VirtualKeyCode last = pane->keyCodes()->at(screenshotRow);
     const QVariant stored =
         NSUserDefaults::standardUserDefaults()->persistentDomainForName(KTXLMAppID).value(KTXScreenshotPref);
-    if (stored.toMap().value(KTXKeycode).toString() != QString::number(last)
+    if (stored.toMap().value(KTXKeycode).toString() != QString::number(last.number())
         || stringValue(field) != QStringLiteral("B"))
         return 1;
     std::printf("key pressed until the field and the file hold it: %.1f us; into a line edit and one flush: %.1f us; "

@@ -18,7 +18,8 @@
 namespace {
 
 constexpr int blocks = 100, roundsInABlock = 10;
-constexpr quint32 keyCode = 0, modifiers = controlKey | optionKey;
+constexpr VirtualKeyCode keyCode = 0;
+constexpr quint32 modifiers = controlKey | optionKey;
 constexpr quint8 keycode = KEY_A + evdevToX11;
 constexpr quint16 mask = XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1;
 

@@ -14,19 +14,19 @@
 
 namespace {
 
-constexpr quint16 keypadEnter = 76;
-constexpr quint16 leftArrow = 123;
-constexpr quint16 upArrow = 126;
+constexpr VirtualKeyCode keypadEnter = 76;
+constexpr VirtualKeyCode leftArrow = 123;
+constexpr VirtualKeyCode upArrow = 126;
 
-QString keyName(int keyCode)
+QString keyName(VirtualKeyCode keyCode)
 {
-    return KeyCodeTranslator::stringForKeyCodeWithModifierFlags(quint16(keyCode), 0);
+    return KeyCodeTranslator::stringForKeyCodeWithModifierFlags(keyCode, 0);
 }
 
 /// What a pressed key is called: by the character it types, and a few by a sign of their own.
-QString labelOfPressedKey(quint16 keyCode)
+QString labelOfPressedKey(VirtualKeyCode keyCode)
 {
-    static const QHash<quint16, QString> signs{{49, QStringLiteral("___")}, {keypadEnter, QStringLiteral("⌅")},
+    static const QMap<VirtualKeyCode, QString> signs{{49, QStringLiteral("___")}, {keypadEnter, QStringLiteral("⌅")},
         {leftArrow, QStringLiteral("←")}, {124, QStringLiteral("→")}, {125, QStringLiteral("↓")},
         {upArrow, QStringLiteral("↑")}};
     const auto sign = signs.constFind(keyCode);
@@ -37,7 +37,7 @@ QString labelOfPressedKey(quint16 keyCode)
 
 void KTXLumarooPreferencePane::buildKeyTables()
 {
-    defaultKeyCodes_ = std::make_shared<QList<int>>();
+    defaultKeyCodes_ = std::make_shared<QList<VirtualKeyCode>>();
     for (const KTXActionKey &actionKey : KTXActionKeys()) {
         keyCodePrefNames_ += actionKey.preferenceName;
         defaultKeyCodes_->append(actionKey.defaultKeyCode);
@@ -68,7 +68,7 @@ bool KTXLumarooPreferencePane::controlTextShouldBeginEditing(QWidget *control, F
     return false;
 }
 
-void KTXLumarooPreferencePane::refuseHotKey(QWidget *control, FieldEditor *fieldEditor, quint16 keyCode)
+void KTXLumarooPreferencePane::refuseHotKey(QWidget *control, FieldEditor *fieldEditor, VirtualKeyCode keyCode)
 {
     setStringValue(control, keyName(keyCodes_->at(tag(control))).toUpper());
     if (isSuppressed(KTXSuppressHKeyTaken)) {
@@ -86,7 +86,7 @@ void KTXLumarooPreferencePane::refuseHotKey(QWidget *control, FieldEditor *field
     });
 }
 
-void KTXLumarooPreferencePane::takeHotKey(QWidget *control, quint16 keyCode)
+void KTXLumarooPreferencePane::takeHotKey(QWidget *control, VirtualKeyCode keyCode)
 {
     const int row = tag(control);
     CFPreferencesSetAppValue(keyCodePrefNames_.at(row), hotKeyEntry(keyCode), KTXLMAppID);

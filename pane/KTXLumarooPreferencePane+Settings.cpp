@@ -125,7 +125,7 @@ void KTXLumarooPreferencePane::readHotKeys()
         const auto stored = keyCodeOf(CFPreferencesCopyAppValue(keyCodePrefNames_.at(row), KTXLMAppID));
         if (stored)
             keyCodes_->replace(row, *stored);
-        const QString name = KeyCodeTranslator::stringForKeyCodeWithModifierFlags(quint16(keyCodes_->at(row)), 0);
+        const QString name = KeyCodeTranslator::stringForKeyCodeWithModifierFlags(keyCodes_->at(row), 0);
         setStringValue(fields.at(row), name);
     }
 }

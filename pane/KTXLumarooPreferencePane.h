@@ -5,6 +5,7 @@
 #include "platform/appkit/interface/NSPreferencePane.h"
 #include "platform/appkit/textfields/NSControlTextEditingDelegate.h"
 #include "platform/appkit/textfields/NSWindowDelegate.h"
+#include "platform/foundation/keyboard/VirtualKeyCodes.h"
 #include "platform/foundation/notifications/NSNotification.h"
 #include "platform/foundation/processes/ProcessSerialNumber.h"
 
@@ -13,7 +14,7 @@ class QUrl;
 class SUUpdater;
 
 /// Key codes by row: one object, which several names may denote.
-using KeyCodeTable = std::shared_ptr<QList<int>>;
+using KeyCodeTable = std::shared_ptr<QList<VirtualKeyCode>>;
 
 /// The settings pane. Each control edits one key of the agent's settings domain, which is then flushed and announced.
 class KTXLumarooPreferencePane : public NSPreferencePane,
@@ -121,8 +122,8 @@ private:
     void readModifiers();
     void readHotKeys();
     void readOverlayColor();
-    void takeHotKey(QWidget *control, quint16 keyCode);
-    void refuseHotKey(QWidget *control, FieldEditor *fieldEditor, quint16 keyCode);
+    void takeHotKey(QWidget *control, VirtualKeyCode keyCode);
+    void refuseHotKey(QWidget *control, FieldEditor *fieldEditor, VirtualKeyCode keyCode);
     bool refreshConflictMarkers();
     void warnOfConflicts(const QString &information);
     void warnOfLastModifier();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include "platform/foundation/keyboard/VirtualKeyCodes.h"
 
 enum class NSEventType { Other, KeyDown };
 
@@ -16,6 +16,6 @@ enum NSEventModifierFlags : quint32 {
 struct NSEvent
 {
     NSEventType type = NSEventType::Other;
-    quint16 keyCode = 0; ///< virtual key code: of the key itself, the same in every keyboard layout
+    VirtualKeyCode keyCode; ///< of the key itself, the same in every keyboard layout
     quint32 modifierFlags = 0;
 };

@@ -193,7 +193,7 @@ TEST_F(HotKeyFieldProtection, aViewThatIsNoRowStoresNothing)
         stranger->setProperty("tag", int(Screenshot));
         expectMarkersRefreshed();
         expectUnchanged();
-        EXPECT_EQ(*pane().keyCodes(), (QList<int>{126, 126, 125, 123, 44, 43, 1, 13, 49, 53, 36}));
+        EXPECT_EQ(*pane().keyCodes(), (QList<VirtualKeyCode>{126, 126, 125, 123, 44, 43, 1, 13, 49, 53, 36}));
         EXPECT_EQ(bell.rings(), 0);
     }
 }

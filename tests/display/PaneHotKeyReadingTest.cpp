@@ -57,7 +57,7 @@ TEST_F(PaneHotKeyReading, ofAKeyCodeTextItsLeadingNumberCounts)
     storeKey(KTXDownPref, qlonglong(13));
     storeKey(KTXLeftPref, QVariantList());
     pane().readUserPrefs();
-    EXPECT_EQ(pane().keyCodes()->mid(0, 4), (QList<int>{0, 12, 13, 0}));
+    EXPECT_EQ(pane().keyCodes()->mid(0, 4), (QList<VirtualKeyCode>{0, 12, 13, 0}));
 }
 
 TEST_F(PaneHotKeyReading, aKeyIsNamedByTheLow16BitsOfItsCode)

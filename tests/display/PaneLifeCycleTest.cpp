@@ -67,7 +67,8 @@ TEST_F(PaneLifeCycle, aNewPaneHasTheKeyTablesButNoWorkingCopy)
     const QStringList names{"moveUpHotKey", "moveRightHotKey", "moveDownHotKey", "moveLeftHotKey", "moveUnderHotKey",
         "openPrefPane", "takeScreenshot", "closeWindow", "showPreview", "CancelSelection", "SnapToSelection"};
     EXPECT_EQ(paneWithoutView().keyCodePrefNames(), names);
-    EXPECT_EQ(*paneWithoutView().defaultKeyCodes(), (QList<int>{126, 124, 125, 123, 44, 43, 1, 13, 49, 53, 36}));
+    EXPECT_EQ(
+        *paneWithoutView().defaultKeyCodes(), (QList<VirtualKeyCode>{126, 124, 125, 123, 44, 43, 1, 13, 49, 53, 36}));
     EXPECT_EQ(paneWithoutView().keyCodes(), nullptr);
 }
 

@@ -173,7 +173,7 @@ TEST_F(PaneSettings, aDomainOfNothingButWrongTypesIsRepairedWhereItIsCheckedAndE
     expected.insert({{KTXModifierMask, qlonglong(0x1800)}, {KTXHWrap, true}, {KTXVWrap, true},
         {KTXHSort, firstSelected}, {KTXVSort, firstSelected}});
     EXPECT_TRUE(isEqualPropertyList(store().domain(), expected));
-    EXPECT_EQ(*pane().keyCodes(), (QList<int>{126, 124, 125, 123, 44, 43, 1, 13, 49, 53, 36}));
+    EXPECT_EQ(*pane().keyCodes(), (QList<VirtualKeyCode>{126, 124, 125, 123, 44, 43, 1, 13, 49, 53, 36}));
     EXPECT_TRUE(isShown("animateButton"));
     EXPECT_FALSE(isShown("keyRepeatButton"));
     EXPECT_FALSE(isShown("autoUpdateButton"));

@@ -20,7 +20,7 @@ public:
     }
     ~HotKeyObjects() override { KTXHotKey::unregisterAllHotkeys(); }
 
-    static std::shared_ptr<KTXHotKey> created(quint32 keyCode, quint32 modifiers = controlKey)
+    static std::shared_ptr<KTXHotKey> created(VirtualKeyCode keyCode, quint32 modifiers = controlKey)
     {
         return KTXHotKey::createWithKeyCodeAndModifiers(keyCode, modifiers);
     }

@@ -9,7 +9,7 @@
 namespace {
 
 constexpr quint32 signature = fourCharacterCode("test"), markID = 4711;
-constexpr quint16 markKeyCode = 101;
+constexpr VirtualKeyCode markKeyCode = 101;
 
 QList<quint32> &heard()
 {
@@ -43,7 +43,7 @@ HotKeySession::~HotKeySession()
         UnregisterEventHotKey(reference);
 }
 
-OSStatus HotKeySession::add(quint32 keyCode, quint32 modifiers, quint32 id, quint32 options)
+OSStatus HotKeySession::add(VirtualKeyCode keyCode, quint32 modifiers, quint32 id, quint32 options)
 {
     EventHotKeyRef reference = nullptr;
     const OSStatus status =

@@ -15,7 +15,7 @@ public:
     ~HotKeySession() override;
 
     /// What registering gives; what it registers is given up with the test.
-    OSStatus add(quint32 keyCode, quint32 modifiers, quint32 id = 1, quint32 options = kEventHotKeyNoOptions);
+    OSStatus add(VirtualKeyCode keyCode, quint32 modifiers, quint32 id = 1, quint32 options = kEventHotKeyNoOptions);
     /// The reference of the last one that was registered.
     EventHotKeyRef last() const { return references_.isEmpty() ? nullptr : references_.last(); }
 

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "platform/foundation/keyboard/VirtualKeyCodes.h"
+
 #include <QList>
 #include <QPoint>
 #include <QtGlobal>
 
 // Real key presses and clicks on the X server, as a keyboard and a mouse would send them (XTEST). Keys are kernel
 // (evdev) codes.
-
-inline constexpr int evdevToX11 = 8;
 
 /// Presses and releases a key while `held` keys are down, and waits until the server has taken it all.
 void pressKey(int evdevCode, const QList<int> &held = {});

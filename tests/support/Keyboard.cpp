@@ -29,7 +29,7 @@ void lockKeyboardGroup(int group)
         qFatal("the server refuses group %d", group);
 }
 
-QString translatedKey(quint16 keyCode)
+QString translatedKey(VirtualKeyCode keyCode)
 {
     const UCKeyboardLayoutRef layout =
         TISGetInputSourceProperty(TISCopyCurrentKeyboardLayoutInputSource(), kTISPropertyUnicodeKeyLayoutData);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/foundation/keyboard/VirtualKeyCodes.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -11,4 +13,4 @@ void setKeyboardLayout(const QString &layouts, const QString &variants = {}, con
 void lockKeyboardGroup(int group);
 
 /// What the current layout gives for a virtual key code, by the platform's own calls.
-QString translatedKey(quint16 keyCode);
+QString translatedKey(VirtualKeyCode keyCode);

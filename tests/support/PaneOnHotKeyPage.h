@@ -22,7 +22,7 @@ protected:
     void focus(int row);
     /// The row whose field has the focus, -1 for none.
     int focusedRow();
-    int keyCode(int row) { return pane().keyCodes()->at(row); }
+    int keyCode(int row) { return int(pane().keyCodes()->at(row).number()); }
     QList<int> markedRows();
 
     /// Presses a key and waits until it has been handled.

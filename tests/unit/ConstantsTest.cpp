@@ -144,7 +144,7 @@ TEST(Constants, theElevenActionKeysStandInTheOrderOfTheTable)
     };
     std::vector<std::pair<QString, int>> found;
     for (const KTXActionKey &key : KTXActionKeys())
-        found.emplace_back(key.preferenceName, key.defaultKeyCode);
+        found.emplace_back(key.preferenceName, int(key.defaultKeyCode.number()));
     EXPECT_EQ(found, expected);
 }
 

@@ -21,7 +21,7 @@ struct Translation
     std::array<char16_t, 2> units{u'?', u'?'};
 };
 
-Translation translate(quint16 keyCode, quint32 modifiers, quint64 room)
+Translation translate(VirtualKeyCode keyCode, quint32 modifiers, quint64 room)
 {
     Translation result;
     result.status = UCKeyTranslate(currentLayout(), keyCode, kUCKeyActionDown, modifiers, LMGetKbdType(), 0,
@@ -40,7 +40,7 @@ TEST(DefaultKeyboardLayout, everyCodeAnswersAsOnAUSKeyboard)
 TEST(DefaultKeyboardLayout, unknownCodesGiveNothing)
 {
     for (const int code : {68, 128, 255, 256, 30000, 65535})
-        EXPECT_EQ(translatedKey(quint16(code)), "") << code;
+        EXPECT_EQ(translatedKey(quint32(code)), "") << code;
 }
 
 TEST(DefaultKeyboardLayout, modifiersAreNotLookedAt)

@@ -4,7 +4,7 @@
 
 namespace {
 
-QString nameOf(quint16 keyCode, quint64 modifierFlags = 0)
+QString nameOf(VirtualKeyCode keyCode, quint64 modifierFlags = 0)
 {
     return KeyCodeTranslator::stringForKeyCodeWithModifierFlags(keyCode, modifierFlags);
 }

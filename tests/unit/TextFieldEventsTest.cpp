@@ -16,15 +16,13 @@
 
 namespace {
 
-constexpr int scanCodeOfEvdev = 8;
-
 class TextFields : public testing::Test, public NSControlTextEditingDelegate, public NSWindowDelegate
 {
 public:
     bool controlTextShouldBeginEditing(QWidget *control, FieldEditor *fieldEditor) override
     {
         const NSEvent event = NSApplication::sharedApplication()->currentEvent();
-        const QString what = event.type == NSEventType::KeyDown ? QString::number(event.keyCode) : "other";
+        const QString what = event.type == NSEventType::KeyDown ? QString::number(event.keyCode.number()) : "other";
         asked += "begin " + control->objectName() + ' ' + what;
         lastEditor = fieldEditor;
         if (throws)
@@ -70,7 +68,7 @@ protected:
     void send(QLineEdit *to, QEvent::Type type, int evdev, Qt::Key key, const QString &text, quint64 time,
         bool isAutoRepeat = false)
     {
-        QKeyEvent event(type, key, {}, quint32(evdev + scanCodeOfEvdev), 0, 0, text, isAutoRepeat);
+        QKeyEvent event(type, key, {}, quint32(evdev + evdevToX11), 0, 0, text, isAutoRepeat);
         event.setTimestamp(time);
         QCoreApplication::sendEvent(to, &event);
     }
@@ -85,7 +83,7 @@ protected:
     bool throws = false;
 };
 
-NSEvent pressOf(quint16 keyCode, quint32 flags = 0)
+NSEvent pressOf(VirtualKeyCode keyCode, quint32 flags = 0)
 {
     return {NSEventType::KeyDown, keyCode, flags};
 }
@@ -276,7 +274,8 @@ TEST_F(TextFields, anEditorSelectsAndMovesTheFocusOfItsField)
 
 TEST(KeyBindings, aKeyPressIsReadFromTheHardwareAlone)
 {
-    const QKeyEvent press(QEvent::KeyPress, Qt::Key_Z, Qt::ShiftModifier | Qt::KeypadModifier, KEY_Y + 8, 0, 0, "Z");
+    const QKeyEvent press(
+        QEvent::KeyPress, Qt::Key_Z, Qt::ShiftModifier | Qt::KeypadModifier, KEY_Y + evdevToX11, 0, 0, "Z");
     const auto event = keyDownEvent(press);
     ASSERT_TRUE(event);
     EXPECT_EQ(event->keyCode, 16);

@@ -2,6 +2,7 @@
 
 #include "platform/foundation/Export.h"
 #include "platform/foundation/OSStatus.h"
+#include "platform/foundation/keyboard/VirtualKeyCodes.h"
 
 #include <QString>
 #include <QtGlobal>
@@ -108,7 +109,7 @@ LM_FOUNDATION OSStatus GetEventParameter(EventRef event, quint32 name, quint32 d
 /// place for the reference, and for a key or modifier that the keyboard does not have; eventInternalErr where there are
 /// no hot keys: without an X server, and in a Wayland session, which does not let programs see other programs' keys.
 /// Only with noErr is `hotKeyRef` written to.
-LM_FOUNDATION OSStatus RegisterEventHotKey(quint32 keyCode, quint32 modifiers, EventHotKeyID hotKeyID,
+LM_FOUNDATION OSStatus RegisterEventHotKey(VirtualKeyCode keyCode, quint32 modifiers, EventHotKeyID hotKeyID,
     EventTargetRef target, quint32 options, EventHotKeyRef *hotKeyRef);
 
 /// Whether a registration works now: noErr; paramErr while the changed keyboard lacks its key or modifier;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/foundation/Export.h"
+#include "platform/foundation/keyboard/VirtualKeyCodes.h"
 
 #include <QByteArray>
 #include <QString>
@@ -32,6 +33,6 @@ LM_FOUNDATION quint8 LMGetKbdType();
 /// Writes at most `maxStringLength` UTF-16 units to `unicodeString` and their count to `*actualStringLength`; a dead
 /// key, a modifier, an unknown code and a character that does not fit whole give 0. Returns 0, or -50 for a null layout
 /// or null pointers.
-LM_FOUNDATION qint32 UCKeyTranslate(const UCKeyboardLayoutRef &layout, quint16 virtualKeyCode, UCKeyAction keyAction,
-    quint32 modifierKeyState, quint32 keyboardType, quint32 keyTranslateOptions, quint32 *deadKeyState,
-    quint64 maxStringLength, quint64 *actualStringLength, char16_t *unicodeString);
+LM_FOUNDATION qint32 UCKeyTranslate(const UCKeyboardLayoutRef &layout, VirtualKeyCode virtualKeyCode,
+    UCKeyAction keyAction, quint32 modifierKeyState, quint32 keyboardType, quint32 keyTranslateOptions,
+    quint32 *deadKeyState, quint64 maxStringLength, quint64 *actualStringLength, char16_t *unicodeString);

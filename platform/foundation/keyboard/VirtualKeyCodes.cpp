@@ -8,7 +8,7 @@ namespace {
 struct Alias
 {
     quint16 evdev;
-    quint16 code;
+    VirtualKeyCode code;
     const char *xkbName; ///< empty for what no keyboard of the X server has
 };
 
@@ -160,14 +160,14 @@ std::span<const VirtualKey> virtualKeys()
     return keys;
 }
 
-const VirtualKey *virtualKey(quint16 code)
+const VirtualKey *virtualKey(VirtualKeyCode code)
 {
-    const auto hasLowerCode = [](const VirtualKey &key, quint16 wanted) { return key.code < wanted; };
+    const auto hasLowerCode = [](const VirtualKey &key, VirtualKeyCode wanted) { return key.code < wanted; };
     const VirtualKey *found = std::lower_bound(std::begin(keys), std::end(keys), code, hasLowerCode);
     return found != std::end(keys) && found->code == code ? found : nullptr;
 }
 
-std::optional<quint16> virtualKeyCodeForEvdev(quint32 evdev)
+std::optional<VirtualKeyCode> virtualKeyCodeForEvdev(quint32 evdev)
 {
     for (const VirtualKey &key : keys) {
         if (key.evdev != 0 && key.evdev == evdev && key.recordable)
@@ -180,15 +180,15 @@ std::optional<quint16> virtualKeyCodeForEvdev(quint32 evdev)
     return std::nullopt;
 }
 
-quint16 pressedKeyCode(quint16 code)
+VirtualKeyCode pressedKeyCode(VirtualKeyCode code)
 {
-    constexpr quint16 otherEnter = 52, enter = 76;
+    constexpr VirtualKeyCode otherEnter = 52, enter = 76;
     return code == otherEnter ? enter : code;
 }
 
-QList<PhysicalKey> physicalKeysOf(quint16 code)
+QList<PhysicalKey> physicalKeysOf(VirtualKeyCode code)
 {
-    const quint16 pressed = pressedKeyCode(code);
+    const VirtualKeyCode pressed = pressedKeyCode(code);
     QList<PhysicalKey> found;
     const VirtualKey *key = virtualKey(pressed);
     if (key && key->evdev != 0)

@@ -1,19 +1,15 @@
 #include "platform/appkit/textfields/internal/KeyBindings.h"
 
-#include "platform/foundation/keyboard/VirtualKeyCodes.h"
-
 #include <QKeyEvent>
 #include <algorithm>
 #include <array>
 
 namespace {
 
-constexpr quint32 scanCodeToEvdev = 8;
-
 struct KeyRange
 {
-    quint16 first;
-    quint16 last;
+    VirtualKeyCode first;
+    VirtualKeyCode last;
 };
 
 constexpr std::array typingKeys{
@@ -31,7 +27,7 @@ constexpr std::array typingKeys{
 
 struct KeyBinding
 {
-    quint16 keyCode;
+    VirtualKeyCode keyCode;
     const char16_t *selector;
     const char16_t *selectorWithShift;
 };
@@ -53,8 +49,8 @@ constexpr std::array bindings{
     KeyBinding{126, u"moveUp:", u"moveUpAndModifySelection:"},
 };
 
-constexpr quint16 returnKey = 36;
-constexpr std::array<quint16, 5> enterAndArrows{76, 123, 124, 125, 126};
+constexpr VirtualKeyCode returnKey = 36;
+constexpr std::array<VirtualKeyCode, 5> enterAndArrows{76, 123, 124, 125, 126};
 
 quint32 flagsOf(Qt::KeyboardModifiers modifiers)
 {
@@ -71,28 +67,28 @@ quint32 flagsOf(Qt::KeyboardModifiers modifiers)
 std::optional<NSEvent> keyDownEvent(const QKeyEvent &event)
 {
     const quint32 scanCode = event.nativeScanCode();
-    if (scanCode < scanCodeToEvdev)
+    if (scanCode < evdevToX11)
         return std::nullopt;
-    const std::optional<quint16> keyCode = virtualKeyCodeForEvdev(scanCode - scanCodeToEvdev);
+    const std::optional<VirtualKeyCode> keyCode = virtualKeyCodeForEvdev(scanCode - evdevToX11);
     if (!keyCode)
         return std::nullopt;
     return NSEvent{NSEventType::KeyDown, *keyCode, flagsOf(event.modifiers())};
 }
 
-bool isTypingKey(quint16 keyCode)
+bool isTypingKey(VirtualKeyCode keyCode)
 {
     const auto holds = [keyCode](KeyRange range) { return range.first <= keyCode && keyCode <= range.last; };
     return std::any_of(typingKeys.begin(), typingKeys.end(), holds);
 }
 
-bool countsOnceWhileHeld(quint16 keyCode)
+bool countsOnceWhileHeld(VirtualKeyCode keyCode)
 {
     const bool isEnterOrArrow =
         std::find(enterAndArrows.begin(), enterAndArrows.end(), keyCode) != enterAndArrows.end();
     return isEnterOrArrow || isTypingKey(keyCode);
 }
 
-bool comesBeforeShortcuts(quint16 keyCode)
+bool comesBeforeShortcuts(VirtualKeyCode keyCode)
 {
     return keyCode == returnKey || countsOnceWhileHeld(keyCode);
 }

@@ -15,15 +15,15 @@ class QKeyEvent;
 LM_APPKIT std::optional<NSEvent> keyDownEvent(const QKeyEvent &event);
 
 /// Whether a key types: letters, digits, signs, space, and the keypad without its Enter.
-LM_APPKIT bool isTypingKey(quint16 keyCode);
+LM_APPKIT bool isTypingKey(VirtualKeyCode keyCode);
 
 /// Whether a text field takes a key before any shortcut or mnemonic on it, whatever is held with it: what types, and
 /// the commands of Return, Enter and the arrows.
-LM_APPKIT bool comesBeforeShortcuts(quint16 keyCode);
+LM_APPKIT bool comesBeforeShortcuts(VirtualKeyCode keyCode);
 
 /// Whether a key that stays down is one press, of which the repeats are nothing: what types, Enter and the arrows.
 /// Others, Tab and Return among them, repeat.
-LM_APPKIT bool countsOnceWhileHeld(quint16 keyCode);
+LM_APPKIT bool countsOnceWhileHeld(VirtualKeyCode keyCode);
 
 /// The command that a key press becomes ("insertNewline:"); empty for none.
 LM_APPKIT QString commandSelector(const NSEvent &event);

@@ -1,23 +1,14 @@
 #include "platform/foundation/hotkeys/linux/HotKeyGrabs.h"
 
 #include "platform/foundation/hotkeys/HotKeys.h"
-#include "platform/foundation/keyboard/VirtualKeyCodes.h"
 
-#include <limits>
 #include <optional>
 #include <set>
 #include <utility>
 
 namespace {
 
-constexpr int evdevToX11 = 8;
 constexpr quint32 hotKeyModifiers = cmdKey | shiftKey | optionKey | controlKey;
-
-QList<PhysicalKey> keysOf(quint32 keyCode)
-{
-    const bool isCode = keyCode <= std::numeric_limits<quint16>::max();
-    return isCode ? physicalKeysOf(quint16(keyCode)) : QList<PhysicalKey>();
-}
 
 /// Found by name, which holds for every kind of keyboard; by number only where that is nobody else's.
 std::optional<quint8> keycodeOf(const PhysicalKey &key, const KeyboardMapping &keyboard)
@@ -31,10 +22,10 @@ std::optional<quint8> keycodeOf(const PhysicalKey &key, const KeyboardMapping &k
     return quint8(keycode);
 }
 
-std::set<quint8> keycodesOf(quint32 keyCode, const KeyboardMapping &keyboard)
+std::set<quint8> keycodesOf(VirtualKeyCode keyCode, const KeyboardMapping &keyboard)
 {
     std::set<quint8> keycodes;
-    for (const PhysicalKey &key : keysOf(keyCode)) {
+    for (const PhysicalKey &key : physicalKeysOf(keyCode)) {
         if (const auto keycode = keycodeOf(key, keyboard))
             keycodes.insert(*keycode);
     }
@@ -59,12 +50,12 @@ std::optional<quint16> serverModifiers(quint32 modifiers, const KeyboardMapping 
 
 } // namespace
 
-bool isHotKeyCombination(quint32 keyCode, quint32 modifiers)
+bool isHotKeyCombination(VirtualKeyCode keyCode, quint32 modifiers)
 {
-    return !keysOf(keyCode).isEmpty() && !(modifiers & ~hotKeyModifiers);
+    return !physicalKeysOf(keyCode).isEmpty() && !(modifiers & ~hotKeyModifiers);
 }
 
-std::vector<KeyGrab> grabsOf(quint32 keyCode, quint32 modifiers, const KeyboardMapping &keyboard)
+std::vector<KeyGrab> grabsOf(VirtualKeyCode keyCode, quint32 modifiers, const KeyboardMapping &keyboard)
 {
     const auto mask = serverModifiers(modifiers, keyboard);
     std::vector<KeyGrab> grabs;

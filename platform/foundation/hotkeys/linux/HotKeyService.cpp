@@ -38,7 +38,8 @@ HotKeyService::HotKeyService()
     QObject::connect(&renewal_, &QTimer::timeout, &renewal_, [this] { renew(); });
 }
 
-OSStatus HotKeyService::add(quint32 keyCode, quint32 modifiers, EventHotKeyID hotKeyID, EventHotKeyRef *hotKeyRef)
+OSStatus HotKeyService::add(
+    VirtualKeyCode keyCode, quint32 modifiers, EventHotKeyID hotKeyID, EventHotKeyRef *hotKeyRef)
 {
     if (!connect())
         return eventInternalErr;
@@ -123,7 +124,7 @@ void HotKeyService::reportUnavailable(const QString &reason)
         NSLog(QStringLiteral("lumaroo: hot keys: none can be registered: %1").arg(reason));
 }
 
-bool HotKeyService::isTaken(quint32 keyCode, quint32 modifiers, const std::vector<KeyGrab> &grabs) const
+bool HotKeyService::isTaken(VirtualKeyCode keyCode, quint32 modifiers, const std::vector<KeyGrab> &grabs) const
 {
     return std::any_of(registrations_.cbegin(), registrations_.cend(), [&](const Registration &one) {
         return (one.keyCode == keyCode && one.modifiers == modifiers) || overlap(one.grabs, grabs);

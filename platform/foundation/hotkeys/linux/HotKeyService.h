@@ -14,7 +14,7 @@ public:
     static HotKeyService &instance();
 
     /// Registers a combination that can be had at all.
-    OSStatus add(quint32 keyCode, quint32 modifiers, EventHotKeyID hotKeyID, EventHotKeyRef *hotKeyRef);
+    OSStatus add(VirtualKeyCode keyCode, quint32 modifiers, EventHotKeyID hotKeyID, EventHotKeyRef *hotKeyRef);
     OSStatus remove(EventHotKeyRef hotKeyRef);
     OSStatus status(EventHotKeyRef hotKeyRef) const;
 
@@ -22,7 +22,7 @@ private:
     struct Registration
     {
         quintptr number = 0; ///< never used twice; its reference
-        quint32 keyCode = 0;
+        VirtualKeyCode keyCode;
         quint32 modifiers = 0;
         EventHotKeyID hotKeyID;
         std::vector<KeyGrab> grabs; ///< none while the keyboard lacks the key, or another program has taken it
@@ -35,7 +35,7 @@ private:
     bool connect();
     void open();
     void reportUnavailable(const QString &reason);
-    bool isTaken(quint32 keyCode, quint32 modifiers, const std::vector<KeyGrab> &grabs) const;
+    bool isTaken(VirtualKeyCode keyCode, quint32 modifiers, const std::vector<KeyGrab> &grabs) const;
 
     void scheduleInput();
     void handleInput();

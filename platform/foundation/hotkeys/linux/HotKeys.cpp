@@ -2,7 +2,7 @@
 
 #include "platform/foundation/hotkeys/linux/HotKeyService.h"
 
-OSStatus RegisterEventHotKey(quint32 keyCode, quint32 modifiers, EventHotKeyID hotKeyID, EventTargetRef target,
+OSStatus RegisterEventHotKey(VirtualKeyCode keyCode, quint32 modifiers, EventHotKeyID hotKeyID, EventTargetRef target,
     quint32 options, EventHotKeyRef *hotKeyRef)
 {
     const bool hasOptions = options == kEventHotKeyNoOptions || options == kEventHotKeyExclusive;

@@ -94,7 +94,7 @@ quint8 LMGetKbdType()
     return ansiKeyboard;
 }
 
-qint32 UCKeyTranslate(const UCKeyboardLayoutRef &layout, quint16 virtualKeyCode, UCKeyAction keyAction,
+qint32 UCKeyTranslate(const UCKeyboardLayoutRef &layout, VirtualKeyCode virtualKeyCode, UCKeyAction keyAction,
     quint32 modifierKeyState, quint32 keyboardType, quint32 keyTranslateOptions, quint32 *deadKeyState,
     quint64 maxStringLength, quint64 *actualStringLength, char16_t *unicodeString)
 {

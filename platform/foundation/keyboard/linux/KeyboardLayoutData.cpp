@@ -1,22 +1,19 @@
 #include "platform/foundation/keyboard/linux/KeyboardLayoutData.h"
 
-#include "platform/foundation/keyboard/VirtualKeyCodes.h"
-
 #include <utility>
 
 namespace {
 
-constexpr xkb_keycode_t evdevToKeycode = 8;
 constexpr xkb_level_index_t numLockLevel = 1;
 
-constexpr quint16 lastTypingCode = 50;
-constexpr quint16 returnCode = 36;
-constexpr quint16 tabCode = 48;
-constexpr quint16 keypadDecimalCode = 65;
-constexpr quint16 yenCode = 93;
-constexpr quint16 underscoreCode = 94;
+constexpr VirtualKeyCode lastTypingCode = 50;
+constexpr VirtualKeyCode returnCode = 36;
+constexpr VirtualKeyCode tabCode = 48;
+constexpr VirtualKeyCode keypadDecimalCode = 65;
+constexpr VirtualKeyCode yenCode = 93;
+constexpr VirtualKeyCode underscoreCode = 94;
 
-bool dependsOnTheLayout(quint16 code)
+bool dependsOnTheLayout(VirtualKeyCode code)
 {
     const bool isTypingKey = code <= lastTypingCode && code != returnCode && code != tabCode;
     return isTypingKey || code == yenCode || code == underscoreCode;
@@ -25,7 +22,7 @@ bool dependsOnTheLayout(quint16 code)
 xkb_keycode_t keycodeOf(xkb_keymap *keymap, const VirtualKey &key)
 {
     const xkb_keycode_t named = xkb_keymap_key_by_name(keymap, key.xkbName);
-    return named != XKB_KEYCODE_INVALID ? named : key.evdev + evdevToKeycode;
+    return named != XKB_KEYCODE_INVALID ? named : key.evdev + evdevToX11;
 }
 
 } // namespace
@@ -52,7 +49,7 @@ KeyboardLayoutData::KeyboardLayoutData(XkbKeymap keymap, xkb_layout_index_t grou
         xkb_state_update_mask(unmodified_.get(), 0, 0, 0, 0, 0, group);
 }
 
-char32_t KeyboardLayoutData::character(quint16 virtualKeyCode) const
+char32_t KeyboardLayoutData::character(VirtualKeyCode virtualKeyCode) const
 {
     const VirtualKey *key = virtualKey(virtualKeyCode);
     if (!key || !unmodified_)

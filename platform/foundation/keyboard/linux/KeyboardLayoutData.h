@@ -20,7 +20,7 @@ public:
     KeyboardLayoutData(XkbKeymap keymap, xkb_layout_index_t group);
 
     /// The character of a key without modifiers; 0 for a dead key, a modifier and an unknown code.
-    char32_t character(quint16 virtualKeyCode) const;
+    char32_t character(VirtualKeyCode virtualKeyCode) const;
 
 private:
     char32_t typedCharacter(xkb_keycode_t key) const;
