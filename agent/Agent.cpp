@@ -12,6 +12,7 @@
 #include "platform/foundation/preferences/NSUserDefaults.h"
 #include "platform/foundation/propertylists/Description.h"
 #include "platform/foundation/system/NSLog.h"
+#include "platform/foundation/system/RunningExecutable.h"
 
 #include <QCoreApplication>
 #include <utility>
@@ -53,8 +54,8 @@ void Agent::observePane()
             this, [this, reaction](const NSNotification &) { (this->*reaction)(); }, name, KTXLMAppID);
     };
     observe(KTXLMPrefsChanged, &Agent::readChange);
-    observe(KTXLMAgentShouldTerminate, &Agent::terminate);
-    observe(KTXLMPrefPaneLaunched, &Agent::giveWayToNewer);
+    observe(KTXLMAgentShouldTerminate, &Agent::endForPane);
+    observe(KTXLMPrefPaneLaunched, &Agent::meetPane);
     observe(KTXLMRunTutorial, &Agent::hearTutorialRequest);
 }
 
@@ -71,6 +72,7 @@ void Agent::readSettings()
 
 void Agent::readChange()
 {
+    paneIsOpening_ = false;
     readSettings();
     // The pane fills in its defaults by writing the whole domain anew, and that may have overtaken our mark.
     markFirstLaunch();
@@ -112,11 +114,32 @@ void Agent::terminate()
     Q_EMIT ended(0);
 }
 
-void Agent::giveWayToNewer()
+void Agent::meetPane()
 {
-    const QString program = newerAgentProgram(bundlePath_, version_);
-    if (hasEnded_ || program.isEmpty())
-        return;
+    paneIsOpening_ = true;
+    const QString newer = newerAgentProgram(bundlePath_, version_);
+    if (!hasEnded_ && !newer.isEmpty())
+        startAnew(newer);
+}
+
+void Agent::endForPane()
+{
+    // On a first run the pane asks for the end and starts an agent in one go. It finds us still running then, and
+    // starts none: nobody would come after us.
+    if (!hasEnded_ && isFirstRunForPane())
+        startAnew(runningExecutablePath());
+    else
+        terminate();
+}
+
+/// Whether the pane that is opening finds no mark of a first launch: it does not see one that we could not store.
+bool Agent::isFirstRunForPane()
+{
+    return paneIsOpening_ && (markIsPending_ || !CFPreferencesCopyAppValue(KTXFirstLaunch, KTXLMAppID).isValid());
+}
+
+void Agent::startAnew(const QString &program)
+{
     announceEnd();
     goOn(program, replaceProgram(program, QCoreApplication::arguments().mid(1)));
 }
@@ -129,7 +152,7 @@ void Agent::hearTutorialRequest()
 
 void Agent::goOn(const QString &program, const QString &error)
 {
-    NSLog(QStringLiteral("lumaroo: agent: the newer %1 does not start: %2; going on with version %3")
+    NSLog(QStringLiteral("lumaroo: agent: %1 does not start: %2; going on with version %3")
               .arg(program, error)
               .arg(version_));
     if (name_.takeAtOnce()) {

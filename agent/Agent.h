@@ -40,12 +40,15 @@ Q_SIGNALS:
 
 private:
     void observePane();
+    void meetPane();
     void readChange();
     void markFirstLaunch();
     void announceLaunch();
     void announceEnd();
-    void giveWayToNewer();
+    void endForPane();
+    bool isFirstRunForPane();
     void hearTutorialRequest();
+    void startAnew(const QString &program);
     void goOn(const QString &program, const QString &error);
 
     AgentName &name_;
@@ -56,4 +59,5 @@ private:
     qint64 readings_ = 0;
     bool hasEnded_ = false;
     bool markIsPending_ = false; ///< of the first launch, since it could not be stored
+    bool paneIsOpening_ = false; ///< since it said so, until it has announced its settings
 };

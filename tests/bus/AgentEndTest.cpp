@@ -1,10 +1,12 @@
 // How the agent ends: asked by the pane, by its command line, by signals, or because the session does.
 
+#include "AgentBundle.h"
 #include "AgentSession.h"
 #include "KTXConstants.h"
 #include "Wait.h"
 
 #include <QDBusConnectionInterface>
+#include <QFile>
 #include <csignal>
 #include <list>
 #include <optional>
@@ -18,6 +20,19 @@ protected:
     {
         ASSERT_TRUE(agent.waitForLaunch());
         recorder.clear();
+    }
+
+    /// As a pane that is opening, and then finds no mark of a first launch in its store.
+    void askAsOnAFirstRun()
+    {
+        paneAnnounces(KTXLMPrefPaneLaunched);
+        paneAnnounces(KTXLMAgentShouldTerminate);
+    }
+    /// What was announced after a first run's request, ours left out.
+    bool startsAnew()
+    {
+        return waitUntil([this] { return recorder.names().contains(KTXLMAgentLaunched); })
+            && recorder.names().mid(2).first() == KTXLMAgentIsTerminating && agent.isRunning();
     }
 
     AgentProgram agent;
@@ -41,6 +56,69 @@ TEST_F(RunningAgent, quitsWhenThePaneAsksAndSaysSoFirst)
     EXPECT_EQ(agent.exitStatus(), 0);
     EXPECT_EQ(recorder.notifications(), QList({shouldTerminate(), terminating()}));
     EXPECT_FALSE(nameIsOwned());
+}
+
+TEST_F(RunningAgent, startsAnewForAPaneThatFindsNothingStored)
+{
+    const qint64 process = agent.processId();
+    ASSERT_TRUE(QFile::remove(settingsPath()));
+    askAsOnAFirstRun();
+    EXPECT_TRUE(announces({{KTXLMPrefPaneLaunched, KTXLMAppID, {}, true}, shouldTerminate(), terminating(),
+        changedByAgent(), launched()}));
+    EXPECT_EQ(stored().keys(), QStringList(KTXFirstLaunch));
+    EXPECT_TRUE(agent.isRunning());
+    EXPECT_EQ(agent.processId(), process);
+    EXPECT_TRUE(nameIsOwned());
+}
+
+TEST_F(RunningAgent, startsAnewForAPaneThatFindsTheSettingsDamaged)
+{
+    putSettingsFile("damaged");
+    askAsOnAFirstRun();
+    EXPECT_TRUE(startsAnew());
+}
+
+TEST_F(RunningAgent, startsAnewForAPaneThatCannotReadTheSettings)
+{
+    ASSERT_TRUE(QFile::setPermissions(settingsPath(), {}));
+    askAsOnAFirstRun();
+    EXPECT_TRUE(startsAnew());
+    // By now it sees a mark of its own that it could not store, and the pane does not.
+    recorder.clear();
+    askAsOnAFirstRun();
+    EXPECT_TRUE(startsAnew());
+}
+
+TEST_F(RunningAgent, endsForAPaneThatFindsItsMark)
+{
+    askAsOnAFirstRun();
+    EXPECT_EQ(agent.exitStatus(), 0);
+    EXPECT_FALSE(nameIsOwned());
+}
+
+TEST_F(RunningAgent, endsForAPaneThatHasBeenOpenWhateverIsStored)
+{
+    paneAnnounces(KTXLMPrefPaneLaunched);
+    paneAnnounces(KTXLMPrefsChanged);
+    ASSERT_TRUE(agent.waitForLine("settings read (2)"));
+    ASSERT_TRUE(QFile::remove(settingsPath()));
+    paneAnnounces(KTXLMAgentShouldTerminate);
+    EXPECT_EQ(agent.exitStatus(), 0);
+}
+
+TEST_F(AgentSessionAfterFirstLaunch, anAgentThatCannotStartAnewGoesOn)
+{
+    const AgentBundle bundle(120);
+    AgentProgram agent({"--foreground"}, bundle.executable());
+    ASSERT_TRUE(agent.waitForLaunch());
+    ASSERT_TRUE(QFile::remove(settingsPath()));
+    ASSERT_TRUE(QFile::remove(bundle.executable()));
+    paneAnnounces(KTXLMPrefPaneLaunched);
+    recorder.clear();
+    paneAnnounces(KTXLMAgentShouldTerminate);
+    EXPECT_TRUE(announces({shouldTerminate(), terminating(), launched(120)}));
+    EXPECT_TRUE(agent.isRunning());
+    EXPECT_TRUE(agent.errors().contains("going on with version 120")) << agent.errors().toStdString();
 }
 
 TEST_F(RunningAgent, announcesItsEndOnceHoweverOftenItIsAsked)

@@ -36,6 +36,7 @@ InstalledProduct::InstalledProduct()
     EXPECT_TRUE(QDir().mkpath(panes));
     EXPECT_EQ(runProgram(QStringLiteral("cp"), {QStringLiteral("-a"), SettingsProgram::builtPane(), panes}).status, 0);
     pane_ = QDir(panes).canonicalPath() + QStringLiteral("/Lumaroo.prefPane");
+    QFile::remove(settingsFile());
     NSUserDefaults::standardUserDefaults()->setPersistentDomainForName({}, KTXLMAppID);
 }
 
@@ -114,6 +115,11 @@ QStringList InstalledProduct::linesOfAgent()
 {
     written_.seek(0);
     return QString::fromUtf8(written_.readAll()).split(u'\n', Qt::SkipEmptyParts);
+}
+
+QString InstalledProduct::settingsFile()
+{
+    return qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/lumaroo/com.quorvane.Lumaroo.plist");
 }
 
 void InstalledProduct::storeOutside(const QString &key, const QVariant &value) const

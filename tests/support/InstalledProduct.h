@@ -37,6 +37,8 @@ protected:
     /// What the agent that was started last has written so far.
     QStringList linesOfAgent();
 
+    /// Where the product's settings are kept.
+    static QString settingsFile();
     void storeOutside(const QString &key, const QVariant &value) const;
 
     BusRecorder bus;

@@ -27,6 +27,25 @@ protected:
         whileOn = settings->settledPicture();
     }
 
+    /// Opens the settings anew where they find no mark of a first launch, and looks at what comes of the agent that
+    /// runs.
+    void openAgainAsOnAFirstRun()
+    {
+        const QList<pid_t> before = agents();
+        bus.clear();
+        settings = std::make_unique<SettingsProgram>(QStringList{pane()});
+        ASSERT_TRUE(settings->waitForWindows(1));
+        ASSERT_TRUE(waitUntil([this] { return bus.names().contains(KTXLMAgentLaunched); }));
+        EXPECT_EQ(bus.names().count(KTXLMAgentShouldTerminate), 1) << "the pane found a first run";
+        EXPECT_TRUE(waitUntil([this] { return settings->settledPicture() == whileOn; })) << "it is shown on";
+        EXPECT_EQ(agents(), before);
+    }
+    void quitSettings()
+    {
+        pressKey(KEY_Q, {KEY_LEFTCTRL});
+        ASSERT_EQ(settings->exitStatus(), 0);
+    }
+
     void pressSwitch() { pressKey(KEY_L, {KEY_LEFTALT}); }
 
     /// Where the page shows the agent's state: what differs between two of its pictures.
@@ -136,6 +155,37 @@ TEST_F(AgentByUser, anAgentThatWasKilledIsShownOffAtTheNextShowingAndCanBeTurned
     EXPECT_NE(settings->settledPicture(), whileOn);
     pressSwitch();
     EXPECT_TRUE(agentStarts());
+}
+
+TEST_F(AgentByUser, anAgentThatRunsIsOnAfterTheSettingsFileWasDeleted)
+{
+    firstRun();
+    quitSettings();
+    ASSERT_TRUE(QFile::remove(settingsFile()));
+    openAgainAsOnAFirstRun();
+    EXPECT_EQ(runningAgentsSetting(KTXFirstLaunch), QJsonValue(true));
+}
+
+TEST_F(AgentByUser, anAgentThatRunsIsOnAfterTheSettingsFileWasDamaged)
+{
+    firstRun();
+    quitSettings();
+    QFile file(settingsFile());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("damaged");
+    file.close();
+    openAgainAsOnAFirstRun();
+    EXPECT_EQ(runningAgentsSetting(KTXFirstLaunch), QJsonValue(true));
+}
+
+TEST_F(AgentByUser, anAgentThatRunsIsOnWhileTheSettingsFileCannotBeRead)
+{
+    firstRun();
+    quitSettings();
+    ASSERT_TRUE(QFile::setPermissions(settingsFile(), {}));
+    openAgainAsOnAFirstRun();
+    quitSettings();
+    openAgainAsOnAFirstRun();
 }
 
 TEST_F(AgentByUser, aMissingAgentLeavesTheSettingsUsable)

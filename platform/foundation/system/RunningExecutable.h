@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/foundation/Export.h"
+
 #include <QByteArray>
 #include <QString>
 #include <sys/types.h>
@@ -8,4 +10,4 @@
 QByteArray executableOf(pid_t process);
 
 /// The path of this process's executable when it was first asked for, also before there is an application object.
-QString runningExecutablePath();
+LM_FOUNDATION QString runningExecutablePath();
