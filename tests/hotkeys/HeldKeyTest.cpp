@@ -4,6 +4,7 @@
 #include "KeyPress.h"
 #include "Wait.h"
 
+#include <QRandomGenerator>
 #include <linux/input-event-codes.h>
 #include <thread>
 
@@ -123,6 +124,33 @@ TEST_F(HeldKey, isDeliveredWhileItIsHeldHoweverSoonItFollowsARelease)
     }
     keyUp(KEY_A);
     keyUp(KEY_LEFTCTRL);
+}
+
+TEST_F(HeldKey, countsOnceForEachPressWhileModifiersGoUpAndDownUnderIt)
+{
+    ASSERT_EQ(add(A, controlKey), noErr);
+    other.setKeyRepeat(60000, 10);
+    bool isSet = false;
+    const int wanted = qEnvironmentVariableIntValue("LUMAROO_STRESS_PRESSES", &isSet);
+    const int presses = isSet ? wanted : 2000;
+    // As fast as the server takes it, whatever this program is doing.
+    std::thread typist([presses] {
+        QRandomGenerator random(presses);
+        bool isDown = false, isControlDown = false;
+        for (int pressed = 0; pressed < presses;) {
+            bool &key = random.bounded(2) ? isDown : isControlDown;
+            key = !key;
+            (key ? keyDown : keyUp)(&key == &isDown ? KEY_A : KEY_LEFTCTRL);
+            pressed += &key == &isDown && isDown && isControlDown;
+        }
+        keyUp(KEY_A);
+        keyUp(KEY_LEFTCTRL);
+    });
+    constexpr int parts = 20; // each waited for as long as one press elsewhere
+    for (int part = 1; part <= parts; ++part)
+        EXPECT_TRUE(waitForPresses(presses / parts * part));
+    typist.join();
+    EXPECT_EQ(pressed().size(), presses);
 }
 
 TEST_F(HeldKey, heldLongerThanItsModifiersTypesIntoTheProgramWithTheFocus)

@@ -1,6 +1,5 @@
 #include "platform/foundation/hotkeys/linux/HotKeyConnection.h"
 
-#include <algorithm>
 #include <xcb/xinput.h>
 
 namespace {
@@ -87,13 +86,6 @@ std::optional<KeyboardMapping> HotKeyConnection::readKeyboard()
     return keyboard;
 }
 
-HotKeyConnection::HeldKeys HotKeyConnection::heldKeys(xcb_query_keymap_cookie_t asked)
-{
-    HeldKeys held{fromServer(xcb_query_keymap_reply(connection_.get(), asked, nullptr)), asked.sequence};
-    take(xcb_poll_for_queued_event);
-    return held;
-}
-
 std::vector<HotKeyConnection::GrabOnRoot> HotKeyConnection::onEveryRoot(const std::vector<KeyGrab> &grabs) const
 {
     std::vector<GrabOnRoot> all;
@@ -106,8 +98,9 @@ std::vector<HotKeyConnection::GrabOnRoot> HotKeyConnection::onEveryRoot(const st
 
 bool HotKeyConnection::grab(const std::vector<KeyGrab> &grabs)
 {
+    takeAnswer();
     // All requests go together; the answers to the first and the last are waited for.
-    const auto before = xcb_query_keymap(connection_.get());
+    carryOut(tracker_.prepareToGrab());
     std::vector<GrabOnRoot> granted;
     std::vector<std::pair<GrabOnRoot, xcb_void_cookie_t>> requests;
     for (const GrabOnRoot &one : onEveryRoot(grabs)) {
@@ -116,24 +109,25 @@ bool HotKeyConnection::grab(const std::vector<KeyGrab> &grabs)
                 XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
     }
     wait();
-    const HeldKeys held = heldKeys(before);
+    takeAnswer();
     for (const auto &[one, request] : requests) {
         if (!fromServer(xcb_request_check(connection_.get(), request)))
             granted.push_back(one);
     }
-    if (granted.size() < requests.size() || isLost()) {
+    const bool isGranted = granted.size() == requests.size() && !isLost();
+    if (isGranted)
+        tracker_.add(grabs);
+    else
         ungrab(granted);
-        return false;
-    }
-    grabbed_.insert(grabs.cbegin(), grabs.cend());
-    noteHeldBefore(grabs, held);
-    return true;
+    // Who registers much is not to pile up answers.
+    while (tracker_.isAnswerNext())
+        carryOut(tracker_.handleNext().orders);
+    return isGranted;
 }
 
 void HotKeyConnection::ungrab(const std::vector<KeyGrab> &grabs)
 {
-    for (const KeyGrab &grab : grabs)
-        grabbed_.erase(grab);
+    tracker_.remove(grabs);
     ungrab(onEveryRoot(grabs));
 }
 
@@ -147,41 +141,68 @@ void HotKeyConnection::ungrab(const std::vector<GrabOnRoot> &grabs)
 bool HotKeyConnection::hasQueuedInput()
 {
     take(xcb_poll_for_queued_event);
-    return !events_.empty() || unconfirmed_;
+    return tracker_.hasEvents() || asked_;
 }
 
 bool HotKeyConnection::isKeyboardChangePending()
 {
     take(xcb_poll_for_event);
-    const auto isChange = [](const Event &event) { return event.kind == Event::Kind::KeyboardChanged; };
-    return std::any_of(events_.cbegin(), events_.cend(), isChange);
+    return tracker_.isKeyboardChangePending();
 }
 
 std::optional<HotKeyInput> HotKeyConnection::nextInput()
 {
     for (;;) {
-        confirmDown();
+        takeAnswer();
         // Anew each time: what is written below may read events from the socket, which then tells of them no more.
         take(xcb_poll_for_event);
-        if (events_.empty())
+        if (!tracker_.hasEvents())
             return std::nullopt;
-        const Event event = events_.front();
-        events_.pop_front();
-        switch (event.kind) {
-        case Event::Kind::Press:
-            if (isNewPress(event.key.keycode))
-                return HotKeyInput{HotKeyInput::Kind::Press, event.key};
-            break;
-        case Event::Kind::Release:
-            noteRelease(event.key.keycode);
-            break;
-        case Event::Kind::ModifiersChanged:
-            noteModifiers(event.key.modifiers);
-            break;
-        case Event::Kind::KeyboardChanged:
-            return HotKeyInput{HotKeyInput::Kind::KeyboardChanged, {}};
-        }
+        const PressTracker::Step step = tracker_.handleNext();
+        carryOut(step.orders);
+        if (step.told)
+            return step.told;
     }
+}
+
+void HotKeyConnection::carryOut(const std::vector<ServerOrder> &orders)
+{
+    for (const ServerOrder order : orders)
+        carryOut(order);
+    // A question is sent when its answer is waited for, so that a press is told at once.
+    if (!orders.empty() && !asked_)
+        xcb_flush(connection_.get());
+}
+
+void HotKeyConnection::carryOut(ServerOrder order)
+{
+    switch (order) {
+    case ServerOrder::WatchReleases:
+        return watchReleases(true);
+    case ServerOrder::IgnoreReleases:
+        return watchReleases(false);
+    case ServerOrder::LetKeyboardGo:
+        xcb_ungrab_keyboard(connection_.get(), XCB_CURRENT_TIME);
+        return;
+    case ServerOrder::AskHeldKeys:
+        asked_ = xcb_query_keymap(connection_.get());
+        return;
+    }
+}
+
+/// Waits until the server has carried out what it was ordered, which includes that the keyboard is free. Where it has
+/// gone, no key is down.
+void HotKeyConnection::takeAnswer()
+{
+    if (!asked_)
+        return;
+    const auto asked = *std::exchange(asked_, std::nullopt);
+    const auto reply = fromServer(xcb_query_keymap_reply(connection_.get(), asked, nullptr));
+    take(xcb_poll_for_queued_event);
+    HeldKeys held;
+    for (size_t keycode = 0; reply && keycode < held.size(); ++keycode)
+        held[keycode] = reply->keys[keycode / 8] & (1 << (keycode % 8));
+    tracker_.take({KeyboardEvent::Kind::HeldKeysAnswered, {}, asked.sequence, held});
 }
 
 void HotKeyConnection::take(xcb_generic_event_t *(*poll)(xcb_connection_t *))
@@ -192,16 +213,16 @@ void HotKeyConnection::take(xcb_generic_event_t *(*poll)(xcb_connection_t *))
 
 void HotKeyConnection::take(const xcb_generic_event_t *event)
 {
-    using Kind = Event::Kind;
+    using Kind = KeyboardEvent::Kind;
     const quint8 type = event->response_type & eventTypeMask;
     if (type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE) {
         const auto *key = reinterpret_cast<const xcb_key_press_event_t *>(event);
-        events_.push_back({type == XCB_KEY_PRESS ? Kind::Press : Kind::Release,
-            {key->detail, quint16(key->state & realModifiers)}, event->full_sequence});
+        tracker_.take({type == XCB_KEY_PRESS ? Kind::Press : Kind::Release,
+            {key->detail, quint16(key->state & realModifiers)}, event->full_sequence, {}});
     } else if (type == XCB_GE_GENERIC) {
         const auto *raw = reinterpret_cast<const xcb_input_raw_key_release_event_t *>(event);
         if (raw->extension == rawEventExtension_ && raw->event_type == XCB_INPUT_RAW_KEY_RELEASE)
-            events_.push_back({Kind::Release, {quint8(raw->detail), 0}, event->full_sequence});
+            tracker_.take({Kind::Release, {quint8(raw->detail), 0}, event->full_sequence, {}});
     } else if (type == firstKeyboardEvent_) {
         takeKeyboardEvent(event);
     }
@@ -210,89 +231,9 @@ void HotKeyConnection::take(const xcb_generic_event_t *event)
 void HotKeyConnection::takeKeyboardEvent(const xcb_generic_event_t *event)
 {
     if (event->pad0 != XCB_XKB_STATE_NOTIFY) {
-        events_.push_back({Event::Kind::KeyboardChanged, {}, event->full_sequence});
+        tracker_.take({KeyboardEvent::Kind::KeyboardChanged, {}, event->full_sequence, {}});
         return;
     }
     const auto *state = reinterpret_cast<const xcb_xkb_state_notify_event_t *>(event);
-    events_.push_back({Event::Kind::ModifiersChanged, {0, state->mods}, event->full_sequence});
-}
-
-bool HotKeyConnection::isNewPress(quint8 keycode)
-{
-    if (!down_.contains(keycode)) {
-        noteDown(keycode);
-        return true;
-    }
-    // A repeat grabs the keyboard, too.
-    xcb_ungrab_keyboard(connection_.get(), XCB_CURRENT_TIME);
-    xcb_flush(connection_.get());
-    return false;
-}
-
-/// Has the keyboard be let go, and the release told: while the keyboard is grabbed as a key event, then as a raw one.
-/// That is sent by confirmDown() only, so that a press is told at once.
-void HotKeyConnection::noteDown(quint8 keycode)
-{
-    confirmDown();
-    if (down_.empty())
-        watchReleases(true);
-    down_.insert(keycode);
-    xcb_ungrab_keyboard(connection_.get(), XCB_CURRENT_TIME);
-    unconfirmed_ = DownKey{keycode, xcb_query_keymap(connection_.get())};
-}
-
-/// Waits until the keyboard is free. What was released before raw events came is up by then, and counts as released
-/// after what came in before.
-void HotKeyConnection::confirmDown()
-{
-    if (!unconfirmed_)
-        return;
-    const DownKey key = *std::exchange(unconfirmed_, std::nullopt);
-    const HeldKeys held = heldKeys(key.asked);
-    if (held.contains(key.keycode))
-        return;
-    const auto later = std::find_if(
-        events_.cbegin(), events_.cend(), [&held](const Event &event) { return !isBefore(event, held.sequence); });
-    events_.insert(later, {Event::Kind::Release, {key.keycode, 0}, held.sequence});
-}
-
-void HotKeyConnection::noteRelease(quint8 keycode)
-{
-    if (!down_.erase(keycode) || !down_.empty())
-        return;
-    watchReleases(false);
-    xcb_flush(connection_.get());
-}
-
-/// A key that repeats becomes a hot key with the modifiers that are pressed while it is down. It is not pressed, then.
-void HotKeyConnection::noteModifiers(quint16 modifiers)
-{
-    std::vector<KeyGrab> grabs;
-    std::copy_if(grabbed_.cbegin(), grabbed_.cend(), std::back_inserter(grabs),
-        [modifiers](const KeyGrab &grab) { return grab.modifiers == modifiers; });
-    if (!grabs.empty())
-        noteHeldBefore(grabs, heldKeys());
-}
-
-/// Takes note of keys that were down, but not pressed as hot keys. One whose press has come in is pressed.
-void HotKeyConnection::noteHeldBefore(const std::vector<KeyGrab> &grabs, const HeldKeys &held)
-{
-    for (const KeyGrab &grab : grabs) {
-        const quint8 keycode = grab.keycode;
-        if (held.contains(keycode) && !down_.contains(keycode) && !isPressPending(keycode, held.sequence))
-            noteDown(keycode);
-    }
-}
-
-/// Whether a press is still to be handled that came before the server got to a request.
-bool HotKeyConnection::isPressPending(quint8 keycode, quint32 sequence) const
-{
-    return std::any_of(events_.cbegin(), events_.cend(), [keycode, sequence](const Event &event) {
-        return event.kind == Event::Kind::Press && event.key.keycode == keycode && isBefore(event, sequence);
-    });
-}
-
-bool HotKeyConnection::isBefore(const Event &event, quint32 sequence)
-{
-    return qint32(event.sequence - sequence) < 0;
+    tracker_.take({KeyboardEvent::Kind::ModifiersChanged, {0, state->mods}, event->full_sequence, {}});
 }

@@ -3,24 +3,16 @@
 #include "platform/foundation/hotkeys/linux/HotKeyGrabs.h"
 
 #include <QString>
-#include <deque>
 #include <memory>
 #include <optional>
-#include <set>
 #include <utility>
 #include <vector>
 
-/// What a connection for hot keys tells.
-struct HotKeyInput
-{
-    enum class Kind { Press, KeyboardChanged } kind;
-    KeyGrab press; ///< the key with its modifiers, lock keys included
-};
-
-/// A connection to the X server that grabs keys, and tells presses from repeats.
+/// A connection to the X server that grabs keys, and tells of their presses.
 ///
 /// A held hot key would keep the whole keyboard grabbed, so the keyboard is let go as soon as the press has been told,
-/// and the key's release is seen among the server's raw events. Those are asked for only while a hot key is down.
+/// and the key's release is seen among the server's raw events. Those are asked for only while a hot key is down. What
+/// is a press, the tracker knows.
 class HotKeyConnection
 {
 public:
@@ -46,61 +38,32 @@ public:
     bool isKeyboardChangePending();
 
 private:
-    struct Event
-    {
-        enum class Kind { Press, Release, ModifiersChanged, KeyboardChanged } kind;
-        KeyGrab key;
-        quint32 sequence = 0; ///< of the last request that the server had handled before
-    };
-    /// A key that was down a moment ago; the server is asked whether it still is.
-    struct DownKey
-    {
-        quint8 keycode;
-        xcb_query_keymap_cookie_t asked;
-    };
     struct GrabOnRoot
     {
         KeyGrab grab;
         xcb_window_t root;
-    };
-    /// The keys that are down.
-    struct HeldKeys
-    {
-        FromServer<xcb_query_keymap_reply_t> keys;
-        quint32 sequence; ///< of the request that asked
-
-        bool contains(quint8 keycode) const { return keys && keys->keys[keycode / 8] & (1 << (keycode % 8)); }
     };
 
     explicit HotKeyConnection(XConnection connection) : connection_(std::move(connection)) { }
     bool startKeyboardEvents();
     bool startRawEvents();
     void watchReleases(bool watch);
+    void carryOut(const std::vector<ServerOrder> &orders);
+    void carryOut(ServerOrder order);
 
     std::vector<GrabOnRoot> onEveryRoot(const std::vector<KeyGrab> &grabs) const;
     void ungrab(const std::vector<GrabOnRoot> &grabs);
     void wait();
-    HeldKeys heldKeys(xcb_query_keymap_cookie_t asked);
-    HeldKeys heldKeys() { return heldKeys(xcb_query_keymap(connection_.get())); }
 
+    void takeAnswer();
     void take(xcb_generic_event_t *(*poll)(xcb_connection_t *));
     void take(const xcb_generic_event_t *event);
     void takeKeyboardEvent(const xcb_generic_event_t *event);
-    bool isNewPress(quint8 keycode);
-    void noteDown(quint8 keycode);
-    void confirmDown();
-    void noteRelease(quint8 keycode);
-    void noteModifiers(quint16 modifiers);
-    void noteHeldBefore(const std::vector<KeyGrab> &grabs, const HeldKeys &held);
-    bool isPressPending(quint8 keycode, quint32 sequence) const;
-    static bool isBefore(const Event &event, quint32 sequence);
 
     XConnection connection_;
     std::vector<xcb_window_t> roots_;
     quint8 firstKeyboardEvent_ = 0;
     quint8 rawEventExtension_ = 0;
-    std::set<KeyGrab> grabbed_;
-    std::deque<Event> events_;
-    std::set<quint8> down_;
-    std::optional<DownKey> unconfirmed_;
+    PressTracker tracker_;
+    std::optional<xcb_query_keymap_cookie_t> asked_; ///< which keys are down
 };

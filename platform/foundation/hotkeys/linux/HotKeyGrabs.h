@@ -1,19 +1,10 @@
 #pragma once
 
+#include "platform/foundation/hotkeys/internal/PressTracker.h"
 #include "platform/foundation/keyboard/KeyboardMapping.h"
 #include "platform/foundation/keyboard/VirtualKeyCodes.h"
 
-#include <compare>
 #include <vector>
-
-/// One grab of the X server: a key with exactly these modifiers, lock keys included.
-struct KeyGrab
-{
-    quint8 keycode = 0;
-    quint16 modifiers = 0;
-
-    std::strong_ordering operator<=>(const KeyGrab &) const = default; // NOLINT(modernize-use-nullptr)
-};
 
 /// Whether a combination can be had at all: a key of some keyboard, and modifiers that hot keys know.
 bool isHotKeyCombination(VirtualKeyCode keyCode, quint32 modifiers);
