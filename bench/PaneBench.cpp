@@ -3,6 +3,8 @@
 
 #include "KTXActionKeys.h"
 #include "KTXConstants.h"
+#include "bench/Median.h"
+#include "bench/OpenedPane.h"
 #include "pane/KTXLumarooPreferencePane.h"
 #include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/preferences/CFPreferences.h"

@@ -1,7 +1,7 @@
-// The floor of HostBench: the least that a program with a window of this toolkit does.
+// The floor of HostBench: the least that a program does which shows something to read in a window of this toolkit.
 
 #include <QApplication>
-#include <QWidget>
+#include <QLabel>
 
 int main(int argumentCount, char **arguments)
 {
@@ -9,7 +9,7 @@ int main(int argumentCount, char **arguments)
     QPalette palette = QApplication::palette();
     palette.setColor(QPalette::Window, QColor(0x23, 0x25, 0x28)); // the colour by which HostBench sees that it is drawn
     QApplication::setPalette(palette);
-    QWidget window;
+    QLabel window(QStringLiteral("One line of text"));
     window.resize(820, 640);
     window.show();
     return QApplication::exec();
