@@ -169,7 +169,7 @@ TEST_F(AnAlertSheet, staysUnderAnApplicationModalAlert)
     NSAlert question;
     question.setMessageText("Question");
     QTimer::singleShot(0, window, [this] {
-        ASSERT_TRUE(waitUntil([this] { return openAlert()->isActiveWindow() && shownMessage() == "Question"; }));
+        ASSERT_TRUE(waitUntil([this] { return hasKeyboard(openAlert()) && shownMessage() == "Question"; }));
         pressKey(KEY_ENTER);
     });
     EXPECT_EQ(question.runModal(), NSAlertFirstButtonReturn);

@@ -34,7 +34,7 @@ protected:
     void SetUp() override
     {
         host.start(QString());
-        ASSERT_TRUE(waitUntil([this] { return window()->isActiveWindow(); }));
+        ASSERT_TRUE(waitUntil([this] { return hasKeyboard(window()); }));
     }
     HostWindow *window() { return host.window(); }
     Overview *overview() { return window()->findChild<Overview *>("overview"); }

@@ -55,7 +55,7 @@ protected:
     /// Whether the alert with this message or information has the keyboard.
     static bool comesUp(const QString &text)
     {
-        return waitUntil([&] { return openAlert() && openAlert()->isActiveWindow() && textsOfAlert().contains(text); });
+        return waitUntil([&] { return openAlert() && hasKeyboard(openAlert()) && textsOfAlert().contains(text); });
     }
     void close()
     {
@@ -132,7 +132,7 @@ TEST_F(WarningsInTheHost, areAllAnsweredBeforeThePaneIsLeftAndComeAgainWithIt)
     // The question runs a loop of its own within the one that closes the sheet.
     QTimer user;
     user.callOnTimeout([&] {
-        if (!textsOfAlert().contains(quitDespiteConflicts) || !openAlert()->isActiveWindow())
+        if (!textsOfAlert().contains(quitDespiteConflicts) || !hasKeyboard(openAlert()))
             return;
         user.stop();
         pressKey(KEY_Q);

@@ -27,7 +27,7 @@ protected:
     {
         host.start(first.identifier());
         ASSERT_TRUE(waitUntil([&] { return first.calls().contains("didSelect shown"); }));
-        ASSERT_TRUE(waitUntil([&] { return host.window()->isActiveWindow(); }));
+        ASSERT_TRUE(waitUntil([&] { return hasKeyboard(host.window()); }));
         alertButton = host.window()->findChild<QPushButton *>("alert");
         first.takeCalls();
     }

@@ -82,7 +82,7 @@ TEST_F(HotKeyFieldColor, anotherWindowInFrontOnlyInterruptsTheEditing)
     ASSERT_TRUE(waitUntil([&] { return other.isActiveWindow(); }));
     EXPECT_EQ(editor()->delegate(), field(Up));
     window()->activateWindow();
-    ASSERT_TRUE(waitUntil([&] { return window()->isActiveWindow(); }));
+    ASSERT_TRUE(waitUntil([&] { return hasKeyboard(window()); }));
     press(KEY_B);
     expectTaken(Up, 11, "B");
 }

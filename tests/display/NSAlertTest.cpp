@@ -53,8 +53,7 @@ protected:
     static int run(NSAlert &alert, const std::function<void()> &meanwhile)
     {
         QTimer::singleShot(0, [&meanwhile] {
-            EXPECT_TRUE(
-                waitUntil([] { return window() && window()->isActiveWindow() && QApplication::focusWidget(); }));
+            EXPECT_TRUE(waitUntil([] { return window() && hasKeyboard(window()) && QApplication::focusWidget(); }));
             meanwhile();
         });
         return alert.runModal();

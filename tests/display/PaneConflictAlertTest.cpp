@@ -31,7 +31,7 @@ protected:
     {
         bool isAnswered = false;
         QTimer::singleShot(0, pane().mainView(), [&] {
-            ASSERT_TRUE(waitUntil([] { return alert() && alert()->isActiveWindow(); }));
+            ASSERT_TRUE(waitUntil([] { return alert() && hasKeyboard(alert()); }));
             answer(alert());
             isAnswered = waitUntil([] { return !alert(); });
             if (alert())

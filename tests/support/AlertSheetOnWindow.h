@@ -31,7 +31,7 @@ public:
     {
         show();
         field->setFocus();
-        ASSERT_TRUE(waitUntil([this] { return isActiveWindow() && field->hasFocus(); }));
+        ASSERT_TRUE(waitUntil([this] { return hasKeyboard(this) && field->hasFocus(); }));
     }
     bool isExposed() const { return windowHandle()->isExposed(); }
 

@@ -1,6 +1,7 @@
 #include "KeyPress.h"
 
 #include <QScopeGuard>
+#include <QWidget>
 #include <cstdlib>
 #include <memory>
 #include <xcb/xcb.h>
@@ -15,9 +16,17 @@ xcb_connection_t *connection()
     return display.get();
 }
 
+xcb_window_t windowWithKeyboard()
+{
+    const std::unique_ptr<xcb_get_input_focus_reply_t, decltype(&std::free)> reply(
+        xcb_get_input_focus_reply(connection(), xcb_get_input_focus(connection()), nullptr), &std::free);
+    return reply ? reply->focus : xcb_window_t(XCB_NONE);
+}
+
+/// An answer comes after all that was asked before.
 void waitForServer()
 {
-    std::free(xcb_get_input_focus_reply(connection(), xcb_get_input_focus(connection()), nullptr));
+    windowWithKeyboard();
 }
 
 void send(quint8 type, quint8 detail, QPoint place = {})
@@ -27,6 +36,11 @@ void send(quint8 type, quint8 detail, QPoint place = {})
 }
 
 } // namespace
+
+bool hasKeyboard(const QWidget *window)
+{
+    return window->isActiveWindow() && windowWithKeyboard() == window->winId();
+}
 
 void keyDown(int evdevCode)
 {

@@ -6,11 +6,16 @@
 #include <QPoint>
 #include <QtGlobal>
 
+class QWidget;
+
 // Real key presses and clicks on the X server, as a keyboard and a mouse would send them (XTEST). Keys are kernel
 // (evdev) codes.
 
 /// Presses and releases a key while `held` keys are down, and waits until the server has taken it all.
 void pressKey(int evdevCode, const QList<int> &held = {});
+/// Whether a press would come to a window now. When another window has gone, the toolkit calls this one active before
+/// the server has given it the keyboard; a press goes nowhere then.
+bool hasKeyboard(const QWidget *window);
 void keyDown(int evdevCode);
 void keyUp(int evdevCode);
 enum class MouseButton : quint8 { Left = 1, Middle = 2, Right = 3 };

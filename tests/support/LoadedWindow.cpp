@@ -1,6 +1,7 @@
 #include "LoadedWindow.h"
 
 #include "CapturedLog.h"
+#include "KeyPress.h"
 #include "Wait.h"
 #include "platform/appkit/interface/InterfaceFile.h"
 #include "platform/foundation/bundles/NSBundle.h"
@@ -76,8 +77,8 @@ QWidget *LoadedWindow::page(int index) const
 void LoadedWindow::show() const
 {
     root_->show();
-    if (!QTest::qWaitForWindowActive(root_.get(), 20000))
-        qFatal("the window does not become active");
+    if (!waitUntil([this] { return hasKeyboard(root_.get()); }))
+        qFatal("the window does not get the keyboard");
 }
 
 void LoadedWindow::showPage(int index) const

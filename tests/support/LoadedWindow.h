@@ -20,7 +20,7 @@ public:
 
     QWidget *root() const { return root_.get(); }
     QWidget *page(int index) const;
-    /// Shows the window and waits until it is there and active.
+    /// Shows the window and waits until it has the keyboard.
     void show() const;
     void showPage(int index) const;
 

@@ -17,12 +17,12 @@ QDialog *openAlert()
 
 bool alertComesUp()
 {
-    return waitUntil([] { return openAlert() && openAlert()->isActiveWindow() && QApplication::focusWidget(); });
+    return waitUntil([] { return openAlert() && hasKeyboard(openAlert()) && QApplication::focusWidget(); });
 }
 
 bool alertGoesBackTo(const QWidget *window)
 {
-    return waitUntil([window] { return !openAlert() && window->isActiveWindow(); });
+    return waitUntil([window] { return !openAlert() && hasKeyboard(window); });
 }
 
 bool noAlertComesUpOn(const QWidget *window)

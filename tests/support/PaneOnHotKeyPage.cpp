@@ -54,7 +54,7 @@ void PaneOnHotKeyPage::showPage()
 {
     showPane();
     selectTabViewItemAtIndex(control("tabbedView"), hotKeyPage);
-    ASSERT_TRUE(waitUntil([this] { return field(0)->isVisible() && window()->isActiveWindow(); }));
+    ASSERT_TRUE(waitUntil([this] { return field(0)->isVisible() && hasKeyboard(window()); }));
     rememberStore();
 }
 

@@ -1,5 +1,6 @@
 #include "PaneOnRealStore.h"
 
+#include "KeyPress.h"
 #include "Wait.h"
 
 #include "KTXConstants.h"
@@ -193,7 +194,7 @@ void PaneOnRealStore::showWindow()
     EXPECT_TRUE(waitUntil([this] {
         const QWidget *active = QApplication::activeWindow();
         if (active && (active == pane().mainView() || active->parentWidget() == pane().mainView()))
-            return true;
+            return hasKeyboard(active);
         // A window that the test before left on its way out may have taken the focus.
         pane().mainView()->activateWindow();
         return false;

@@ -82,7 +82,7 @@ protected:
     /// The pane, initialised but without its view.
     RecordingPane &paneWithoutView();
     void destroyPane() { pane_.reset(); }
-    /// Shows the pane's view in a window of its own and waits until it, or a sheet on it, is the active one.
+    /// Shows the pane's view in a window of its own and waits until it, or a sheet on it, has the keyboard.
     void showWindow();
     /// One showing as the host drives it, up to the end of what it deferred.
     void showPane();
