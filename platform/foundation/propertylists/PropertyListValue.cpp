@@ -86,7 +86,7 @@ private:
             const QVariant value = depth <= MaximumDepth ? converted(entry.value(), depth) : QVariant();
             if (!value.isValid())
                 return {};
-            result.insert(entry.key(), value);
+            result.insert(result.cend(), entry.key(), value);
         }
         return depth <= MaximumDepth && extent_.isWithinBounds() ? QVariant(result) : QVariant();
     }

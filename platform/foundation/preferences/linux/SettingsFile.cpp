@@ -50,22 +50,27 @@ bool SettingsFile::update(const Change &change)
     const Content content = current();
     if (content != Content::Values)
         return content == Content::Unreadable ? failToRead() : false;
-    if (isEqualPropertyList(change(stored_.values()), stored_.values()))
+    const QVariantMap changed = change(stored_.values());
+    if (isEqualPropertyList(changed, stored_.values()))
         return securePreviousWrite();
     const QByteArray path = target();
     if (!makeFolders(folderOf(path)))
         return failToWrite(systemError("mkdir"));
     const FileLock lock(lockPathFor(path));
-    return lock ? updateUnderLock(change, path) : failToWrite(lockError());
+    return lock ? updateUnderLock(change, changed, path) : failToWrite(lockError());
 }
 
-bool SettingsFile::updateUnderLock(const Change &change, const QByteArray &path)
+/// What was worked out before holds unless another process has written meanwhile.
+bool SettingsFile::updateUnderLock(const Change &change, const QVariantMap &changedBefore, const QByteArray &path)
 {
+    const quint64 readingBefore = stored_.reading();
     const Content content = stored_.refresh();
     if (content == Content::Damaged && !moveAsideUnderLock(path))
         return false;
     if (content == Content::Unreadable)
         return failToRead();
+    if (stored_.reading() == readingBefore)
+        return write(path, changedBefore);
     const QVariantMap changed = change(stored_.values());
     return isEqualPropertyList(changed, stored_.values()) ? securePreviousWrite() : write(path, changed);
 }

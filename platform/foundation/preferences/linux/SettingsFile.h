@@ -32,7 +32,7 @@ private:
     StoredSettings::Content current();
     StoredSettings::Content moveAside();
     bool moveAsideUnderLock(const QByteArray &path);
-    bool updateUnderLock(const Change &change, const QByteArray &path);
+    bool updateUnderLock(const Change &change, const QVariantMap &changedBefore, const QByteArray &path);
     bool write(const QByteArray &path, const QVariantMap &values);
     bool securePreviousWrite();
 

@@ -138,6 +138,7 @@ StoredSettings::Content StoredSettings::keep(Content content, const QString &pro
     content_ = content;
     problem_ = problem;
     values_ = values;
+    ++reading_;
     return content;
 }
 

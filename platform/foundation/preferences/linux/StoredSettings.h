@@ -22,6 +22,8 @@ public:
     Content content() const { return content_; }
     /// As of the last refresh; empty unless its answer was Values.
     const QVariantMap &values() const { return values_; }
+    /// The number of the reading that they came from: as long as it stays, they do.
+    quint64 reading() const { return reading_; }
     /// Why the last refresh did not answer Values.
     const QString &problem() const { return problem_; }
 
@@ -49,5 +51,6 @@ private:
     std::chrono::nanoseconds bytesReadAt_{}; ///< when the bytes were last seen to be these
     Content content_ = Content::Values;
     QVariantMap values_;
+    quint64 reading_ = 0;
     QString problem_;
 };

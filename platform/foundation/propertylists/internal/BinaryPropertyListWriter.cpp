@@ -5,6 +5,8 @@
 #include <QDateTime>
 #include <QHash>
 #include <QtEndian>
+#include <algorithm>
+#include <array>
 #include <bit>
 #include <vector>
 
@@ -14,8 +16,9 @@ constexpr qint64 MillisecondsTo2001 = 978'307'200'000;
 
 void appendNumber(QByteArray &bytes, quint64 number, int size)
 {
-    for (int shift = 8 * (size - 1); shift >= 0; shift -= 8)
-        bytes.append(char(number >> shift));
+    std::array<char, 8> digits;
+    qToBigEndian(number, digits.data());
+    bytes.append(digits.data() + digits.size() - size, size);
 }
 
 /// The fewest of 1, 2, 4 and 8 bytes that hold the number.
@@ -24,103 +27,123 @@ int sizeOf(quint64 number)
     return number <= 0xff ? 1 : number <= 0xffff ? 2 : number <= 0xffffffff ? 4 : 8;
 }
 
-QByteArray encodedInteger(quint64 bits, bool negative)
+void appendBits(QByteArray &bytes, char kind, quint64 bits, int size)
+{
+    bytes.append(kind);
+    appendNumber(bytes, bits, size);
+}
+
+void appendInteger(QByteArray &bytes, quint64 bits, bool negative)
 {
     const int size = negative ? 8 : sizeOf(bits);
-    QByteArray bytes(1, char(0x10 | std::countr_zero(unsigned(size))));
-    appendNumber(bytes, bits, size);
-    return bytes;
+    appendBits(bytes, char(0x10 | std::countr_zero(unsigned(size))), bits, size);
 }
 
 /// Eight bytes are signed; what needs their highest bit for its value takes sixteen.
-QByteArray encodedUnsigned(quint64 number)
+void appendUnsigned(QByteArray &bytes, quint64 number)
 {
-    if (qint64(number) >= 0)
-        return encodedInteger(number, false);
-    QByteArray bytes(1, char(0x14));
-    appendNumber(bytes, 0, 8);
+    if (qint64(number) >= 0) {
+        appendInteger(bytes, number, false);
+        return;
+    }
+    appendBits(bytes, 0x14, 0, 8);
     appendNumber(bytes, number, 8);
-    return bytes;
 }
 
-QByteArray marker(int kind, qint64 count)
+void appendMarker(QByteArray &bytes, int kind, qint64 count)
 {
-    if (count < 15)
-        return QByteArray(1, char(kind << 4 | count));
-    return QByteArray(1, char(kind << 4 | 15)) + encodedInteger(quint64(count), false);
+    bytes.append(char(kind << 4 | std::min(count, qint64(15))));
+    if (count >= 15)
+        appendInteger(bytes, quint64(count), false);
 }
 
-QByteArray encodedBits(char kind, quint64 bits, int size)
-{
-    QByteArray bytes(1, kind);
-    appendNumber(bytes, bits, size);
-    return bytes;
-}
-
-QByteArray encodedText(const QString &text)
+void appendText(QByteArray &bytes, const QString &text)
 {
     const bool plain =
         std::all_of(text.begin(), text.end(), [](QChar character) { return character.unicode() < 0x80; });
+    appendMarker(bytes, plain ? 5 : 6, text.size());
+    const qsizetype begin = bytes.size();
+    bytes.resize(begin + (plain ? 1 : 2) * text.size());
     if (plain)
-        return marker(5, text.size()) + text.toLatin1();
-    QByteArray units(2 * text.size(), Qt::Uninitialized);
-    qToBigEndian<char16_t>(text.constData(), text.size(), units.data());
-    return marker(6, text.size()) + units;
+        std::transform(
+            text.begin(), text.end(), bytes.begin() + begin, [](QChar character) { return char(character.unicode()); });
+    else
+        qToBigEndian<char16_t>(text.constData(), text.size(), bytes.data() + begin);
 }
 
-QByteArray encodedDate(const QDateTime &date)
+void appendData(QByteArray &bytes, const QByteArray &data)
+{
+    appendMarker(bytes, 4, data.size());
+    bytes.append(data);
+}
+
+void appendDate(QByteArray &bytes, const QDateTime &date)
 {
     const double seconds = double(date.toMSecsSinceEpoch() - MillisecondsTo2001) / 1000;
-    return encodedBits(0x33, std::bit_cast<quint64>(seconds), 8);
+    appendBits(bytes, 0x33, std::bit_cast<quint64>(seconds), 8);
 }
 
-QByteArray encoded(const QVariant &value)
+void appendSimple(QByteArray &bytes, const QVariant &value)
 {
     switch (value.typeId()) {
     case QMetaType::Bool:
-        return QByteArray(1, value.toBool() ? 0x09 : 0x08);
+        return void(bytes.append(value.toBool() ? 0x09 : 0x08));
     case QMetaType::LongLong:
-        return encodedInteger(quint64(value.toLongLong()), value.toLongLong() < 0);
+        return appendInteger(bytes, quint64(value.toLongLong()), value.toLongLong() < 0);
     case QMetaType::ULongLong:
-        return encodedUnsigned(value.toULongLong());
+        return appendUnsigned(bytes, value.toULongLong());
     case QMetaType::Float:
-        return encodedBits(0x22, std::bit_cast<quint32>(value.toFloat()), 4);
+        return appendBits(bytes, 0x22, std::bit_cast<quint32>(value.toFloat()), 4);
     case QMetaType::Double:
-        return encodedBits(0x23, std::bit_cast<quint64>(value.toDouble()), 8);
+        return appendBits(bytes, 0x23, std::bit_cast<quint64>(value.toDouble()), 8);
     case QMetaType::QDateTime:
-        return encodedDate(value.toDateTime());
+        return appendDate(bytes, value.toDateTime());
     case QMetaType::QByteArray:
-        return marker(4, value.toByteArray().size()) + value.toByteArray();
+        return appendData(bytes, value.toByteArray());
     default:
-        return encodedText(value.toString());
+        return appendText(bytes, value.toString());
     }
 }
 
+/// A flush waits for it: what it gathers lies in a few long arrays, rather than in one piece of memory for each object.
 class Writer
 {
 public:
     QByteArray write(const QVariant &value)
     {
+        encodings_.reserve(UsualSize);
         add(value);
-        referenceSize_ = sizeOf(objects_.size());
-        QByteArray file("bplist00");
+        const int referenceSize = sizeOf(objects_.size());
+        QByteArray file;
+        file.reserve(encodings_.size() + qsizetype(references_.size()) * referenceSize
+            + qsizetype(objects_.size() * sizeof(quint64)) + SizeOfTheEnds);
+        file.append("bplist00");
         std::vector<qint64> offsets;
+        offsets.reserve(objects_.size());
         for (const Object &object : objects_) {
             offsets.push_back(file.size());
-            file += object.bytes;
-            for (const quint64 reference : object.references)
-                appendNumber(file, reference, referenceSize_);
+            file.append(encoding(object));
+            for (size_t i = 0; i < object.references; ++i)
+                appendNumber(file, references_[object.firstReference + i], referenceSize);
         }
-        appendTables(file, offsets);
+        appendTables(file, offsets, referenceSize);
         return file;
     }
 
 private:
+    /// What stands in the file for a value: bytes, and the numbers of the objects that it contains.
     struct Object
     {
-        QByteArray bytes;
-        std::vector<quint64> references;
+        qsizetype begin;
+        qsizetype size;
+        size_t firstReference = 0;
+        size_t references = 0;
     };
+
+    QByteArrayView encoding(const Object &object) const
+    {
+        return QByteArrayView(encodings_).sliced(object.begin, object.size);
+    }
 
     quint64 add(const QVariant &value)
     {
@@ -128,46 +151,68 @@ private:
             return addMap(value.toMap());
         if (value.typeId() == QMetaType::QVariantList)
             return addList(value.toList());
-        return addSimple(encoded(value));
+        const qsizetype begin = encodings_.size();
+        appendSimple(encodings_, value);
+        return addSimple(begin);
     }
 
-    /// Equal values are stored once; the encoding tells the types apart.
-    quint64 addSimple(const QByteArray &bytes)
+    quint64 addText(const QString &text)
     {
-        const auto known = simpleObjects_.constFind(bytes);
-        if (known != simpleObjects_.constEnd())
-            return *known;
-        simpleObjects_.insert(bytes, objects_.size());
-        objects_.push_back({bytes, {}});
-        return objects_.size() - 1;
+        const qsizetype begin = encodings_.size();
+        appendText(encodings_, text);
+        return addSimple(begin);
+    }
+
+    /// What has been encoded from there on. Equal values are stored once; the encoding tells the types apart.
+    quint64 addSimple(qsizetype begin)
+    {
+        const Object object{begin, encodings_.size() - begin};
+        quint64 &known = simpleObjects_[qHash(encoding(object))];
+        // Object 0 is the outermost, which is none of these in a list or dictionary.
+        if (known != 0 && encoding(objects_[known]) == encoding(object)) {
+            encodings_.truncate(begin);
+            return known;
+        }
+        known = objects_.size();
+        objects_.push_back(object);
+        return known;
     }
 
     /// A container stands before what it contains, so that the outermost is object 0.
+    quint64 addContainer(int kind, qsizetype count, qsizetype references)
+    {
+        const qsizetype begin = encodings_.size();
+        appendMarker(encodings_, kind, count);
+        objects_.push_back({begin, encodings_.size() - begin, references_.size(), size_t(references)});
+        references_.resize(references_.size() + size_t(references));
+        return objects_.size() - 1;
+    }
+
     quint64 addMap(const QVariantMap &map)
     {
-        const quint64 index = objects_.size();
-        objects_.push_back({marker(0xd, map.size()), {}});
-        std::vector<quint64> references;
+        const quint64 index = addContainer(0xd, map.size(), 2 * map.size());
+        size_t reference = objects_[index].firstReference;
         for (auto entry = map.keyBegin(); entry != map.keyEnd(); ++entry)
-            references.push_back(addSimple(encodedText(*entry)));
-        for (const QVariant &value : map)
-            references.push_back(add(value));
-        objects_[index].references = std::move(references);
+            references_[reference++] = addText(*entry);
+        for (const QVariant &value : map) {
+            const quint64 added = add(value);
+            references_[reference++] = added;
+        }
         return index;
     }
 
     quint64 addList(const QVariantList &list)
     {
-        const quint64 index = objects_.size();
-        objects_.push_back({marker(0xa, list.size()), {}});
-        std::vector<quint64> references;
-        for (const QVariant &value : list)
-            references.push_back(add(value));
-        objects_[index].references = std::move(references);
+        const quint64 index = addContainer(0xa, list.size(), list.size());
+        size_t reference = objects_[index].firstReference;
+        for (const QVariant &value : list) {
+            const quint64 added = add(value);
+            references_[reference++] = added;
+        }
         return index;
     }
 
-    void appendTables(QByteArray &file, const std::vector<qint64> &offsets) const
+    static void appendTables(QByteArray &file, const std::vector<qint64> &offsets, int referenceSize)
     {
         const qint64 table = file.size();
         const int offsetSize = sizeOf(quint64(table));
@@ -175,15 +220,19 @@ private:
             appendNumber(file, quint64(offset), offsetSize);
         file.append(6, '\0');
         file.append(char(offsetSize));
-        file.append(char(referenceSize_));
+        file.append(char(referenceSize));
         appendNumber(file, offsets.size(), 8);
         appendNumber(file, 0, 8);
         appendNumber(file, quint64(table), 8);
     }
 
+    static constexpr qsizetype UsualSize = 2048;
+    static constexpr qsizetype SizeOfTheEnds = 40;
+
+    QByteArray encodings_;
     std::vector<Object> objects_;
-    QHash<QByteArray, quint64> simpleObjects_;
-    int referenceSize_ = 0;
+    std::vector<quint64> references_;
+    QHash<size_t, quint64> simpleObjects_; ///< by the hash of their encoding
 };
 
 } // namespace
