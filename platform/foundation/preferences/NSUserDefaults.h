@@ -5,6 +5,10 @@
 #include <QString>
 #include <QVariantMap>
 
+/// Posted on the process's own centre when a domain reads otherwise than before: after this process has set something,
+/// and when a reading or a flush finds what others have written. The object is the domain's name, as a text.
+inline const QString NSUserDefaultsDidChangeNotification = QStringLiteral("NSUserDefaultsDidChangeNotification");
+
 /// Whole-domain access to the settings of CFPreferences.h.
 class LM_FOUNDATION NSUserDefaults
 {

@@ -1,5 +1,7 @@
 #include "platform/foundation/preferences/internal/PreferencesDomain.h"
 
+#include "platform/foundation/notifications/NSNotificationCenter.h"
+#include "platform/foundation/preferences/NSUserDefaults.h"
 #include "platform/foundation/propertylists/PropertyList.h"
 #include "platform/foundation/propertylists/PropertyListValue.h"
 #include "platform/foundation/system/NSLog.h"
@@ -49,23 +51,42 @@ PreferencesDomain *PreferencesDomain::find(const QString &name)
     const QString path = userConfigurationFolder() + QStringLiteral("/lumaroo/") + name + QStringLiteral(".plist");
     std::unique_ptr<PreferencesDomain> &domain = domains[path];
     if (!domain)
-        domain.reset(new PreferencesDomain(QFile::encodeName(path)));
+        domain.reset(new PreferencesDomain(name, QFile::encodeName(path)));
     return domain.get();
 }
 
-PreferencesDomain::PreferencesDomain(const QByteArray &path) : file_(path) { }
+PreferencesDomain::PreferencesDomain(const QString &name, const QByteArray &path) : name_(name), file_(path) { }
 
 QVariant PreferencesDomain::value(const QString &key)
 {
-    const auto pending = pending_.constFind(key);
-    if (pending != pending_.constEnd() && !(blind_.contains(key) && givesWayTo(file_.values(), key)))
-        return *pending;
-    return replacement_ ? replacement_->value(key) : file_.values().value(key);
+    const bool isOurs = pending_.contains(key) && !blind_.contains(key);
+    if (!isOurs && !replacement_)
+        file_.values();
+    const QVariant value = valueAsSeen(key);
+    tellOfChange();
+    return value;
 }
 
 QVariantMap PreferencesDomain::values()
 {
-    return withPendingChanges(replacement_ ? QVariantMap() : file_.values());
+    const QVariantMap values = withPendingChanges(replacement_ ? QVariantMap() : file_.values());
+    tellOfChange();
+    return values;
+}
+
+QVariant PreferencesDomain::valueAsSeen(const QString &key) const
+{
+    const auto pending = pending_.constFind(key);
+    if (pending != pending_.constEnd() && !givesWayTo(file_.lastValues(), key))
+        return *pending;
+    return replacement_ ? replacement_->value(key) : file_.lastValues().value(key);
+}
+
+void PreferencesDomain::tellOfChange(bool isChangedHere)
+{
+    const bool isChangedByOthers = std::exchange(changesToldOf_, file_.changesByOthers()) != file_.changesByOthers();
+    if (isChangedHere || isChangedByOthers)
+        NSNotificationCenter::defaultCenter()->postNotificationNameObject(NSUserDefaultsDidChangeNotification, name_);
 }
 
 void PreferencesDomain::setValue(const QString &key, const QVariant &value)
@@ -76,7 +97,14 @@ void PreferencesDomain::setValue(const QString &key, const QVariant &value)
             "lumaroo: settings: the value for \"%1\" is no property-list value (%2); the key keeps what it has")
                   .arg(key, QString::fromLatin1(value.typeName())));
     else
-        addPending(key, converted);
+        set(key, converted);
+}
+
+void PreferencesDomain::set(const QString &key, const QVariant &value)
+{
+    const QVariant before = valueAsSeen(key);
+    addPending(key, value);
+    tellOfChange(!isEqualPropertyList(before, valueAsSeen(key)));
 }
 
 void PreferencesDomain::addPending(const QString &key, const QVariant &value)
@@ -103,6 +131,14 @@ QStringList PreferencesDomain::keysThatGiveWayTo(const QVariantMap &stored) cons
 
 bool PreferencesDomain::replace(const QVariantMap &values)
 {
+    const QVariantMap before = withPendingChanges(file_.lastValues());
+    const bool isReplaced = replaceWith(values);
+    tellOfChange(!isEqualPropertyList(before, withPendingChanges(file_.lastValues())));
+    return isReplaced;
+}
+
+bool PreferencesDomain::replaceWith(const QVariantMap &values)
+{
     const QVariant converted = propertyListValue(values);
     if (!converted.isValid()) {
         NSLog(QStringLiteral(
@@ -112,7 +148,7 @@ bool PreferencesDomain::replace(const QVariantMap &values)
     const auto before = std::exchange(replacement_, converted.toMap());
     const QVariantMap pendingBefore = std::exchange(pending_, {});
     const QSet<QString> blindBefore = std::exchange(blind_, {});
-    if (flush())
+    if (flushPending())
         return true;
     if (!file_.isReadable()) {
         replacement_ = before;
@@ -125,7 +161,7 @@ bool PreferencesDomain::replace(const QVariantMap &values)
 
 void PreferencesDomain::setWhatDiffers(const QVariantMap &values)
 {
-    const QVariantMap seen = this->values();
+    const QVariantMap seen = withPendingChanges(replacement_ ? QVariantMap() : file_.values());
     for (auto entry = seen.begin(); entry != seen.end(); ++entry) {
         if (!values.contains(entry.key()))
             addPending(entry.key(), QVariant());
@@ -137,6 +173,13 @@ void PreferencesDomain::setWhatDiffers(const QVariantMap &values)
 }
 
 bool PreferencesDomain::flush()
+{
+    const bool isFlushed = flushPending();
+    tellOfChange();
+    return isFlushed;
+}
+
+bool PreferencesDomain::flushPending()
 {
     QStringList kept;
     const auto change = [&](const QVariantMap &stored) {

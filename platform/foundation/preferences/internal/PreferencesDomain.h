@@ -5,7 +5,8 @@
 #include <QSet>
 #include <optional>
 
-/// One settings domain as this process sees it: the file, under this process's changes that are not flushed yet.
+/// One settings domain as this process sees it: the file, under this process's changes that are not flushed yet. Where
+/// that has changed, each operation tells so as its last act.
 class LM_FOUNDATION PreferencesDomain
 {
 public:
@@ -28,16 +29,23 @@ public:
     bool flush();
 
 private:
-    explicit PreferencesDomain(const QByteArray &path);
+    PreferencesDomain(const QString &name, const QByteArray &path);
     static PreferencesDomain *find(const QString &name);
+    void set(const QString &key, const QVariant &value);
+    bool flushPending();
+    bool replaceWith(const QVariantMap &values);
+    QVariant valueAsSeen(const QString &key) const;
+    void tellOfChange(bool isChangedHere = false);
     QVariantMap withPendingChanges(const QVariantMap &stored) const;
     void setWhatDiffers(const QVariantMap &values);
     void addPending(const QString &key, const QVariant &value);
     bool givesWayTo(const QVariantMap &stored, const QString &key) const;
     QStringList keysThatGiveWayTo(const QVariantMap &stored) const;
 
+    QString name_;
     SettingsFile file_;
     std::optional<QVariantMap> replacement_; ///< stands for the file's content
     QVariantMap pending_; ///< over both; no value means removal
     QSet<QString> blind_; ///< the pending keys that were set after a look at a file that could not be read
+    quint64 changesToldOf_ = 0; ///< of those by others
 };

@@ -23,6 +23,12 @@ public:
     /// The same of the last look at the file, without another.
     bool wasReadable() const { return stored_.content() == StoredSettings::Content::Values; }
 
+    /// The values of the last look.
+    const QVariantMap &lastValues() const { return stored_.values(); }
+
+    /// How often a look has found that others had changed the values.
+    quint64 changesByOthers() const { return stored_.changesByOthers(); }
+
     /// Applies a change to what the file holds, with no other writer in between. Writes nothing, and makes no system
     /// call that writes, where it changes nothing. False, with one line logged, where the change could not be made to
     /// last; the old or the new file then stands whole.

@@ -61,7 +61,7 @@ StoredSettings::Content StoredSettings::refresh()
     if (errno != ENOENT)
         return unreadable(systemError("open"));
     forgetFile();
-    return keep(Content::Values);
+    return find(Content::Values);
 }
 
 void StoredSettings::adopt(const QVariantMap &values, const QByteArray &bytes, const struct stat &written)
@@ -125,12 +125,12 @@ StoredSettings::Content StoredSettings::parse()
 {
     const PropertyListReading reading = readPropertyList(bytes_);
     if (!reading && reading.errorOffset >= 0)
-        return keep(Content::Damaged, QStringLiteral("byte %1").arg(reading.errorOffset));
+        return find(Content::Damaged, QStringLiteral("byte %1").arg(reading.errorOffset));
     if (!reading)
-        return keep(Content::Damaged, reading.error);
+        return find(Content::Damaged, reading.error);
     if (reading.value.typeId() != QMetaType::QVariantMap)
-        return keep(Content::Damaged, QStringLiteral("it holds no dictionary"));
-    return keep(Content::Values, {}, reading.value.toMap());
+        return find(Content::Damaged, QStringLiteral("it holds no dictionary"));
+    return find(Content::Values, {}, reading.value.toMap());
 }
 
 StoredSettings::Content StoredSettings::keep(Content content, const QString &problem, const QVariantMap &values)
@@ -142,10 +142,18 @@ StoredSettings::Content StoredSettings::keep(Content content, const QString &pro
     return content;
 }
 
+StoredSettings::Content StoredSettings::find(Content content, const QString &problem, const QVariantMap &values)
+{
+    // What the first look finds is no change.
+    if (std::exchange(hasLooked_, true) && !isEqualPropertyList(values, values_))
+        ++changesByOthers_;
+    return keep(content, problem, values);
+}
+
 StoredSettings::Content StoredSettings::unreadable(const QString &problem)
 {
     forgetFile();
-    return keep(Content::Unreadable, problem);
+    return find(Content::Unreadable, problem);
 }
 
 void StoredSettings::forgetFile()

@@ -24,6 +24,8 @@ public:
     const QVariantMap &values() const { return values_; }
     /// The number of the reading that they came from: as long as it stays, they do.
     quint64 reading() const { return reading_; }
+    /// How often a refresh has found other values than before; what adopt() takes over is not counted.
+    quint64 changesByOthers() const { return changesByOthers_; }
     /// Why the last refresh did not answer Values.
     const QString &problem() const { return problem_; }
 
@@ -38,6 +40,7 @@ private:
     Content readOpened(FileDescriptor file);
     Content parse();
     Content keep(Content content, const QString &problem = {}, const QVariantMap &values = {});
+    Content find(Content content, const QString &problem = {}, const QVariantMap &values = {});
     Content unreadable(const QString &problem);
     void forgetFile();
     void closeLater(FileDescriptor file);
@@ -52,5 +55,7 @@ private:
     Content content_ = Content::Values;
     QVariantMap values_;
     quint64 reading_ = 0;
+    bool hasLooked_ = false;
+    quint64 changesByOthers_ = 0;
     QString problem_;
 };
