@@ -65,6 +65,14 @@ void NSColorWell::setInitialColor(const QColor &color)
     setColor(calibratedColor(color));
 }
 
+void NSColorWell::setInitialColorName(const QString &name)
+{
+    for (const NSColorRef &color : {NSColor::selectedTextBackgroundColor(), NSColor::selectedControlColor()}) {
+        if (color->colorName() == name)
+            setColor(color);
+    }
+}
+
 void NSColorWell::takeColorFromPanel(const NSColorRef &color)
 {
     color_ = color;

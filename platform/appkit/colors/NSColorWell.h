@@ -16,6 +16,7 @@ class LM_APPKIT NSColorWell : public QAbstractButton
 {
     Q_OBJECT
     Q_PROPERTY(QColor initialColor READ initialColor WRITE setInitialColor)
+    Q_PROPERTY(QString initialColorName READ initialColorName WRITE setInitialColorName)
 
 public:
     explicit NSColorWell(QWidget *parent = nullptr);
@@ -27,6 +28,9 @@ public:
     /// The colour an interface file gives the well.
     QColor initialColor() const;
     void setInitialColor(const QColor &color);
+    /// The same for one of the system's own colours, by its name; any other name changes nothing.
+    QString initialColorName() const { return color_ ? color_->colorName() : QString(); }
+    void setInitialColorName(const QString &name);
 
     /// Called by the colour panel with each colour the user picks for this well.
     void takeColorFromPanel(const NSColorRef &color);

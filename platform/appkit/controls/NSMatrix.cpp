@@ -33,6 +33,16 @@ QAbstractButton *NSMatrix::selectedCell() const
     return nullptr;
 }
 
+void NSMatrix::selectCell(QAbstractButton *cell)
+{
+    selectedCell_ = cell;
+    for (QAbstractButton *other : cells()) {
+        if (other != cell)
+            setState(other, NSOffState);
+    }
+    setState(cell, NSOnState);
+}
+
 void NSMatrix::adoptCells()
 {
     for (QAbstractButton *cell : cells())

@@ -20,8 +20,10 @@ class LM_APPKIT NSMatrix : public QWidget
 public:
     explicit NSMatrix(QWidget *parent = nullptr);
 
-    /// The cell clicked last; before any click, for radio buttons the checked one, else null.
+    /// The cell that was clicked, or selected by code, last; before that, for radio buttons the checked one, else null.
     QAbstractButton *selectedCell() const;
+    /// Selects a cell: it alone is on. Null selects none. Performs no action.
+    void selectCell(QAbstractButton *cell);
     /// The cell with a tag, or null.
     QAbstractButton *cellWithTag(int cellTag) const;
     QList<QAbstractButton *> cells() const;

@@ -69,6 +69,10 @@ void InterfaceConnections::connectObject(QObject *object)
         useOnlyActionAsDefault(button);
     if (const QVariant tags = added(object, "tags"); tags.isValid())
         giveItemsTheirTags(qobject_cast<QComboBox *>(object), tags.toStringList());
+    if (const QVariant setting = added(object, "binding"); setting.isValid())
+        bindValue(object, setting.toString());
+    if (const QVariant setting = added(object, "enabledBinding"); setting.isValid())
+        bindEnabled(object, setting.toString());
     if (const QVariant selector = added(object, "action"); selector.isValid())
         connectAction(object, selector.toString());
     if (const QVariant delegate = added(object, "delegate"); delegate.isValid())

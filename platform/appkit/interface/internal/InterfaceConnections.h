@@ -1,10 +1,12 @@
 #pragma once
 
+#include "platform/appkit/controls/NSUserDefaultsController.h"
 #include "platform/appkit/interface/InterfaceOwner.h"
 
 #include <QList>
 #include <QString>
 #include <functional>
+#include <optional>
 
 class QComboBox;
 class QLineEdit;
@@ -29,6 +31,9 @@ private:
     void connectAction(QObject *control, const QString &selector);
     void connectDelegate(QObject *object, const QString &delegate);
     void connectTabView(QTabWidget *tabView);
+    void bindValue(QObject *control, const QString &setting);
+    void bindEnabled(QObject *control, const QString &setting);
+    std::optional<DefaultsBinding> bindingTo(const QObject *control, const QString &setting) const;
     void connectTextField(QLineEdit *field);
     void giveItemsTheirTags(QComboBox *popUp, const QStringList &tags);
     void useOnlyActionAsDefault(QToolButton *button);

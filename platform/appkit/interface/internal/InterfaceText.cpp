@@ -13,7 +13,8 @@ namespace {
 bool isName(const QString &property)
 {
     static const QStringList names{QStringLiteral("action"), QStringLiteral("delegate"), QStringLiteral("identifier"),
-        QStringLiteral("tags"), QStringLiteral("styleSheet")};
+        QStringLiteral("tags"), QStringLiteral("binding"), QStringLiteral("bindingValues"),
+        QStringLiteral("enabledBinding"), QStringLiteral("styleSheet")};
     return names.contains(property);
 }
 
