@@ -1,6 +1,7 @@
 #include "platform/foundation/hotkeys/internal/PressTracker.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -23,9 +24,10 @@ void PressTracker::remove(const std::vector<KeyGrab> &grabs)
 void PressTracker::take(const KeyboardEvent &event)
 {
     auto place = events_.cend();
-    if (event.kind == Kind::HeldKeysAnswered)
-        place = std::find_if(events_.cbegin(), events_.cend(),
-            [&event](const KeyboardEvent &other) { return !isBefore(other, event.sequence); });
+    // From the back: the question is newer than most of what waits.
+    while (event.kind == Kind::HeldKeysAnswered && place != events_.cbegin()
+        && !isBefore(*std::prev(place), event.sequence))
+        --place;
     events_.insert(place, event);
 }
 
