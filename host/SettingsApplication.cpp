@@ -33,8 +33,14 @@ void SettingsApplication::start(const QString &request)
 
 void SettingsApplication::open(const QString &request, const QString &activationToken)
 {
+    if (endsAtOnce_)
+        return;
     window_.bringToFront(activationToken);
-    if (!request.isEmpty())
+    if (request.isEmpty())
+        return;
+    if (terminating_)
+        requestLeft_ = request;
+    else
         go({Destination::Kind::Pane, request});
 }
 
@@ -57,7 +63,7 @@ void SettingsApplication::go(const Destination &destination)
 {
     if (finished_ || terminating_)
         return;
-    setTerminating(destination.kind == Destination::Kind::End);
+    terminating_ = destination.kind == Destination::Kind::End;
     // A pane's own question is on screen, or the pane is at work: it must come to its end before it is left.
     if (controller_.isInsidePane() || QApplication::activeModalWidget()) {
         waiting_ = destination;
@@ -83,15 +89,13 @@ void SettingsApplication::goOnWhenPossible()
     });
 }
 
-void SettingsApplication::setTerminating(bool terminating)
-{
-    if (std::exchange(terminating_, terminating) != terminating)
-        Q_EMIT takesRequestsChanged(!terminating);
-}
-
 void SettingsApplication::keepPane()
 {
-    setTerminating(false);
+    terminating_ = false;
+    if (requestLeft_.isEmpty())
+        return;
+    waiting_ = {Destination::Kind::Pane, std::exchange(requestLeft_, {})};
+    goOnWhenPossible();
 }
 
 void SettingsApplication::arrive(const Destination &destination)
@@ -108,6 +112,7 @@ void SettingsApplication::arrive(const Destination &destination)
         openPane(destination.request);
         break;
     case Destination::Kind::End:
+        Q_EMIT ending();
         QCoreApplication::exit(0);
         break;
     }
@@ -140,8 +145,11 @@ void SettingsApplication::openPane(const QString &request)
 
 void SettingsApplication::terminateAtOnce()
 {
-    setTerminating(true);
+    terminating_ = true;
+    endsAtOnce_ = true;
     waiting_.reset();
+    requestLeft_.clear();
+    Q_EMIT ending();
     // Deeper loops are questions and waits of the pane's own: ending them all lets its calls return before it is
     // released.
     if (QThread::currentThread()->loopLevel() <= 1 && !controller_.isInsidePane())

@@ -20,13 +20,13 @@ public:
 
     /// Shows the window: with a pane (path or identifier), or with the overview when the request is empty.
     void start(const QString &request);
-    /// What a second start asks for: an empty request only brings the window to the front.
+    /// What a second start asks for: an empty request only brings the window to the front. While it is not yet said
+    /// whether the application ends, a request waits for that.
     void open(const QString &request, const QString &activationToken);
     void showOverview();
     void search();
 
-    /// Asks the shown pane whether it may be left, then ends. Until then, or until the pane is kept, requests of other
-    /// starts are not taken.
+    /// Asks the shown pane whether it may be left, then ends.
     void terminate();
     /// Ends without asking: the user's session or a signal ends the program.
     void terminateAtOnce();
@@ -34,9 +34,13 @@ public:
     void finish();
 
     HostWindow *window() { return &window_; }
+    /// What another start asked for while the end was in question; empty without, or where the session's end is the
+    /// reason. Once this one has ended, another has to serve it.
+    QString requestLeft() const { return requestLeft_; }
 
 Q_SIGNALS:
-    void takesRequestsChanged(bool takes);
+    /// Nothing can keep the application from ending any more.
+    void ending();
 
 private:
     struct Destination
@@ -52,14 +56,15 @@ private:
     void openPane(const QString &request);
     void goOnWhenPossible();
     void keepPane();
-    void setTerminating(bool terminating);
 
     QStringList folders_;
     HostState state_;
     HostWindow window_;
     PaneController controller_;
     QString lastPath_;
+    QString requestLeft_;
     std::optional<Destination> waiting_;
     bool terminating_ = false;
+    bool endsAtOnce_ = false;
     bool finished_ = false;
 };

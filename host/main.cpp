@@ -6,7 +6,10 @@
 #include "host/linux/SingleInstance.h"
 #include "host/linux/WindowActivation.h"
 #include "platform/appkit/NSApplication.h"
+#include "platform/foundation/Boundary.h"
+#include "platform/foundation/processes/NSTask.h"
 #include "platform/foundation/system/EndingSignals.h"
+#include "platform/foundation/system/RunningExecutable.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -51,6 +54,15 @@ Arguments readArguments()
     return arguments;
 }
 
+/// They come up once we have gone, as any start does while another one is ending.
+void leaveToNewSettings(const QString &request)
+{
+    NSTask task;
+    task.setLaunchPath(runningExecutablePath());
+    task.setArguments({QStringLiteral("--"), request});
+    task.launch();
+}
+
 int run(SettingsApplication &settings, SingleInstance &instance, const QString &request)
 {
     EndingSignals endingSignals;
@@ -59,13 +71,14 @@ int run(SettingsApplication &settings, SingleInstance &instance, const QString &
     // Queued: whoever asked shall not wait for a pane's question to the user.
     QObject::connect(
         &instance, &SingleInstance::requested, &settings, &SettingsApplication::open, Qt::QueuedConnection);
-    QObject::connect(
-        &settings, &SettingsApplication::takesRequestsChanged, &instance, &SingleInstance::setTakesRequests);
+    QObject::connect(&settings, &SettingsApplication::ending, &instance, &SingleInstance::stopTakingRequests);
     NSApplication::sharedApplication()->setTerminationHandler([&settings] { settings.terminate(); });
     settings.start(request);
     const int status = QCoreApplication::exec();
     settings.finish();
     NSApplication::sharedApplication()->setTerminationHandler({});
+    if (!settings.requestLeft().isEmpty())
+        runAtBoundary("start of new settings", [&settings] { leaveToNewSettings(settings.requestLeft()); });
     return status;
 }
 

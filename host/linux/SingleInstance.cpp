@@ -4,7 +4,6 @@
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
-#include <utility>
 
 namespace {
 
@@ -12,7 +11,6 @@ const QString service = QStringLiteral("com.quorvane.LumarooSettings");
 const QString path = QStringLiteral("/com/quorvane/LumarooSettings");
 const QString method = QStringLiteral("Open");
 constexpr int answerTimeout = 25000;
-constexpr int mostWaiting = 64;
 // The owner may end between two of our steps, and the next one of several that waited may be faster.
 constexpr int attempts = 16;
 
@@ -67,26 +65,11 @@ SingleInstance::Outcome SingleInstance::start(const QString &request, const QStr
     return Outcome::NoAnswer;
 }
 
-void SingleInstance::setTakesRequests(bool takes)
-{
-    takesRequests_ = takes;
-    if (!takes)
-        return;
-    for (const QDBusMessage &message : std::exchange(waiting_, {})) {
-        QDBusConnection::sessionBus().send(message.createReply());
-        Q_EMIT requested(message.arguments().value(0).toString(), message.arguments().value(1).toString());
-    }
-}
-
 void SingleInstance::Open(const QString &request, const QString &activationToken)
 {
     if (takesRequests_) {
         Q_EMIT requested(request, activationToken);
         return;
     }
-    setDelayedReply(true);
-    if (waiting_.size() < mostWaiting)
-        waiting_ += message();
-    else
-        sendErrorReply(QDBusError::LimitsExceeded, QStringLiteral("too many requests wait"));
+    setDelayedReply(true); // none is ever sent: our end is the answer
 }

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <QDBusContext>
-#include <QDBusMessage>
-#include <QList>
 #include <QObject>
 #include <QString>
 
@@ -14,14 +12,14 @@ class SingleInstance : public QObject, protected QDBusContext
     Q_CLASSINFO("D-Bus Interface", "com.quorvane.LumarooSettings")
 
 public:
-    /// Becomes the first, or hands over. Waits for a running one's answer, which a question to the user there may
-    /// delay, 25 s at most.
+    /// Becomes the first, or hands over. Waits for a running one's answer, which comes at once, or for its end where
+    /// it is just ending; 25 s at most.
     enum class Outcome { First, HandedOver, NoAnswer };
     Outcome start(const QString &request, const QString &activationToken);
 
-    /// While it takes none, those who ask wait: for this process's end, after which one of them becomes the first, or
-    /// until it takes requests again.
-    void setTakesRequests(bool takes);
+    /// From now on those who ask wait for this process's end, after which one of them becomes the first. Called when
+    /// nothing can keep it from ending any more.
+    void stopTakingRequests() { takesRequests_ = false; }
 
 public Q_SLOTS:
     // The interface on the bus.
@@ -34,5 +32,4 @@ private:
     bool becomeFirst();
 
     bool takesRequests_ = true;
-    QList<QDBusMessage> waiting_;
 };

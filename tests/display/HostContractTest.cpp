@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTimer>
 #include <gmock/gmock.h>
 
@@ -182,18 +183,52 @@ TEST_F(AHostWithTwoPanes, goesWhereTheUserLastWantedOnceTheAnswerComes)
     EXPECT_EQ(shownPage(), "Second");
 }
 
-TEST_F(AHostWithTwoPanes, takesNoRequestsFromTerminateOnUntilThePaneIsKept)
+TEST_F(AHostWithTwoPanes, servesARequestOnceThePaneWasKeptThoughItWasToEnd)
 {
-    QList<bool> takes;
-    QObject::connect(&host, &SettingsApplication::takesRequestsChanged, [&](bool now) { takes += now; });
+    const QSignalSpy ending(&host, &SettingsApplication::ending);
     showFirst();
     first.wish("shouldUnselect", "later");
     host.terminate();
-    EXPECT_THAT(takes, ElementsAre(false));
     host.showOverview();
-    click("no");
-    EXPECT_THAT(takes, ElementsAre(false, true));
+    host.open(second.path(), QString());
+    EXPECT_THAT(first.takeCalls(), ElementsAre("shouldUnselect shown"));
     EXPECT_EQ(shownPage(), "First");
+    first.wish("shouldUnselect", "");
+    click("no");
+    EXPECT_TRUE(waitUntil([&] { return shownPage() == "Second"; }));
+    EXPECT_EQ(host.requestLeft(), "");
+    EXPECT_EQ(ending.count(), 0);
+}
+
+TEST_F(AHostWithTwoPanes, leavesARequestToAnotherWhenItEnds)
+{
+    const QSignalSpy ending(&host, &SettingsApplication::ending);
+    showFirst();
+    first.wish("shouldUnselect", "later");
+    runUntilItEnds([&] {
+        host.terminate();
+        host.open(second.path(), QString());
+        EXPECT_EQ(ending.count(), 0);
+        click("yes");
+        EXPECT_EQ(ending.count(), 1);
+    });
+    EXPECT_EQ(host.requestLeft(), second.path());
+    EXPECT_THAT(second.calls(), IsEmpty());
+}
+
+TEST_F(AHostWithTwoPanes, leavesNoRequestWhenTheSessionEnds)
+{
+    const QSignalSpy ending(&host, &SettingsApplication::ending);
+    showFirst();
+    first.wish("shouldUnselect", "later");
+    runUntilItEnds([&] {
+        host.terminate();
+        host.open(second.path(), QString());
+        host.terminateAtOnce();
+        host.open(second.path(), QString());
+    });
+    EXPECT_EQ(ending.count(), 1);
+    EXPECT_EQ(host.requestLeft(), "");
 }
 
 TEST_F(AHostWithTwoPanes, asksNobodyWhenTheSessionEnds)

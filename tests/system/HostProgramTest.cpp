@@ -4,11 +4,10 @@
 #include "DesktopWindows.h"
 #include "KeyPress.h"
 #include "PaneBundle.h"
+#include "RunningPrograms.h"
 #include "Wait.h"
 #include "platform/foundation/preferences/CFPreferences.h"
 
-#include <QDBusConnection>
-#include <QDBusConnectionInterface>
 #include <QScreen>
 #include <csignal>
 #include <gmock/gmock.h>
@@ -37,16 +36,6 @@ bool isShown(const PaneBundle &pane)
     return waitUntil([&] { return pane.calls().contains("didSelect shown"); });
 }
 
-qsizetype connectionsOnTheBus()
-{
-    return QDBusConnection::sessionBus()
-        .interface()
-        ->registeredServiceNames()
-        .value()
-        .filter(QRegularExpression("^:"))
-        .size();
-}
-
 class TheSettingsApplication : public testing::Test
 {
 protected:
@@ -58,6 +47,8 @@ protected:
         pressKey(KEY_Q, {KEY_LEFTCTRL});
         ASSERT_TRUE(isActive("Test pane"));
     }
+
+    static QString settings() { return QFileInfo(HostProgram::builtExecutable()).canonicalFilePath(); }
 
     PaneBundle pane{"Sample"};
     PaneBundle other{"Other"};
@@ -123,34 +114,50 @@ TEST_F(TheSettingsApplication, isOnlyRaisedByASecondStartWithoutARequest)
     EXPECT_EQ(pane.calls(), shownCalls);
 }
 
-TEST_F(TheSettingsApplication, takesAWaitingRequestOnceQuittingIsCancelled)
+TEST_F(TheSettingsApplication, answersASecondStartAtOnceWhileItAsksWhetherToLeaveThePane)
+{
+    HostProgram first({pane.path()});
+    ASSERT_TRUE(isShown(pane));
+    pane.wish("shouldUnselect", "ask");
+    ASSERT_TRUE(isActive("Sample"));
+    pressKey(KEY_LEFT, {KEY_LEFTALT});
+    ASSERT_TRUE(isActive("Test pane"));
+    HostProgram second({other.path()});
+    EXPECT_EQ(second.exitStatus(), 0);
+    EXPECT_TRUE(isActive("Test pane")) << "the question is still to be answered";
+    pressKey(KEY_Y, {KEY_LEFTALT});
+    EXPECT_TRUE(isShown(other));
+}
+
+TEST_F(TheSettingsApplication, answersASecondStartAtOnceWhileItAsksWhetherToQuitAndServesItIfItStays)
 {
     HostProgram first({pane.path()});
     ASSERT_TRUE(isShown(pane));
     quitWithAQuestion();
-    const qsizetype before = connectionsOnTheBus();
     HostProgram second({other.path()});
-    ASSERT_TRUE(waitUntil([&] { return connectionsOnTheBus() > before; }));
-    EXPECT_TRUE(second.isRunning());
+    EXPECT_EQ(second.exitStatus(), 0);
+    EXPECT_TRUE(isActive("Test pane")) << "the question is still to be answered";
     pane.wish("shouldUnselect", "");
     pressKey(KEY_ESC);
-    EXPECT_EQ(second.exitStatus(), 0);
     EXPECT_TRUE(isShown(other));
     EXPECT_TRUE(first.isRunning());
 }
 
-TEST_F(TheSettingsApplication, leavesAWaitingRequestToANewInstanceOnceItHasQuit)
+TEST_F(TheSettingsApplication, answersASecondStartAtOnceWhileItAsksWhetherToQuitAndComesBackForItOnceItHasQuit)
 {
     HostProgram first({pane.path()});
     ASSERT_TRUE(isShown(pane));
     quitWithAQuestion();
-    const qsizetype before = connectionsOnTheBus();
     HostProgram second({other.path()});
-    ASSERT_TRUE(waitUntil([&] { return connectionsOnTheBus() > before; }));
+    EXPECT_EQ(second.exitStatus(), 0);
+    HostProgram third;
+    EXPECT_EQ(third.exitStatus(), 0);
+    ASSERT_TRUE(isActive("Test pane"));
     pressKey(KEY_Y, {KEY_LEFTALT});
     EXPECT_EQ(first.exitStatus(), 0);
     EXPECT_TRUE(isShown(other));
-    EXPECT_TRUE(second.isRunning());
+    EXPECT_EQ(processesOf(settings()).size(), 1);
+    killProcessesOf(settings());
 }
 
 TEST_F(TheSettingsApplication, runsWithoutASessionBus)
