@@ -72,6 +72,7 @@ int run(SettingsApplication &settings, SingleInstance &instance, const QString &
     QObject::connect(
         &instance, &SingleInstance::requested, &settings, &SettingsApplication::open, Qt::QueuedConnection);
     QObject::connect(&settings, &SettingsApplication::ending, &instance, &SingleInstance::stopTakingRequests);
+    NSApplication::sharedApplication()->setMainWindow(settings.window());
     NSApplication::sharedApplication()->setTerminationHandler([&settings] { settings.terminate(); });
     settings.start(request);
     const int status = QCoreApplication::exec();

@@ -12,18 +12,6 @@ namespace {
 
 constexpr auto timeToGetTheFocus = std::chrono::seconds(1);
 
-/// The question on screen, if there is one, else the first window that stands on its own.
-QWidget *mainWindow()
-{
-    if (QWidget *question = QApplication::activeModalWidget())
-        return question;
-    for (QWidget *window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && window->windowType() == Qt::Window)
-            return window;
-    }
-    return nullptr;
-}
-
 /// A minimised window takes the sheet in front of it along, and neither can have the focus.
 void bringBack(QWidget *window)
 {
@@ -73,8 +61,9 @@ void NSApplication::terminate(QObject *)
 
 void NSApplication::activateIgnoringOtherApps(bool ignoresOthers)
 {
-    QWidget *window = mainWindow();
-    if (!window)
+    QWidget *question = QApplication::activeModalWidget();
+    QWidget *window = question ? question : mainWindow();
+    if (!window || !window->isVisible())
         return;
     if (ignoresOthers)
         bringToFront(window);

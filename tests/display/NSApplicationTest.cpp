@@ -11,6 +11,7 @@ namespace {
 class TheApplication : public AnAlertSheet
 {
 protected:
+    TheApplication() { NSApplication::sharedApplication()->setMainWindow(window); }
     /// The user turns to another program.
     void turnToAnother()
     {
@@ -186,6 +187,24 @@ TEST_F(TheApplication, thatIsMinimisedWithASheetComesBackWithIt)
     EXPECT_TRUE(laterAttentionIsOver());
     EXPECT_TRUE(waitUntil([&] { return !isMinimised(window) && window->isExposed(); }));
     EXPECT_TRUE(waitUntil([&] { return !asksForAttention(window) && !asksForAttention(sheet); }));
+}
+
+TEST_F(TheApplication, bringsItsMainWindowToTheFrontAndNoOther)
+{
+    AWindow other;
+    other.showActive();
+    window->showActive();
+    turnToAnother();
+    for (AWindow *named : {window, &other}) {
+        NSApplication::sharedApplication()->setMainWindow(named);
+        activate(true);
+        EXPECT_TRUE(comesToFront(named));
+        turnBackToAnother();
+    }
+    NSApplication::sharedApplication()->setMainWindow(nullptr);
+    activate(true);
+    EXPECT_TRUE(laterAttentionIsOver());
+    EXPECT_EQ(activeWindow(), another->id());
 }
 
 TEST_F(TheApplication, withoutAWindowDoesNothing)
