@@ -54,6 +54,7 @@ void loadCode(PanePlugIn &plugIn)
         plugIn.report = {PaneFailure::Damaged, loader.errorString()};
         return;
     }
+    plugIn.bundle->setLoaded();
     plugIn.principalClass = qobject_cast<NSPrincipalClass *>(instance);
     plugIn.report = plugIn.principalClass ? initializeOnce(plugIn.principalClass)
                                           : PaneFailureReport{PaneFailure::NoPrincipalClass, loader.fileName()};

@@ -5,6 +5,7 @@
 #include "Wait.h"
 #include "host/Overview.h"
 #include "host/SettingsApplication.h"
+#include "platform/foundation/bundles/NSBundle.h"
 
 #include <QDir>
 #include <QLabel>
@@ -232,4 +233,17 @@ TEST_F(AnOverview, givesEveryControlANameForScreenReaders)
     for (const QWidget *widget : {static_cast<QWidget *>(searchField()), static_cast<QWidget *>(grid())})
         EXPECT_FALSE(widget->accessibleName().isEmpty()) << qPrintable(widget->objectName());
     EXPECT_FALSE(window()->findChild<QToolButton *>("backButton")->text().isEmpty());
+}
+
+TEST(AHostWithTwins, showsOneByItsPathThatFindsItself)
+{
+    const QVariantMap twin{{"CFBundleIdentifier", "test.twin"}};
+    const PaneBundle installed("Installed", twin), other("Other", twin);
+    SettingsApplication host({installed.folder()});
+    host.start(QString());
+    EXPECT_EQ(NSBundle::bundleWithIdentifier("test.twin"), NSBundle::bundleWithPath(installed.path()))
+        << "the overview has looked at it";
+    host.open(other.path(), QString());
+    ASSERT_TRUE(waitUntil([&] { return other.calls().contains("didSelect shown"); }));
+    EXPECT_EQ(NSBundle::bundleWithIdentifier("test.twin"), NSBundle::bundleWithPath(other.path()));
 }

@@ -73,6 +73,23 @@ TEST_F(Bundle, isFoundByItsIdentifierOnceItIsUsed)
     EXPECT_EQ(NSBundle::bundleWithIdentifier(""), nullptr);
 }
 
+TEST_F(Bundle, thatIsLoadedIsFoundBeforeOneThatWasMerelyLookedAt)
+{
+    const QVariantMap info{{"CFBundleIdentifier", "com.quorvane.Loaded"}};
+    const TestBundle other("Other.prefPane"), another("Another.prefPane");
+    for (const TestBundle *each : std::initializer_list<const TestBundle *>{&sample, &other, &another})
+        each->writeInfo(info);
+    ASSERT_EQ(NSBundle::bundleWithPath(sample.path())->bundleIdentifier(), "com.quorvane.Loaded");
+    NSBundle *later = NSBundle::bundleWithPath(other.path());
+    NSBundle *last = NSBundle::bundleWithPath(another.path());
+    last->setLoaded();
+    EXPECT_EQ(NSBundle::bundleWithIdentifier("com.quorvane.Loaded"), last);
+    later->setLoaded();
+    EXPECT_EQ(NSBundle::bundleWithIdentifier("com.quorvane.Loaded"), later) << "it is the one that comes up";
+    last->setLoaded();
+    EXPECT_EQ(NSBundle::bundleWithIdentifier("com.quorvane.Loaded"), last);
+}
+
 TEST_F(Bundle, knowsItsPlacesAndNames)
 {
     sample.writeInfo(

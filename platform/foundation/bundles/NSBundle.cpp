@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -15,6 +16,7 @@ class NSBundle::Private
 public:
     explicit Private(const QString &bundlePath) : path(bundlePath) { }
     static std::vector<NSBundle *> &used();
+    static std::vector<NSBundle *> &loaded();
     static NSBundle *atCanonicalPath(const QString &path);
     StringTables &stringTables();
     QString existingResource(const QString &fileName);
@@ -26,6 +28,13 @@ public:
 
 /// Never destroyed: bundles live as long as the process, also while static objects end.
 std::vector<NSBundle *> &NSBundle::Private::used()
+{
+    static auto *const bundles = new std::vector<NSBundle *>;
+    return *bundles;
+}
+
+/// The last one first.
+std::vector<NSBundle *> &NSBundle::Private::loaded()
 {
     static auto *const bundles = new std::vector<NSBundle *>;
     return *bundles;
@@ -93,12 +102,21 @@ NSBundle *NSBundle::bundleWithPath(const QString &path)
 
 NSBundle *NSBundle::bundleWithIdentifier(const QString &identifier)
 {
-    mainBundle();
-    for (NSBundle *bundle : Private::used()) {
+    std::vector<NSBundle *> candidates = Private::loaded();
+    candidates.push_back(mainBundle());
+    candidates.insert(candidates.end(), Private::used().begin(), Private::used().end());
+    for (NSBundle *bundle : candidates) {
         if (!identifier.isEmpty() && bundle->bundleIdentifier() == identifier)
             return bundle;
     }
     return nullptr;
+}
+
+void NSBundle::setLoaded()
+{
+    std::vector<NSBundle *> &loaded = Private::loaded();
+    loaded.erase(std::remove(loaded.begin(), loaded.end(), this), loaded.end());
+    loaded.insert(loaded.begin(), this);
 }
 
 QString NSBundle::bundlePath() const

@@ -33,8 +33,12 @@ public:
     static NSBundle *mainBundle();
     /// The bundle at a folder, or null when there is no such folder.
     static NSBundle *bundleWithPath(const QString &path);
-    /// A bundle this process has used already (main bundle included), by CFBundleIdentifier, or null.
+    /// The bundle with a CFBundleIdentifier whose code this process runs (main bundle included); of several the one
+    /// loaded last, since it asks while it comes up. Where none is loaded, one that was merely looked at, or null.
     static NSBundle *bundleWithIdentifier(const QString &identifier);
+
+    /// The code of this bundle runs in this process now. Called by whoever loaded it, before any of it is called.
+    void setLoaded();
 
     QString bundlePath() const;
     QString resourcePath() const;
