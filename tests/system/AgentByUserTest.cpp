@@ -5,6 +5,7 @@
 #include "KTXConstants.h"
 #include "KeyPress.h"
 #include "RunningPrograms.h"
+#include "SecondBus.h"
 #include "Wait.h"
 
 #include <QRegion>
@@ -155,6 +156,21 @@ TEST_F(AgentByUser, anAgentThatWasKilledIsShownOffAtTheNextShowingAndCanBeTurned
     EXPECT_NE(settings->settledPicture(), whileOn);
     pressSwitch();
     EXPECT_TRUE(agentStarts());
+}
+
+TEST_F(AgentByUser, anAgentOfAnotherSessionIsShownOffAndLeftAlone)
+{
+    const SecondBus bus;
+    storeOutside(KTXFirstLaunch, true);
+    AgentProgram another({"--foreground"}, agentProgram(), bus.environment());
+    ASSERT_TRUE(another.waitForLaunch());
+    settings = std::make_unique<SettingsProgram>(QStringList{pane()});
+    ASSERT_TRUE(settings->waitForWindows(1));
+    settings->settledPicture();
+    pressSwitch();
+    EXPECT_TRUE(agentStarts());
+    EXPECT_NE(agents(), QList<pid_t>{pid_t(another.processId())});
+    EXPECT_TRUE(another.isRunning());
 }
 
 TEST_F(AgentByUser, anAgentThatRunsIsOnAfterTheSettingsFileWasDeleted)

@@ -34,6 +34,28 @@ QString identifierOf(const ProcessSerialNumber &process)
     return informationAbout(process).value(kCFBundleIdentifierKey).toString();
 }
 
+/// Another value for an environment variable, or none, for as long as it lives.
+class Variable
+{
+public:
+    Variable(const char *name, const QByteArray &value) : name_(name), before_(qgetenv(name))
+    {
+        if (value.isNull())
+            qunsetenv(name);
+        else
+            qputenv(name, value);
+    }
+    ~Variable() { qputenv(name_, before_); }
+    Variable(const Variable &) = delete;
+    Variable &operator=(const Variable &) = delete;
+
+private:
+    const char *name_;
+    QByteArray before_;
+};
+
+const char *const busVariable = "DBUS_SESSION_BUS_ADDRESS";
+
 ProcessSerialNumber thisProcess()
 {
     return {0, quint32(::getpid())};
@@ -51,6 +73,46 @@ TEST(Processes, theListHoldsEachProcessOnceAndThisOneToo)
     EXPECT_FALSE(processes.contains(kNoProcess));
     for (const ProcessSerialNumber &process : processes)
         EXPECT_EQ(processes.count(process), 1);
+}
+
+TEST(Processes, anApplicationOfAnotherSessionIsNotInTheList)
+{
+    TestApplication application;
+    const Variable another(busVariable, "unix:path=/another/bus");
+    const ProcessSerialNumber launched = application.launch();
+    EXPECT_TRUE(allProcesses().contains(launched)) << "the session that this process says it is in";
+    const Variable one(busVariable, "unix:path=/one/bus");
+    EXPECT_FALSE(allProcesses().contains(launched));
+    EXPECT_TRUE(allProcesses().contains(thisProcess())) << "what is no application is in each";
+}
+
+TEST(Processes, theListGoesOnBehindAnApplicationOfAnotherSession)
+{
+    TestApplication application, elsewhere;
+    const ProcessSerialNumber before = application.launch();
+    {
+        const Variable another(busVariable, "unix:path=/another/bus");
+        elsewhere.launch();
+    }
+    const ProcessSerialNumber after = application.launch();
+    const QList<ProcessSerialNumber> processes = allProcesses();
+    EXPECT_TRUE(processes.contains(before));
+    EXPECT_TRUE(processes.contains(after));
+}
+
+TEST(Processes, aSessionIsTheSameByItsBusHoweverThatIsNamed)
+{
+    TestApplication application;
+    const Variable folder("XDG_RUNTIME_DIR", "/run/session");
+    const QByteArray names[] = {"unix:path=/run/session/bus", "unix:path=/run/session/bus,guid=0123", {}};
+    for (const QByteArray &name : names) {
+        const Variable started(busVariable, name);
+        const ProcessSerialNumber launched = application.launch();
+        for (const QByteArray &ours : names) {
+            const Variable now(busVariable, ours);
+            EXPECT_TRUE(allProcesses().contains(launched)) << name.constData() << " and " << ours.constData();
+        }
+    }
 }
 
 TEST(Processes, aProcessThatIsNotInTheListEndsTheWalk)

@@ -7,7 +7,13 @@
 #include <QString>
 #include <QVariantMap>
 
-// The running processes of this user. The low half of a serial number is the process's id.
+// The running processes of this user, without the applications of other sessions. The low half of a serial number is
+// the process's id.
+//
+// A session is what one session bus joins, for there its applications find each other. An application is of this one
+// if it was started with the bus in its environment that this process has in its own now (DBUS_SESSION_BUS_ADDRESS, or
+// without that the one in XDG_RUNTIME_DIR), or if it owns the name of its own identifier on our bus, however it was
+// started.
 
 inline constexpr quint32 kProcessDictionaryIncludeAllInformationMask = 0xFFFFFFFF;
 
@@ -16,7 +22,7 @@ inline constexpr quint32 kProcessDictionaryIncludeAllInformationMask = 0xFFFFFFF
 inline const QString kCFBundleIdentifierKey = QStringLiteral("CFBundleIdentifier");
 inline const QString kCFBundleExecutableKey = QStringLiteral("CFBundleExecutable");
 
-/// Advances to the next process of this user.
+/// Advances to the next process of this user and session.
 ///
 /// Starting from no process takes the list as it is at that moment; processes that start later are not in it. Returns
 /// procNotFound at the list's end, and for a serial number that is not in the list, and leaves no process in the

@@ -3,10 +3,12 @@
 #include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/processes/ApplicationIdentifier.h"
 #include "platform/foundation/processes/linux/ProcessFolders.h"
+#include "platform/foundation/processes/linux/ProcessSession.h"
 #include "platform/foundation/system/RunningExecutable.h"
 
 #include <QFile>
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -15,6 +17,7 @@ struct ProcessWalk
 {
     std::vector<pid_t> processes;
     size_t next = 0;
+    QByteArray executable; ///< of the process where it stands, until it has been told
 
     bool isAt(pid_t process) const { return next > 0 && processes[next - 1] == process; }
     void moveBehind(pid_t process)
@@ -53,6 +56,32 @@ QString identifierOf(pid_t process, const QByteArray &executable)
                                 : identifier;
 }
 
+bool isOfAnotherSession(pid_t process, const QByteArray &executable)
+{
+    return !applicationAround(executable).isEmpty() && !wasStartedInThisSession(process)
+        && !ownsNameOnSessionBus(process, identifierOf(process, executable));
+}
+
+/// False at the end.
+bool advance(ProcessWalk &walk)
+{
+    while (walk.next < walk.processes.size()) {
+        const pid_t process = walk.processes[walk.next++];
+        walk.executable = executableOf(process);
+        if (!isOfAnotherSession(process, walk.executable))
+            return true;
+    }
+    return false;
+}
+
+/// Most of what a walk comes to is no application, and is asked for at once: its link is read once.
+QByteArray executableToTell(pid_t process)
+{
+    ProcessWalk &walk = walkOfThisThread();
+    const QByteArray seen = walk.isAt(process) ? std::exchange(walk.executable, {}) : QByteArray();
+    return seen.isEmpty() || !applicationAround(seen).isEmpty() ? executableOf(process) : seen;
+}
+
 } // namespace
 
 OSStatus GetNextProcess(ProcessSerialNumber *process)
@@ -64,15 +93,15 @@ OSStatus GetNextProcess(ProcessSerialNumber *process)
         walk = {processesOfThisUser()};
     else if (!walk.isAt(pid_t(process->lowLongOfPSN)))
         walk.moveBehind(pid_t(process->lowLongOfPSN));
-    const bool isAtEnd = walk.next >= walk.processes.size();
-    *process = isAtEnd ? kNoProcess : ProcessSerialNumber{0, quint32(walk.processes[walk.next++])};
-    return isAtEnd ? procNotFound : noErr;
+    const bool isThere = advance(walk);
+    *process = isThere ? ProcessSerialNumber{0, quint32(walk.processes[walk.next - 1])} : kNoProcess;
+    return isThere ? noErr : procNotFound;
 }
 
 QVariantMap ProcessInformationCopyDictionary(const ProcessSerialNumber &process, quint32)
 {
     const pid_t id = pid_t(process.lowLongOfPSN);
-    const QByteArray executable = executableOf(id);
+    const QByteArray executable = executableToTell(id);
     if (executable.isEmpty())
         return {};
     QVariantMap information{{kCFBundleExecutableKey, QFile::decodeName(executable)}};
