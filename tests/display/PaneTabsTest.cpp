@@ -141,6 +141,17 @@ TEST_F(PaneTabs, aRequestForNoPageRingsTheBellAndLeavesEverythingAsItIs)
     }
 }
 
+TEST_F(PaneTabs, beforeTheViewIsLoadedARequestForAnyPageIsOneForTheFirst)
+{
+    store().set(KTXShouldDebug, QVariant(true));
+    BellListener bell;
+    const CapturedLog log;
+    paneWithoutView().switchToTab({KTXPrefPaneToTab, QStringLiteral("no page"), {}});
+    EXPECT_EQ(log.linesContaining(QStringLiteral("switchToTab")),
+        QStringList(QStringLiteral("Lumaroo prefPane: switchToTab: 0")));
+    EXPECT_EQ(bell.rings(), 0);
+}
+
 TEST_F(PaneTabs, theTutorialIsAskedForAtOnceWhileTheAgentRuns)
 {
     paneWithAgent().startAgent();

@@ -61,7 +61,7 @@ LM_APPKIT void setAttributedString(QObject *textView, const NSAttributedString &
 /// The pages of a tab view.
 LM_APPKIT int selectedTabIndex(const QObject *tabView);
 LM_APPKIT void selectTabViewItemAtIndex(QObject *tabView, int index);
-/// The index of the page with an `identifier`, or NSNotFound.
+/// The index of the page with an `identifier`, or NSNotFound where the tab view has none such.
 inline constexpr qint64 NSNotFound = 0x7fffffffffffffff;
 LM_APPKIT qint64 indexOfTabViewItemWithIdentifier(const QObject *tabView, const QString &identifier);
 

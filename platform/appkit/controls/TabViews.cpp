@@ -17,7 +17,9 @@ void selectTabViewItemAtIndex(QObject *tabView, int index)
 qint64 indexOfTabViewItemWithIdentifier(const QObject *tabView, const QString &identifier)
 {
     const auto *tabs = qobject_cast<const QTabWidget *>(tabView);
-    for (int index = 0; tabs && index < tabs->count(); ++index) {
+    if (!tabs)
+        return 0;
+    for (int index = 0; index < tabs->count(); ++index) {
         const QVariant own = tabs->widget(index)->property("identifier");
         if (own.isValid() && own.toString() == identifier)
             return index;
