@@ -2,6 +2,7 @@
 
 #include "KTXConstants.h"
 #include "platform/appkit/NSApplication.h"
+#include "platform/foundation/Boundary.h"
 #include "platform/foundation/NSException.h"
 #include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/notifications/CFNotificationCenter.h"
@@ -61,8 +62,9 @@ void KTXLumarooPreferencePane::updateAgentVisuals()
 void KTXLumarooPreferencePane::setAgentVisualsOn(const NSNotification &notification)
 {
     logIfDebugging(QStringLiteral("setAgentVisualsOn"));
+    // The agent is on, also where its newer code cannot be brought in.
     if (intValue(notification.userInfo.value(KTXLMAgentVersion)) > loadedVersion())
-        relaunch();
+        runAtBoundary("relaunch", [this] { relaunch(); });
     NSNotificationCenter::defaultCenter()->postNotificationNameObject(KTXLMAgentLaunched);
     setState(toggleStateButton_, NSOnState);
     setTextColor(enabledState_, Qt::black);

@@ -136,8 +136,9 @@ private:
 
     quint32 modifierStateMask_ = 0, toggleStateMask_ = 0;
     int loadedVersion_ = 0;
-    QStringList helpAnchors_, keyCodePrefNames_;
+    QStringList helpAnchors_;
     QVariantMap infoDictionary_;
+    QStringList keyCodePrefNames_;
     KeyCodeTable defaultKeyCodes_, keyCodes_;
     ProcessSerialNumber agentPSN_;
 };

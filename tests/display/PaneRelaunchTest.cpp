@@ -5,11 +5,14 @@
 #include "HostProgram.h"
 #include "PaneBundle.h"
 #include "PaneOnRealStore.h"
+#include "RunningPrograms.h"
+#include "TestApplication.h"
 #include "Wait.h"
 
 #include "KTXConstants.h"
 #include "platform/appkit/NSApplication.h"
 #include "platform/foundation/NSException.h"
+#include "platform/foundation/notifications/NSNotificationCenter.h"
 
 namespace {
 
@@ -101,6 +104,35 @@ TEST_F(PaneRelaunch, aLauncherThatCannotBeRunDoesNotEndTheHost)
     putLauncher();
     QFile::setPermissions(bundle().resourcePath() + QStringLiteral("/launcher"), QFile::ReadOwner);
     EXPECT_THROW(relaunch(), NSException);
+    EXPECT_EQ(terminations, 0);
+}
+
+TEST_F(PaneRelaunch, theLauncherRunsBeforeTheHostIsAskedToEnd)
+{
+    bundle().copyProgram(QStringLiteral("Contents/Resources/launcher"), TestApplication::idleProgram());
+    const QString launcher = bundle().resourcePath() + QStringLiteral("/launcher");
+    QList<pid_t> launchersThen;
+    NSApplication::sharedApplication()->setTerminationHandler([&] { launchersThen = processesOf(launcher); });
+    relaunch();
+    EXPECT_EQ(launchersThen.size(), 1);
+    killProcessesOf(launcher);
+}
+
+TEST_F(PaneRelaunch, anAgentIsShownOnAlsoWhereItsLauncherCannotBeRun)
+{
+    putLauncher();
+    QFile::setPermissions(bundle().resourcePath() + QStringLiteral("/launcher"), QFile::ReadOwner);
+    pane().carryOut({QStringLiteral("setAgentVisualsOn:"), QStringLiteral("relaunch")});
+    int told = 0;
+    QObject observer;
+    NSNotificationCenter::defaultCenter()->addObserverSelectorNameObject(
+        &observer, [&told](const NSNotification &) { ++told; }, KTXLMAgentLaunched);
+    const CapturedLog log;
+    pane().setAgentVisualsOn({KTXLMAgentLaunched, KTXLMAgentID, {{KTXLMAgentVersion, 100000}}});
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(state(control("toggleStateButton")), NSOnState);
+    EXPECT_EQ(text("enabledState"), QStringLiteral("Lumaroo Enabled"));
+    EXPECT_EQ(log.linesContaining(QStringLiteral("cannot be run")).size(), 1);
     EXPECT_EQ(terminations, 0);
 }
 

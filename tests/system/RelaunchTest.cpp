@@ -171,6 +171,20 @@ TEST_F(Relaunch, whoCancelsLeavingKeepsTheSettingsAndTheNextQuitBringsThemBack)
     EXPECT_TRUE(comesBack(before));
 }
 
+TEST_F(Relaunch, aLauncherThatCannotBeRunLeavesTheSettingsWithTheAgentOn)
+{
+    ASSERT_TRUE(QFile::setPermissions(launcher(), QFile::ReadOwner));
+    startSettings({pane()});
+    const QImage whileOff = settings->settledPicture();
+    bus.clear();
+    announceAgent(newVersion);
+    EXPECT_FALSE(settings->pictureAfterChangeFrom(whileOff).isNull());
+    // What is on is asked to end by the switch, and not started.
+    pressKey(KEY_L, {KEY_LEFTALT});
+    EXPECT_TRUE(waitUntil([this] { return countOf(KTXLMAgentShouldTerminate) == 1; }));
+    EXPECT_TRUE(settings->isRunning());
+}
+
 TEST_F(Relaunch, withoutALauncherTheSettingsStay)
 {
     ASSERT_TRUE(QFile::remove(launcher()));
@@ -179,5 +193,8 @@ TEST_F(Relaunch, withoutALauncherTheSettingsStay)
     announceAgent(newVersion);
     bus.post(KTXLMPrefsChanged, KTXLMAgentID);
     EXPECT_TRUE(waitUntil([this] { return countOf(KTXLMPrefsChanged) == 2; }));
+    // On their way out they would not serve their user any more.
+    pressKey(KEY_L, {KEY_LEFTALT});
+    EXPECT_TRUE(waitUntil([this] { return countOf(KTXLMAgentShouldTerminate) == 1; }));
     EXPECT_TRUE(settings->isRunning());
 }
