@@ -5,6 +5,7 @@
 #include "KTXConstants.h"
 #include "platform/appkit/help/NSHelpManager.h"
 
+#include <QBuffer>
 #include <linux/input-event-codes.h>
 
 namespace {
@@ -167,10 +168,16 @@ TEST_F(PaneConflictAlert, itsHelpButtonOpensThePanesHelpAboutIt)
 
 TEST_F(PaneConflictAlert, itShowsThePanesIcon)
 {
+    QImage picture(64, 64, QImage::Format_RGB32);
+    picture.fill(Qt::darkCyan);
+    picture.setPixelColor(10, 50, Qt::yellow);
+    QBuffer file;
+    ASSERT_TRUE(picture.save(&file, "PNG"));
+    bundle().writeFile(QStringLiteral("Contents/Resources/Lumaroo.icns"), file.data());
     showConflict();
-    leaveAnd([](QWidget *window) {
+    leaveAnd([&picture](QWidget *window) {
         const auto *icon = window->findChild<QLabel *>(QStringLiteral("icon"));
-        EXPECT_TRUE(icon && !icon->pixmap().isNull());
+        EXPECT_TRUE(icon && icon->pixmap().toImage().convertToFormat(picture.format()) == picture);
         pressKey(KEY_ESC);
     });
 }

@@ -3,8 +3,6 @@
 
 #include "KTXConstants.h"
 #include "platform/foundation/bundles/NSBundle.h"
-#include "platform/foundation/notifications/NSNotificationCenter.h"
-#include "platform/foundation/preferences/CFPreferences.h"
 #include "platform/foundation/propertylists/PropertyList.h"
 
 #include <QSignalSpy>
@@ -60,6 +58,11 @@ TEST_F(PaneLifeCycle, aNewPaneReadsNoSettingAndTouchesNoAgent)
     EXPECT_FALSE(QFile::exists(StoreOnDisk::path()));
     EXPECT_TRUE(calls.isEmpty());
     EXPECT_EQ(paneWithoutView().loadedVersion(), 0);
+    destroyPane();
+    store().set({{KTXModifierMask, 0x1B00}, {KTXUpPref, QVariantMap{{KTXKeycode, QStringLiteral("7")}}}});
+    EXPECT_EQ(paneWithoutView().modifierGlyphs(), QString());
+    EXPECT_EQ(paneWithoutView().keyCodes(), nullptr);
+    EXPECT_EQ(paneWithoutView().defaultKeyCodes()->first(), 126);
 }
 
 TEST_F(PaneLifeCycle, aNewPaneHasTheKeyTablesButNoWorkingCopy)
@@ -222,70 +225,18 @@ TEST_F(PaneLifeCycle, aPaneThatIsGoneClicksNothing)
     EXPECT_TRUE(bus().notifications().isEmpty());
 }
 
-TEST_F(PaneLifeCycle, leavingFlushesAndAnnouncesWhateverThePage)
-{
-    for (const int page : {0, 1, 2}) {
-        selectTabViewItemAtIndex(control("tabbedView"), page);
-        CFPreferencesSetAppValue(QStringLiteral("hideBetaNotes1"), QVariant(qlonglong(page)), KTXLMAppID);
-        bus().clear();
-        pane().didUnselect();
-        EXPECT_EQ(bus().notifications(), QList<BusNotification>{changed});
-        EXPECT_EQ(store().value(QStringLiteral("hideBetaNotes1")), QVariant(qlonglong(page)));
-    }
-}
-
-TEST_F(PaneLifeCycle, leavingTheHotKeyPageTakesTheHighlightFromTheMovementKeys)
-{
-    selectTabViewItemAtIndex(control("tabbedView"), 1);
-    for (int row = 0; row <= 5; ++row)
-        setBackgroundColor(keyField(row), Qt::blue);
-    pane().didUnselect();
-    for (int row = 0; row <= 4; ++row)
-        EXPECT_EQ(keyField(row)->palette().color(QPalette::Base), QColor(Qt::white)) << row;
-    EXPECT_EQ(keyField(5)->palette().color(QPalette::Base), QColor(Qt::blue));
-}
-
-TEST_F(PaneLifeCycle, leavingAnotherPageLeavesTheFieldsColoursAlone)
-{
-    selectTabViewItemAtIndex(control("tabbedView"), 0);
-    setBackgroundColor(keyField(0), Qt::blue);
-    pane().didUnselect();
-    EXPECT_EQ(keyField(0)->palette().color(QPalette::Base), QColor(Qt::blue));
-}
-
 TEST_F(PaneLifeCycle, everyControlThePaneKnowsIsInTheInterfaceFile)
 {
     const CapturedLog log;
     pane();
     EXPECT_TRUE(log.lines().isEmpty()) << log.lines().join(u'\n').toStdString();
-    for (const QString &name : pane().outletNames())
+    const QStringList names{"helpFileView", "modifiersField", "modifierCheckboxMatrix", "persistentModeMatrix",
+        "shiftCheckBox", "controlCheckBox", "optionCheckBox", "commandCheckBox", "doubleTapCheckBox", "appNameField",
+        "versionField", "creditsField", "toggleStateButton", "enableHorizontalWrapButton", "enableVerticalWrapButton",
+        "HorizontalPopup", "VerticalPopup", "keyRepeatButton", "animateButton", "repeatDelaySlider", "repeatRateSlider",
+        "keyRepeatBox", "delayTextField", "repeatTextField", "defaultColorButton", "autoUpdateButton",
+        "overlayColorWell", "movementBox", "cancelBox", "tabbedView", "enabledState", "copyrightField", "betaWindow"};
+    EXPECT_EQ(pane().outletNames(), names) << "in this order";
+    for (const QString &name : names)
         EXPECT_NE(control(qPrintable(name)), nullptr) << qPrintable(name);
-}
-
-TEST_F(PaneLifeCycle, aPaneThatIsGoneHearsNothing)
-{
-    pane();
-    int heard = 0;
-    NSNotificationCenter::defaultCenter()->addObserverSelectorNameObject(
-        &pane(), [&heard](const NSNotification &) { ++heard; }, KTXLMAgentLaunched);
-    destroyPane();
-    calls.clear();
-    for (const QString &name :
-        {KTXPrefPaneToTab, KTXLMAgentLaunched, KTXLMPrefPaneLaunchAgent, KTXLMAgentIsTerminating})
-        bus().post(name, {});
-    bus().post(KTXLMPrefsChanged, KTXLMAgentID);
-    NSNotificationCenter::defaultCenter()->postNotificationNameObject(KTXLMAgentLaunched);
-    bus().notifications();
-    runPendingEvents();
-    EXPECT_TRUE(calls.isEmpty());
-    EXPECT_EQ(heard, 0);
-}
-
-TEST_F(PaneLifeCycle, aPaneMayGoWithoutItsViewEverLoaded)
-{
-    paneWithoutView().willSelect();
-    paneWithoutView().didSelect();
-    EXPECT_EQ(paneWithoutView().shouldUnselect(), NSUnselectNow);
-    paneWithoutView().didUnselect();
-    destroyPane();
 }

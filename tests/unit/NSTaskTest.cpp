@@ -1,3 +1,4 @@
+#include "PaneBundle.h"
 #include "TestApplication.h"
 #include "Wait.h"
 
@@ -8,19 +9,29 @@
 #include <QFile>
 #include <QProcess>
 #include <csignal>
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
 
+bool isForWriting(const QString &descriptorInfo)
+{
+    const QStringList flags = linesOf(descriptorInfo).filter(QRegularExpression(QStringLiteral("^flags:")));
+    return (flags.value(0).section(u'\t', 1).toInt(nullptr, 8) & O_ACCMODE) == O_WRONLY;
+}
+
 class Task : public testing::Test
 {
 protected:
     Task() : bundle(QStringLiteral("Sample.prefPane"))
     {
-        // Reads its input to the end, then writes its arguments and its environment's word down.
+        // Writes down what its input is and reads it to the end, then writes down its arguments and its environment's
+        // word.
         bundle.writeScript(QStringLiteral("program"),
+            "readlink /proc/$$/fd/0 >\"$0.input.new\"\n"
+            "mv \"$0.input.new\" \"$0.input\"\n"
             "cat >/dev/null\n"
             "printf '%s\\n' \"$@\" \"$LUMAROO_HOST_EXECUTABLE\" >\"$0.new\"\n"
             "mv \"$0.new\" \"$0.done\"\n");
@@ -29,12 +40,18 @@ protected:
     QString program() const { return bundle.path() + QStringLiteral("/program"); }
     bool isDone() const { return QFile::exists(program() + QStringLiteral(".done")); }
 
-    QStringList written()
+    QStringList written() const { return fileOf(QStringLiteral(".done")); }
+    /// Whether a process holds the write end of the pipe that the program reads from.
+    bool holdsWriteEnd(pid_t process) const
     {
-        EXPECT_TRUE(waitUntil([this] { return isDone(); }));
-        QFile file(program() + QStringLiteral(".done"));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return QString::fromUtf8(file.readAll()).trimmed().split(u'\n');
+        const QString input = fileOf(QStringLiteral(".input")).value(0);
+        EXPECT_TRUE(input.startsWith(QStringLiteral("pipe:")));
+        const QString folder = QStringLiteral("/proc/%1/").arg(process);
+        const QStringList descriptors = QDir(folder + QStringLiteral("fd")).entryList(QDir::System);
+        return std::any_of(descriptors.begin(), descriptors.end(), [&](const QString &descriptor) {
+            return QFile::symLinkTarget(folder + QStringLiteral("fd/") + descriptor).endsWith(input)
+                && isForWriting(folder + QStringLiteral("fdinfo/") + descriptor);
+        });
     }
 
     void launchWithPipe()
@@ -67,6 +84,14 @@ protected:
     }
 
     TestBundle bundle;
+
+private:
+    /// What the program has written down, once it has.
+    QStringList fileOf(const QString &suffix) const
+    {
+        EXPECT_TRUE(waitUntil([&] { return QFile::exists(program() + suffix); }));
+        return linesOf(program() + suffix);
+    }
 };
 
 } // namespace
@@ -85,7 +110,8 @@ TEST_F(Task, runsTheProgramWithItsArgumentsAndNamesThisProgramToIt)
 TEST_F(Task, theProgramSeesTheEndOfItsInputWhenTheLaunchingProcessIsKilled)
 {
     const pid_t process = launchingProcess();
-    EXPECT_FALSE(isDone()) << "the task object is long gone";
+    EXPECT_TRUE(holdsWriteEnd(process)) << "the task object is long gone";
+    EXPECT_FALSE(isDone());
     ::kill(process, SIGKILL);
     ::waitpid(process, nullptr, 0);
     EXPECT_EQ(written().size(), 1);
@@ -94,6 +120,7 @@ TEST_F(Task, theProgramSeesTheEndOfItsInputWhenTheLaunchingProcessIsKilled)
 TEST_F(Task, theProgramWaitsForAsLongAsTheLaunchingProcessLives)
 {
     launchWithPipe();
+    EXPECT_TRUE(holdsWriteEnd(::getpid()));
     // Another program runs from start to end meanwhile.
     EXPECT_EQ(
         QProcess::execute(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), QStringLiteral("cat /proc/self/stat")}), 0);
