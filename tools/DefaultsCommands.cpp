@@ -15,7 +15,7 @@
 namespace {
 
 // One byte more than a property list may have, so that a longer one is refused.
-constexpr qint64 LargestFile = PropertyListBounds::MaximumBytes + 1;
+constexpr qint64 largestFile = PropertyListBounds::maximumBytes + 1;
 
 bool isStandardStream(const QString &file)
 {
@@ -106,7 +106,7 @@ QByteArray importedBytes(const QString &name)
     const bool opened = isStandardStream(name) ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
     if (!opened)
         throw CommandFailure(QStringLiteral("%1: %2").arg(name, file.errorString()));
-    return file.read(LargestFile);
+    return file.read(largestFile);
 }
 
 QVariantMap importedValues(const QString &name)

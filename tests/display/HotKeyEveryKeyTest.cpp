@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int Screenshot = 6;
+constexpr int screenshot = 6;
 constexpr int lastKeycode = 255;
 
 enum class Outcome { TakenAsTyped, TakenAsCommand, FocusMoved, Nothing };
@@ -24,14 +24,14 @@ protected:
     Outcome outcomeOf(int evdevCode, int code)
     {
         giveItNoKey();
-        focus(Screenshot);
+        focus(screenshot);
         pane().commands.clear();
         press(evdevCode);
         if (isLock(evdevCode))
             press(evdevCode);
-        if (focusedRow() != Screenshot)
+        if (focusedRow() != screenshot)
             return Outcome::FocusMoved;
-        if (keyCode(Screenshot) != code)
+        if (keyCode(screenshot) != code)
             return Outcome::Nothing;
         return pane().commands.isEmpty() ? Outcome::TakenAsTyped : Outcome::TakenAsCommand;
     }
@@ -114,9 +114,9 @@ TEST_F(HotKeyFieldGets, everyKeyThatAFieldTakesIsStoredUnderItsCode)
     for (const SendableKey &key : sendableKeys()) {
         if (!taken().count(key.row.code))
             continue;
-        pressIn(Screenshot, key.evdev);
-        expectTaken(Screenshot, key.row.code, labelOf(key.row));
-        EXPECT_EQ(focusedRow(), Screenshot) << key.row.code;
+        pressIn(screenshot, key.evdev);
+        expectTaken(screenshot, key.row.code, labelOf(key.row));
+        EXPECT_EQ(focusedRow(), screenshot) << key.row.code;
         giveItNoKey(); // some codes are those of two keys
     }
 }
@@ -124,21 +124,21 @@ TEST_F(HotKeyFieldGets, everyKeyThatAFieldTakesIsStoredUnderItsCode)
 TEST_F(HotKeyFieldGets, everyOtherKeyLeavesTheFieldAsItWas)
 {
     storeNoKeys();
-    storeKey(Screenshot, 0);
+    storeKey(screenshot, 0);
     showPage();
     for (const SendableKey &key : sendableKeys()) {
         const int code = key.row.code;
         if (!doingNothing.count(code))
             continue;
-        focus(Screenshot);
-        const QPalette colors = field(Screenshot)->palette();
+        focus(screenshot);
+        const QPalette colors = field(screenshot)->palette();
         press(key.evdev);
         if (isLock(key.evdev))
             press(key.evdev);
-        EXPECT_EQ(focusedRow(), Screenshot) << code;
-        EXPECT_EQ(shown(Screenshot), "A") << code;
-        EXPECT_EQ(field(Screenshot)->palette(), colors) << code;
-        EXPECT_EQ(keyCode(Screenshot), 0) << code;
+        EXPECT_EQ(focusedRow(), screenshot) << code;
+        EXPECT_EQ(shown(screenshot), "A") << code;
+        EXPECT_EQ(field(screenshot)->palette(), colors) << code;
+        EXPECT_EQ(keyCode(screenshot), 0) << code;
         expectNothingStored();
     }
 }
@@ -150,13 +150,13 @@ TEST_F(HotKeyFieldGets, keysWithoutAVirtualKeyCodeChangeNothing)
         known.insert(row.evdev);
         known.insert(row.aliases.cbegin(), row.aliases.cend());
     }
-    storeKey(Screenshot, 0);
+    storeKey(screenshot, 0);
     showPage();
     for (int evdev = 1; evdev + evdevToX11 <= lastKeycode; ++evdev) {
         if (known.count(evdev))
             continue;
-        pressIn(Screenshot, evdev);
-        EXPECT_EQ(shown(Screenshot), "A") << evdev;
+        pressIn(screenshot, evdev);
+        EXPECT_EQ(shown(screenshot), "A") << evdev;
     }
     expectNothingStored();
 }

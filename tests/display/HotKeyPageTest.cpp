@@ -11,16 +11,16 @@
 
 namespace {
 
-constexpr int HotKeyPage = 1;
-constexpr int Rows = 11;
-constexpr int MovementRows = 5;
+constexpr int hotKeyPage = 1;
+constexpr int rows = 11;
+constexpr int movementRows = 5;
 
 class TheHotKeyPage : public testing::Test
 {
 protected:
     QWidget *box(int row) const
     {
-        return window.find(row < MovementRows ? QStringLiteral("movementBox") : QStringLiteral("cancelBox"));
+        return window.find(row < movementRows ? QStringLiteral("movementBox") : QStringLiteral("cancelBox"));
     }
 
     template <typename T>
@@ -38,7 +38,7 @@ protected:
     QList<QRect> fieldPlaces() const
     {
         QList<QRect> places;
-        for (int row = 0; row < Rows; ++row)
+        for (int row = 0; row < rows; ++row)
             places += QRect(field(row)->mapTo(window.root(), QPoint()), field(row)->size());
         return places;
     }
@@ -48,18 +48,18 @@ protected:
 
 TEST_F(TheHotKeyPage, hasAPlainFieldAndAMarkerForEachRow)
 {
-    for (int row = 0; row < Rows; ++row) {
+    for (int row = 0; row < rows; ++row) {
         ASSERT_TRUE(field(row)) << row;
         EXPECT_EQ(field(row)->metaObject(), &QLineEdit::staticMetaObject) << row;
         EXPECT_EQ(field(row)->property("delegate").toString(), QStringLiteral("owner")) << row;
         ASSERT_TRUE(marker(row)) << row;
     }
-    EXPECT_EQ(window.root()->findChildren<ConflictMarker *>().size(), Rows);
+    EXPECT_EQ(window.root()->findChildren<ConflictMarker *>().size(), rows);
 }
 
 TEST_F(TheHotKeyPage, hasAllMarkersBeforeAllFieldsInEachBox)
 {
-    for (const int row : {0, MovementRows}) {
+    for (const int row : {0, movementRows}) {
         bool sawField = false;
         for (const QObject *child : box(row)->children()) {
             sawField = sawField || qobject_cast<const QLineEdit *>(child);
@@ -71,9 +71,9 @@ TEST_F(TheHotKeyPage, hasAllMarkersBeforeAllFieldsInEachBox)
 TEST_F(TheHotKeyPage, findsTheFieldsOfTheMovementKeysAndThenTheMarkersByTag)
 {
     QWidget *root = window.root();
-    for (int row = 0; row < MovementRows; ++row)
+    for (int row = 0; row < movementRows; ++row)
         EXPECT_EQ(viewWithTag(root, row), field(row)) << row;
-    for (int row = 0; row < Rows; ++row)
+    for (int row = 0; row < rows; ++row)
         EXPECT_EQ(viewWithTag(root, row + 5), marker(row)) << row;
 }
 
@@ -90,9 +90,9 @@ TEST_F(TheHotKeyPage, findsTheSameViewsWhicheverPageIsShown)
 
 TEST_F(TheHotKeyPage, showsAllElevenKeysWhenTheViewsTaggedZeroToTenGetThem)
 {
-    for (int row = 0; row < Rows; ++row)
+    for (int row = 0; row < rows; ++row)
         setStringValue(viewWithTag(window.root(), row), QStringLiteral("key %1").arg(row));
-    for (int row = 0; row < Rows; ++row)
+    for (int row = 0; row < rows; ++row)
         EXPECT_EQ(field(row)->text(), QStringLiteral("key %1").arg(row));
 }
 
@@ -107,17 +107,17 @@ TEST_F(TheHotKeyPage, showsAKeyAgainThatWasTypedOverWhenItIsReadAgain)
 TEST_F(TheHotKeyPage, startsWithoutAWarning)
 {
     window.show();
-    window.showPage(HotKeyPage);
-    for (int row = 0; row < Rows; ++row)
+    window.showPage(hotKeyPage);
+    for (int row = 0; row < rows; ++row)
         EXPECT_FALSE(marker(row)->isVisible()) << row;
 }
 
 TEST_F(TheHotKeyPage, movesNoFieldWhenAWarningComes)
 {
     window.show();
-    window.showPage(HotKeyPage);
+    window.showPage(hotKeyPage);
     const QList<QRect> before = fieldPlaces();
-    for (int row = 0; row < Rows; ++row)
+    for (int row = 0; row < rows; ++row)
         marker(row)->show();
     runPendingEvents();
     EXPECT_EQ(fieldPlaces(), before);
@@ -128,7 +128,7 @@ TEST_F(TheHotKeyPage, standsTheMovementKeysAsTheyActAlsoWhenMirrored)
     for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
         window.root()->setLayoutDirection(direction);
         window.show();
-        window.showPage(HotKeyPage);
+        window.showPage(hotKeyPage);
         const QPoint under = field(4)->geometry().center();
         EXPECT_LT(field(0)->geometry().bottom(), field(4)->geometry().top());
         EXPECT_EQ(field(0)->geometry().center().x(), under.x());
@@ -144,15 +144,15 @@ TEST_F(TheHotKeyPage, standsTheMovementKeysAsTheyActAlsoWhenMirrored)
 TEST_F(TheHotKeyPage, hasKeysOfOneSize)
 {
     window.show();
-    window.showPage(HotKeyPage);
-    for (int row = 1; row < Rows; ++row)
+    window.showPage(hotKeyPage);
+    for (int row = 1; row < rows; ++row)
         EXPECT_EQ(field(row)->size(), field(0)->size()) << row;
 }
 
 TEST_F(TheHotKeyPage, letsAKeyShowItsBackground)
 {
     window.show();
-    window.showPage(HotKeyPage);
+    window.showPage(hotKeyPage);
     setBackgroundColor(field(6), Qt::magenta);
     const QImage shown = field(6)->grab().toImage();
     EXPECT_EQ(shown.pixelColor(shown.width() / 8, shown.height() / 2), QColor(Qt::magenta));

@@ -23,7 +23,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr int NoTag = -1;
+constexpr int noTag = -1;
 
 struct ExpectedControl
 {
@@ -35,16 +35,16 @@ struct ExpectedControl
 };
 
 const ExpectedControl controls[] = {
-    {0, "toggleStateButton", "QCheckBox", NoTag, "toggleAgent:"},
-    {0, "tutorialButton", "QPushButton", NoTag, "runTutorial:"},
+    {0, "toggleStateButton", "QCheckBox", noTag, "toggleAgent:"},
+    {0, "tutorialButton", "QPushButton", noTag, "runTutorial:"},
     {1, "shiftCheckBox", "QCheckBox", 0x200, "updateModifierStates:"},
     {1, "controlCheckBox", "QCheckBox", 0x1000, "updateModifierStates:"},
     {1, "optionCheckBox", "QCheckBox", 0x800, "updateModifierStates:"},
     {1, "commandCheckBox", "QCheckBox", 0x100, "updateModifierStates:"},
-    {1, "modifierCheckboxMatrix", "NSMatrix", NoTag, "updateButtonStates:"},
-    {2, "HorizontalPopup", "QComboBox", NoTag, "enableChecked:"},
-    {2, "VerticalPopup", "QComboBox", NoTag, "enableChecked:"},
-    {2, "cycleOrderPopup", "QComboBox", NoTag, "enableChecked:"},
+    {1, "modifierCheckboxMatrix", "NSMatrix", noTag, "updateButtonStates:"},
+    {2, "HorizontalPopup", "QComboBox", noTag, "enableChecked:"},
+    {2, "VerticalPopup", "QComboBox", noTag, "enableChecked:"},
+    {2, "cycleOrderPopup", "QComboBox", noTag, "enableChecked:"},
     {2, "enableHorizontalWrapButton", "QCheckBox", 30, "enableChecked:"},
     {2, "enableVerticalWrapButton", "QCheckBox", 31, "enableChecked:"},
     {2, "keyRepeatButton", "QCheckBox", 70, "enableChecked:"},
@@ -52,13 +52,13 @@ const ExpectedControl controls[] = {
     {2, "repeatRateSlider", "FloatSlider", 72, "changeSlider:"},
     {2, "animateButton", "QCheckBox", 73, "enableChecked:"},
     {2, "doubleClickActivateCheckBox", "QCheckBox", 74, "enableChecked:"},
-    {2, "persistentModeMatrix", "NSMatrix", NoTag, "updatePersistentState:"},
-    {2, "overlayColorWell", "NSColorWell", NoTag, "updateColorInfo:"},
-    {2, "defaultColorButton", "QPushButton", NoTag, "useSystemColor:"},
-    {3, "autoUpdateButton", "QCheckBox", NoTag, "autoUpdateChecked:"},
-    {3, "checkForUpdatesButton", "QPushButton", NoTag, "checkForUpdates:"},
-    {4, "visitButton", "QPushButton", NoTag, "visit:"},
-    {4, "feedbackButton", "QPushButton", NoTag, "feedback:"},
+    {2, "persistentModeMatrix", "NSMatrix", noTag, "updatePersistentState:"},
+    {2, "overlayColorWell", "NSColorWell", noTag, "updateColorInfo:"},
+    {2, "defaultColorButton", "QPushButton", noTag, "useSystemColor:"},
+    {3, "autoUpdateButton", "QCheckBox", noTag, "autoUpdateChecked:"},
+    {3, "checkForUpdatesButton", "QPushButton", noTag, "checkForUpdates:"},
+    {4, "visitButton", "QPushButton", noTag, "visit:"},
+    {4, "feedbackButton", "QPushButton", noTag, "feedback:"},
 };
 
 struct ExpectedOutlet
@@ -245,7 +245,7 @@ TEST_F(TheWindow, hasAHelpButtonOnEachPageThatNamesItsTopic)
             if (!action)
                 continue;
             found.push_back(tag(action));
-            EXPECT_EQ(tag(button), NoTag);
+            EXPECT_EQ(tag(button), noTag);
             button->click();
             expectOnly(QStringLiteral("displayHelp:"), action);
         }

@@ -17,12 +17,12 @@
 
 namespace {
 
-constexpr int KeyEscape = 1;
-constexpr int KeyTab = 15;
-constexpr int KeyQ = 16;
-constexpr int KeyReturn = 28;
-constexpr int KeyLeftShift = 42;
-constexpr int KeySpace = 57;
+constexpr int keyEscape = 1;
+constexpr int keyTab = 15;
+constexpr int keyQ = 16;
+constexpr int keyReturn = 28;
+constexpr int keyLeftShift = 42;
+constexpr int keySpace = 57;
 
 QDialog *window()
 {
@@ -71,7 +71,7 @@ TEST_F(AnAlert, bearsTheTitleOfTheWindowItAsksFor)
     ASSERT_TRUE(waitUntil([&] { return asking.isActiveWindow(); }));
     run([] {
         EXPECT_EQ(window()->windowTitle(), "Some settings");
-        pressKey(KeyEscape);
+        pressKey(keyEscape);
     });
 }
 
@@ -79,14 +79,14 @@ TEST_F(AnAlert, startsOnCancelAndReturnPressesIt)
 {
     EXPECT_EQ(run([] {
         EXPECT_EQ(focusedButton(), "Cancel");
-        pressKey(KeyReturn);
+        pressKey(keyReturn);
     }),
         NSAlertSecondButtonReturn);
 }
 
 TEST_F(AnAlert, isCancelledByEscape)
 {
-    EXPECT_EQ(run([] { pressKey(KeyEscape); }), NSAlertSecondButtonReturn);
+    EXPECT_EQ(run([] { pressKey(keyEscape); }), NSAlertSecondButtonReturn);
 }
 
 TEST_F(AnAlert, isCancelledByClosingItsWindow)
@@ -96,22 +96,22 @@ TEST_F(AnAlert, isCancelledByClosingItsWindow)
 
 TEST_F(AnAlert, takesThePlainKeyOfAButton)
 {
-    EXPECT_EQ(run([] { pressKey(KeyQ); }), NSAlertFirstButtonReturn);
+    EXPECT_EQ(run([] { pressKey(keyQ); }), NSAlertFirstButtonReturn);
 }
 
 TEST_F(AnAlert, isWalkedThroughWithTabAndReturnPressesTheButtonReached)
 {
     EXPECT_EQ(run([] {
-        pressKey(KeyTab, {KeyLeftShift});
+        pressKey(keyTab, {keyLeftShift});
         EXPECT_TRUE(waitUntil([] { return focusedButton() == "Quit"; }));
-        pressKey(KeyReturn);
+        pressKey(keyReturn);
     }),
         NSAlertFirstButtonReturn);
 }
 
 TEST_F(AnAlert, spacePressesTheButtonReached)
 {
-    EXPECT_EQ(run([] { pressKey(KeySpace); }), NSAlertSecondButtonReturn);
+    EXPECT_EQ(run([] { pressKey(keySpace); }), NSAlertSecondButtonReturn);
 }
 
 TEST_F(AnAlert, aClickPressesAButton)
@@ -137,7 +137,7 @@ TEST_F(AnAlert, showsItsTextsAndItsButtonsFromRightToLeft)
         EXPECT_EQ(window()->windowModality(), Qt::ApplicationModal);
         EXPECT_EQ(window()->accessibleName(), "Quit while key conflicts exist?");
         EXPECT_EQ(QAccessible::queryAccessibleInterface(buttons[0])->text(QAccessible::Name), "Quit");
-        pressKey(KeyEscape);
+        pressKey(keyEscape);
     });
 }
 
@@ -152,14 +152,14 @@ TEST_F(AnAlert, showsItsIconAndDoesWithoutOneThatIsMissingOrNoImage)
     run([] {
         const auto *icon = window()->findChild<QLabel *>("icon");
         EXPECT_EQ(icon ? icon->pixmap().toImage().pixelColor(32, 32) : QColor(), QColor(Qt::blue));
-        pressKey(KeyEscape);
+        pressKey(keyEscape);
     });
     bundle.writeFile("Contents/Resources/Icon.icns", "no image");
     for (const QString &useless : {path, bundle.resourcePath() + "/Missing.icns"}) {
         alert.setIconFile(useless);
         run([] {
             EXPECT_EQ(window()->findChild<QLabel *>("icon"), nullptr);
-            pressKey(KeyEscape);
+            pressKey(keyEscape);
         });
     }
 }
@@ -175,12 +175,12 @@ TEST_F(AnAlert, opensHelpFromItsHelpButtonAndStays)
     alert.setHelpAnchor("closeDialog", NSBundle::bundleWithPath(bundle.path()));
     EXPECT_EQ(run([&] {
         EXPECT_EQ(window()->findChild<QToolButton *>("help")->accessibleName(), "Help");
-        pressKey(KeyTab);
+        pressKey(keyTab);
         EXPECT_TRUE(waitUntil([] { return focusedButton() == "Help"; }));
-        pressKey(KeySpace);
+        pressKey(keySpace);
         EXPECT_TRUE(waitUntil([&] { return !requests.isEmpty(); }));
         EXPECT_TRUE(window()->isVisible());
-        pressKey(KeyEscape);
+        pressKey(keyEscape);
     }),
         NSAlertSecondButtonReturn);
     EXPECT_EQ(requests, QStringList("closeDialog in Test Help"));
@@ -191,7 +191,7 @@ TEST_F(AnAlert, withoutHelpHasNoHelpButton)
 {
     run([] {
         EXPECT_EQ(window()->findChild<QToolButton *>("help"), nullptr);
-        pressKey(KeyEscape);
+        pressKey(keyEscape);
     });
 }
 
@@ -204,7 +204,7 @@ TEST_F(AnAlert, knowsTheCancelButtonInTheUsersLanguage)
     german.addButtonWithTitle("Beenden");
     german.addButtonWithTitle("Abbrechen");
     german.setHelpAnchor("closeDialog", NSBundle::bundleWithPath(bundle.path()));
-    EXPECT_EQ(run(german, [] { pressKey(KeyEscape); }), NSAlertSecondButtonReturn);
+    EXPECT_EQ(run(german, [] { pressKey(keyEscape); }), NSAlertSecondButtonReturn);
     QLocale::setDefault(QLocale::c());
 }
 
@@ -212,7 +212,7 @@ TEST_F(AnAlert, ofASingleButtonIsEndedByEscape)
 {
     NSAlert single;
     single.addButtonWithTitle("Understood");
-    EXPECT_EQ(run(single, [] { pressKey(KeyEscape); }), NSAlertFirstButtonReturn);
+    EXPECT_EQ(run(single, [] { pressKey(keyEscape); }), NSAlertFirstButtonReturn);
 }
 
 TEST_F(AnAlert, withoutButtonsGetsOne)
@@ -221,7 +221,7 @@ TEST_F(AnAlert, withoutButtonsGetsOne)
     EXPECT_EQ(run(bare,
                   [] {
                       EXPECT_EQ(focusedButton(), "OK");
-                      pressKey(KeyReturn);
+                      pressKey(keyReturn);
                   }),
         NSAlertFirstButtonReturn);
 }
@@ -234,11 +234,11 @@ TEST_F(AnAlert, withoutACancelButtonStaysOnEscape)
     EXPECT_EQ(run(choice,
                   [] {
                       EXPECT_EQ(focusedButton(), "Left");
-                      pressKey(KeyEscape);
-                      pressKey(KeyTab);
+                      pressKey(keyEscape);
+                      pressKey(keyTab);
                       EXPECT_TRUE(waitUntil([] { return focusedButton() == "Right"; }));
                       EXPECT_TRUE(window()->isVisible());
-                      pressKey(KeyReturn);
+                      pressKey(keyReturn);
                   }),
         NSAlertSecondButtonReturn);
 }

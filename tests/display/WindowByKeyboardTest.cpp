@@ -19,7 +19,7 @@ namespace {
 
 using testing::UnorderedElementsAreArray;
 
-constexpr int Pages = 6;
+constexpr int pages = 6;
 
 std::string nameOf(const QWidget *widget)
 {
@@ -81,7 +81,7 @@ protected:
 
 TEST_P(TheWindowIn, namesEveryControlForAScreenReader)
 {
-    for (int index = 0; index < Pages; ++index) {
+    for (int index = 0; index < pages; ++index) {
         window.showPage(index);
         for (QWidget *control : controlsOf(window.page(index)))
             EXPECT_FALSE(accessibleText(control, QAccessible::Name).isEmpty()) << nameOf(control);
@@ -91,7 +91,7 @@ TEST_P(TheWindowIn, namesEveryControlForAScreenReader)
 TEST_P(TheWindowIn, reachesEveryControlByTab)
 {
     auto *tabbedView = window.find<QTabWidget>(QStringLiteral("tabbedView"));
-    for (int index = 0; index < Pages; ++index) {
+    for (int index = 0; index < pages; ++index) {
         window.showPage(index);
         std::set<std::string> expected;
         for (const QWidget *control : controlsOf(window.page(index)))
@@ -120,7 +120,7 @@ TEST_P(TheWindowIn, goesDownAPageByTab)
 TEST_P(TheWindowIn, givesEveryControlAMnemonicOfItsOwn)
 {
     const auto *tabbedView = window.find<QTabWidget>(QStringLiteral("tabbedView"));
-    for (int index = 0; index < Pages; ++index) {
+    for (int index = 0; index < pages; ++index) {
         QMap<QString, QString> texts;
         const auto add = [&texts](const QString &text) {
             const QString mnemonic = QKeySequence::mnemonic(text).toString();
@@ -130,7 +130,7 @@ TEST_P(TheWindowIn, givesEveryControlAMnemonicOfItsOwn)
             texts[mnemonic] = text;
         };
         add(QStringLiteral("&All settings")); // the way back that the host shows beside the pane, in German too
-        for (int tab = 0; tab < Pages; ++tab) {
+        for (int tab = 0; tab < pages; ++tab) {
             EXPECT_FALSE(QKeySequence::mnemonic(tabbedView->tabText(tab)).isEmpty());
             add(tabbedView->tabText(tab));
         }
@@ -141,7 +141,7 @@ TEST_P(TheWindowIn, givesEveryControlAMnemonicOfItsOwn)
 
 TEST_P(TheWindowIn, reachesEveryControlByAMnemonic)
 {
-    for (int index = 0; index < Pages; ++index) {
+    for (int index = 0; index < pages; ++index) {
         window.showPage(index);
         QSet<const QWidget *> reached;
         for (const QWidget *widget : window.page(index)->findChildren<QWidget *>()) {
@@ -176,8 +176,8 @@ TEST_P(TheWindowIn, goesThroughTheMovementKeysFromLeftToRight)
 
 TEST_P(TheWindowIn, opensThePagesHelpWithF1)
 {
-    const int topics[Pages] = {0, 1, 4, 3, 12, 10};
-    for (int index = 0; index < Pages; ++index) {
+    const int topics[pages] = {0, 1, 4, 3, 12, 10};
+    for (int index = 0; index < pages; ++index) {
         window.showPage(index);
         window.forgetPerformedActions();
         QTest::keyClick(window.root(), Qt::Key_F1);

@@ -18,7 +18,7 @@ namespace {
 
 using testing::UnorderedElementsAreArray;
 
-constexpr int Pages = 6;
+constexpr int pages = 6;
 
 QFile *sourceFile(const QString &name)
 {
@@ -87,7 +87,7 @@ bool showsText(const QWidget *widget)
 
 void expectNothingClipped(const LoadedWindow &window)
 {
-    for (int index = 0; index < Pages; ++index) {
+    for (int index = 0; index < pages; ++index) {
         window.showPage(index);
         for (const QWidget *widget : window.page(index)->findChildren<QWidget *>()) {
             if (!showsText(widget))
@@ -125,7 +125,7 @@ TEST_P(TheWindowIn, keepsItsSizeBetweenPages)
     window.show();
     const QSize size = window.root()->size();
     EXPECT_EQ(size, window.root()->sizeHint());
-    for (int index = 0; index < Pages; ++index) {
+    for (int index = 0; index < pages; ++index) {
         window.showPage(index);
         EXPECT_EQ(window.root()->size(), size) << index;
         EXPECT_EQ(window.root()->sizeHint(), size) << index;

@@ -164,10 +164,10 @@ TEST_F(KeyboardChange, toAKeyThatAnotherProgramHoldsIsToldAndTriedAgain)
 
 TEST_F(KeyboardChange, ofKeyCodesLeavesAnotherKeyToItsOwnName)
 {
-    // F13 may also be Print Screen; where that has another code, its usual one is Delete.
-    constexpr quint32 F13 = 105;
+    // f13 may also be Print Screen; where that has another code, its usual one is Delete.
+    constexpr quint32 f13 = 105;
     setxkbmap({"-keycodes", "xfree86"});
-    ASSERT_EQ(add(F13, controlKey, 5), noErr);
+    ASSERT_EQ(add(f13, controlKey, 5), noErr);
     EXPECT_TRUE(waitUntil([this] { return other.isHeldElsewhere(111 - evdevToX11, XCB_MOD_MASK_CONTROL); }));
     EXPECT_FALSE(other.isHeldElsewhere(107 - evdevToX11, XCB_MOD_MASK_CONTROL));
 }

@@ -14,7 +14,7 @@
 namespace {
 
 constexpr quint32 A = 0, S = 1;
-constexpr quint32 F13 = 105, OtherEnter = 52, Enter = 76;
+constexpr quint32 f13 = 105, OtherEnter = 52, Enter = 76;
 constexpr quint16 control = XCB_MOD_MASK_CONTROL, numLock = XCB_MOD_MASK_2;
 
 class Registration : public HotKeySession
@@ -89,7 +89,7 @@ TEST_F(Registration, isRefusedForWhatAWindowManagerHolds)
 
 TEST_F(Registration, withoutModifiersIsOnlyARefusalOfTheCaller)
 {
-    EXPECT_EQ(add(F13, 0), noErr);
+    EXPECT_EQ(add(f13, 0), noErr);
 }
 
 TEST_F(Registration, ofWhatNoKeyBearsIsAParameterError)
@@ -142,7 +142,7 @@ TEST_F(Registration, ofTheOtherEnterKeyHoldsTheKeypads)
 
 TEST_F(Registration, holdsTheKeysThatCountAsItToo)
 {
-    EXPECT_EQ(add(F13, controlKey), noErr);
+    EXPECT_EQ(add(f13, controlKey), noErr);
     EXPECT_FALSE(other.grabKey(KEY_F13, control));
     EXPECT_FALSE(other.grabKey(KEY_SYSRQ, control));
 }

@@ -43,21 +43,21 @@ protected:
 
 TEST_F(SettingsProcesses, twoWriteTwoThousandKeysEachAndNoneIsLost)
 {
-    constexpr int Keys = 2000;
-    constexpr int KeysInAFlush = 8;
-    constexpr int Attempts = 30;
+    constexpr int keys = 2000;
+    constexpr int keysInAFlush = 8;
+    constexpr int attempts = 30;
     const auto writer = [](const QString &prefix) {
         return [prefix] {
-            for (int number = 0; number < Keys; ++number) {
+            for (int number = 0; number < keys; ++number) {
                 CFPreferencesSetAppValue(prefix + QString::number(number), number, Domain);
                 // One that finds no turn in time keeps its keys for the next flush.
-                if (number % KeysInAFlush == 0)
+                if (number % keysInAFlush == 0)
                     CFPreferencesAppSynchronize(Domain);
             }
             int attempts = 0;
-            while (!CFPreferencesAppSynchronize(Domain) && attempts < Attempts)
+            while (!CFPreferencesAppSynchronize(Domain) && attempts < attempts)
                 ++attempts;
-            return attempts < Attempts;
+            return attempts < attempts;
         };
     };
     const pid_t first = start(writer("first"));
@@ -65,8 +65,8 @@ TEST_F(SettingsProcesses, twoWriteTwoThousandKeysEachAndNoneIsLost)
     EXPECT_EQ(waitFor(first), 0);
     EXPECT_EQ(waitFor(second), 0);
     const QVariantMap values = stored();
-    EXPECT_EQ(values.size(), 2 * Keys);
-    for (int number = 0; number < Keys; ++number) {
+    EXPECT_EQ(values.size(), 2 * keys);
+    for (int number = 0; number < keys; ++number) {
         EXPECT_EQ(values.value("first" + QString::number(number), -1).toInt(), number);
         EXPECT_EQ(values.value("second" + QString::number(number), -1).toInt(), number);
     }

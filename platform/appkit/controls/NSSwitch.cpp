@@ -8,9 +8,9 @@
 namespace {
 
 constexpr QSizeF TrackSize(44, 24);
-constexpr qreal RingGap = 1;
-constexpr qreal RingWidth = 2;
-constexpr qreal KnobInset = 3;
+constexpr qreal ringGap = 1;
+constexpr qreal ringWidth = 2;
+constexpr qreal knobInset = 3;
 
 } // namespace
 
@@ -21,7 +21,7 @@ NSSwitch::NSSwitch(QWidget *parent) : QCheckBox(parent)
 
 QSize NSSwitch::sizeHint() const
 {
-    const qreal margin = 2 * (RingGap + RingWidth);
+    const qreal margin = 2 * (ringGap + ringWidth);
     return (TrackSize + QSizeF(margin, margin)).toSize();
 }
 
@@ -57,14 +57,14 @@ void NSSwitch::paintEvent(QPaintEvent *)
     painter.setBrush(isOn ? palette().color(QPalette::Highlight) : off);
     painter.drawRoundedRect(track, track.height() / 2, track.height() / 2);
 
-    const qreal knobRadius = track.height() / 2 - KnobInset;
+    const qreal knobRadius = track.height() / 2 - knobInset;
     painter.setBrush(isOn ? palette().color(QPalette::HighlightedText) : palette().color(QPalette::Window));
     painter.drawEllipse(knobCenter(track), knobRadius, knobRadius);
 
     if (hasFocus()) {
-        const QRectF ring = track.adjusted(-RingGap, -RingGap, RingGap, RingGap);
+        const QRectF ring = track.adjusted(-ringGap, -ringGap, ringGap, ringGap);
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(palette().color(QPalette::Highlight), RingWidth));
+        painter.setPen(QPen(palette().color(QPalette::Highlight), ringWidth));
         painter.drawRoundedRect(ring, ring.height() / 2, ring.height() / 2);
     }
 }

@@ -11,9 +11,9 @@
 
 namespace {
 
-constexpr double LeastContrast = 4.6;
-constexpr double TitleScale = 1.5;
-constexpr double SecondaryScale = 0.9;
+constexpr double leastContrast = 4.6;
+constexpr double titleScale = 1.5;
+constexpr double secondaryScale = 0.9;
 
 double linear(double component)
 {
@@ -29,7 +29,7 @@ QColor palerText(const QColor &text, const QColor &window)
 {
     for (int percent = 40; percent > 0; percent -= 5) {
         const QColor pale = mixed(text, window, float(percent) / 100);
-        if (contrastRatio(pale, window) >= LeastContrast)
+        if (contrastRatio(pale, window) >= leastContrast)
             return pale;
     }
     return text;
@@ -101,7 +101,7 @@ void StyledLabel::applyTextStyle()
         bold.setBold(true);
         setFont(bold);
     } else {
-        setFont(scaled(base, textStyle_ == Title ? TitleScale : SecondaryScale));
+        setFont(scaled(base, textStyle_ == Title ? titleScale : secondaryScale));
     }
     if (textStyle_ != Secondary)
         return;

@@ -9,7 +9,7 @@ namespace {
 
 QVariant read(const QByteArray &data)
 {
-    if (data.size() > PropertyListBounds::MaximumBytes)
+    if (data.size() > PropertyListBounds::maximumBytes)
         throw PropertyListDamage{QStringLiteral("larger than 64 MiB")};
     if (data.isEmpty())
         throw PropertyListDamage{QStringLiteral("empty"), 0};

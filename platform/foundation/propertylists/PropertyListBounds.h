@@ -6,9 +6,9 @@
 
 namespace PropertyListBounds {
 
-constexpr int MaximumDepth = 128; ///< containers within containers, the outermost counted
-constexpr qint64 MaximumObjects = 1'000'000; ///< values and dictionary keys, each as often as it is reached
-constexpr qint64 MaximumBytes =
+constexpr int maximumDepth = 128; ///< containers within containers, the outermost counted
+constexpr qint64 maximumObjects = 1'000'000; ///< values and dictionary keys, each as often as it is reached
+constexpr qint64 maximumBytes =
     qint64(64) * 1024 * 1024; ///< of the file, and of all text and data as often as it is reached
 
 /// What a value amounts to when everything shared in it is counted as often as it is reached.
@@ -22,7 +22,7 @@ struct Extent
         objects += other.objects;
         bytes += other.bytes;
     }
-    bool isWithinBounds() const { return objects <= MaximumObjects && bytes <= MaximumBytes; }
+    bool isWithinBounds() const { return objects <= maximumObjects && bytes <= maximumBytes; }
 };
 
 } // namespace PropertyListBounds

@@ -71,11 +71,11 @@ private:
     {
         QVariantList result;
         for (const QVariant &element : list) {
-            result.append(depth <= MaximumDepth ? converted(element, depth) : QVariant());
+            result.append(depth <= maximumDepth ? converted(element, depth) : QVariant());
             if (!result.last().isValid())
                 return {};
         }
-        return depth <= MaximumDepth ? QVariant(result) : QVariant();
+        return depth <= maximumDepth ? QVariant(result) : QVariant();
     }
 
     QVariant convertedMap(const QVariantMap &map, int depth)
@@ -83,12 +83,12 @@ private:
         QVariantMap result;
         for (auto entry = map.begin(); entry != map.end(); ++entry) {
             extent_.add({1, entry.key().size()});
-            const QVariant value = depth <= MaximumDepth ? converted(entry.value(), depth) : QVariant();
+            const QVariant value = depth <= maximumDepth ? converted(entry.value(), depth) : QVariant();
             if (!value.isValid())
                 return {};
             result.insert(result.cend(), entry.key(), value);
         }
-        return depth <= MaximumDepth && extent_.isWithinBounds() ? QVariant(result) : QVariant();
+        return depth <= maximumDepth && extent_.isWithinBounds() ? QVariant(result) : QVariant();
     }
 
     Extent extent_;

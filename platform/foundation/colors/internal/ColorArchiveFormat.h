@@ -7,36 +7,36 @@
 
 namespace ColorArchive {
 
-inline constexpr qint8 ShortInteger = -127; // two bytes follow
-inline constexpr qint8 LongInteger = -126; // four bytes follow
-inline constexpr qint8 Real = -125; // four bytes follow
-inline constexpr qint8 New = -124; // the thing itself follows and takes the next number
-inline constexpr qint8 Nil = -123;
-inline constexpr qint8 EndOfObject = -122;
+inline constexpr qint8 shortInteger = -127; // two bytes follow
+inline constexpr qint8 longInteger = -126; // four bytes follow
+inline constexpr qint8 realMark = -125; // four bytes follow
+inline constexpr qint8 newMark = -124; // the thing itself follows and takes the next number
+inline constexpr qint8 nilMark = -123;
+inline constexpr qint8 endOfObject = -122;
 
-inline constexpr int FirstReservedMark = -128;
-inline constexpr int LastReservedMark = -111;
-inline constexpr int FirstNumber = -110;
+inline constexpr int firstReservedMark = -128;
+inline constexpr int lastReservedMark = -111;
+inline constexpr int firstNumber = -110;
 
-inline constexpr qint8 StreamerVersion = 4;
-inline constexpr qint32 SystemVersion = 1000;
-inline constexpr char LittleEndianSignature[] = "streamtyped";
-inline constexpr char BigEndianSignature[] = "typedstream";
+inline constexpr qint8 streamerVersion = 4;
+inline constexpr qint32 systemVersion = 1000;
+inline constexpr char littleEndianSignature[] = "streamtyped";
+inline constexpr char bigEndianSignature[] = "typedstream";
 
-inline constexpr char ColorClass[] = "NSColor";
-inline constexpr char TextClass[] = "NSString";
-inline constexpr char RootClass[] = "NSObject";
-inline constexpr qint32 ColorClassVersion = 0;
-inline constexpr qint32 TextClassVersion = 1;
-inline constexpr qint32 RootClassVersion = 0;
+inline constexpr char colorClass[] = "NSColor";
+inline constexpr char textClass[] = "NSString";
+inline constexpr char rootClass[] = "NSObject";
+inline constexpr qint32 colorClassVersion = 0;
+inline constexpr qint32 textClassVersion = 1;
+inline constexpr qint32 rootClassVersion = 0;
 
-inline constexpr char ObjectType[] = "@";
-inline constexpr char NamedColorType[] = "@@@";
-inline constexpr char ColorSpaceType[] = "c";
-inline constexpr char TextType[] = "+";
+inline constexpr char objectType[] = "@";
+inline constexpr char namedColorType[] = "@@@";
+inline constexpr char colorSpaceType[] = "c";
+inline constexpr char textType[] = "+";
 
 // No colour comes near these.
-inline constexpr int MaximumFallbacks = 16;
-inline constexpr qsizetype MaximumSize = qsizetype(64) * 1024;
+inline constexpr int maximumFallbacks = 16;
+inline constexpr qsizetype maximumSize = qsizetype(64) * 1024;
 
 } // namespace ColorArchive

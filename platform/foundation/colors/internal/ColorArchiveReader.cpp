@@ -31,7 +31,7 @@ std::optional<QString> decoded(const QByteArray &utf8)
 
 NSColorRef ColorArchiveReader::read(const QByteArray &data)
 {
-    if (data.size() > MaximumSize)
+    if (data.size() > maximumSize)
         return nullptr;
     const MutableColor color = ColorArchiveReader(data).readArchive();
     if (!color)
@@ -45,22 +45,22 @@ NSColorRef ColorArchiveReader::read(const QByteArray &data)
 
 ColorArchiveReader::MutableColor ColorArchiveReader::readArchive()
 {
-    if (!readHeader() || !takeSharedString(ObjectType))
+    if (!readHeader() || !takeSharedString(objectType))
         return nullptr;
-    MutableColor color = takeColor(MaximumFallbacks);
+    MutableColor color = takeColor(maximumFallbacks);
     return rest_.isEmpty() ? color : nullptr;
 }
 
 bool ColorArchiveReader::readHeader()
 {
-    if (!takeMark(StreamerVersion))
+    if (!takeMark(streamerVersion))
         return false;
     const std::optional<QByteArray> signature = takeBytes();
-    if (signature == BigEndianSignature)
+    if (signature == bigEndianSignature)
         byteOrder_ = ByteOrder::BigEndian;
-    else if (signature != LittleEndianSignature)
+    else if (signature != littleEndianSignature)
         return false;
-    return takeInteger(SystemVersion);
+    return takeInteger(systemVersion);
 }
 
 std::optional<QByteArrayView> ColorArchiveReader::take(qsizetype count)
@@ -97,11 +97,11 @@ std::optional<Integer> ColorArchiveReader::takeFixed()
 
 std::optional<qint32> ColorArchiveReader::integerAfter(qint8 mark)
 {
-    if (mark == ShortInteger)
+    if (mark == shortInteger)
         return takeFixed<qint16>();
-    if (mark == LongInteger)
+    if (mark == longInteger)
         return takeFixed<qint32>();
-    if (mark <= LastReservedMark)
+    if (mark <= lastReservedMark)
         return std::nullopt;
     return mark;
 }
@@ -122,7 +122,7 @@ std::optional<std::size_t> ColorArchiveReader::indexAfter(qint8 mark, std::size_
     const auto number = integerAfter(mark);
     if (!number)
         return std::nullopt;
-    const qint64 index = qint64(*number) - FirstNumber;
+    const qint64 index = qint64(*number) - firstNumber;
     return index >= 0 && index < qint64(tableSize) ? std::optional(std::size_t(index)) : std::nullopt;
 }
 
@@ -131,7 +131,7 @@ std::optional<float> ColorArchiveReader::takeReal()
     const auto mark = takeMark();
     if (!mark)
         return std::nullopt;
-    if (*mark == Real) {
+    if (*mark == realMark) {
         const auto bits = takeFixed<quint32>();
         return bits ? std::optional(std::bit_cast<float>(*bits)) : std::nullopt;
     }
@@ -153,7 +153,7 @@ std::optional<QByteArray> ColorArchiveReader::takeSharedString()
     const auto mark = takeMark();
     if (!mark)
         return std::nullopt;
-    if (*mark == New) {
+    if (*mark == newMark) {
         auto string = takeBytes();
         if (string)
             strings_.push_back(*string);
@@ -179,14 +179,14 @@ bool ColorArchiveReader::takeClass(const char *name, qint32 version)
     const auto mark = takeMark();
     if (!mark)
         return false;
-    if (*mark != New) {
+    if (*mark != newMark) {
         const Object *known = objectNumbered(*mark);
         return known && known->kind == Object::Kind::Class && known->className == name;
     }
     objects_.push_back({Object::Kind::Class, name, {}});
     if (!takeSharedString(name) || !takeInteger(version))
         return false;
-    return qstrcmp(name, RootClass) == 0 ? takeMark(Nil) : takeClass(RootClass, RootClassVersion);
+    return qstrcmp(name, rootClass) == 0 ? takeMark(nilMark) : takeClass(rootClass, rootClassVersion);
 }
 
 std::optional<QString> ColorArchiveReader::takeText()
@@ -194,7 +194,7 @@ std::optional<QString> ColorArchiveReader::takeText()
     const auto mark = takeMark();
     if (!mark)
         return std::nullopt;
-    if (*mark == New)
+    if (*mark == newMark)
         return takeNewText();
     const Object *known = objectNumbered(*mark);
     if (!known || known->kind != Object::Kind::Text)
@@ -206,11 +206,11 @@ std::optional<QString> ColorArchiveReader::takeNewText()
 {
     const std::size_t number = objects_.size();
     objects_.push_back({Object::Kind::Text, {}, {}});
-    if (!takeClass(TextClass, TextClassVersion) || !takeSharedString(TextType))
+    if (!takeClass(textClass, textClassVersion) || !takeSharedString(textType))
         return std::nullopt;
     const auto utf8 = takeBytes();
     const auto text = utf8 ? decoded(*utf8) : std::nullopt;
-    if (!text || !takeMark(EndOfObject))
+    if (!text || !takeMark(endOfObject))
         return std::nullopt;
     objects_[number].text = *text;
     return text;
@@ -219,13 +219,13 @@ std::optional<QString> ColorArchiveReader::takeNewText()
 ColorArchiveReader::MutableColor ColorArchiveReader::takeColor(int fallbacksLeft)
 {
     // Only a colour around this one could have been met before, and no colour is its own fallback.
-    if (fallbacksLeft < 0 || !takeMark(New))
+    if (fallbacksLeft < 0 || !takeMark(newMark))
         return nullptr;
     objects_.push_back({Object::Kind::Color, {}, {}});
-    if (!takeClass(ColorClass, ColorClassVersion) || !takeSharedString(ColorSpaceType))
+    if (!takeClass(colorClass, colorClassVersion) || !takeSharedString(colorSpaceType))
         return nullptr;
     const MutableColor color = takeColorContent(fallbacksLeft);
-    if (!color || !takeMark(EndOfObject))
+    if (!color || !takeMark(endOfObject))
         return nullptr;
     color->byteOrder_ = byteOrder_;
     return color;
@@ -256,7 +256,7 @@ ColorArchiveReader::MutableColor ColorArchiveReader::takeComponents(NSColorSpace
 
 ColorArchiveReader::MutableColor ColorArchiveReader::takeNamedColor(int fallbacksLeft)
 {
-    if (!takeSharedString(NamedColorType))
+    if (!takeSharedString(namedColorType))
         return nullptr;
     const auto catalog = takeText();
     const auto name = catalog ? takeText() : std::nullopt;

@@ -36,15 +36,15 @@ private:
     QHash<QByteArray, qint32> strings_;
     QHash<QByteArray, qint32> classes_;
     QHash<QString, qint32> catalogs_;
-    qint32 nextObject_ = FirstNumber;
+    qint32 nextObject_ = firstNumber;
 };
 
 QByteArray Writer::archive(const NSColor &color)
 {
-    putMark(StreamerVersion);
-    putBytes(byteOrder_ == ByteOrder::BigEndian ? BigEndianSignature : LittleEndianSignature);
-    putInteger(SystemVersion);
-    putSharedString(ObjectType);
+    putMark(streamerVersion);
+    putBytes(byteOrder_ == ByteOrder::BigEndian ? bigEndianSignature : littleEndianSignature);
+    putInteger(systemVersion);
+    putSharedString(objectType);
     putColor(color);
     return bytes_;
 }
@@ -58,13 +58,13 @@ void Writer::putFixed(Integer value)
 
 void Writer::putInteger(qint32 value)
 {
-    if (value > LastReservedMark && value <= 127) {
+    if (value > lastReservedMark && value <= 127) {
         putMark(qint8(value));
     } else if (value >= -32767 && value <= 32767) {
-        putMark(ShortInteger);
+        putMark(shortInteger);
         putFixed(qint16(value));
     } else {
-        putMark(LongInteger);
+        putMark(longInteger);
         putFixed(value);
     }
 }
@@ -76,7 +76,7 @@ void Writer::putReal(float value)
     if (value > -integerLimit && value < integerLimit && float(qint32(value)) == value) {
         putInteger(qint32(value));
     } else {
-        putMark(Real);
+        putMark(realMark);
         putFixed(std::bit_cast<quint32>(value));
     }
 }
@@ -93,8 +93,8 @@ void Writer::putSharedString(const QByteArray &string)
         putInteger(*known);
         return;
     }
-    strings_.insert(string, FirstNumber + qint32(strings_.size()));
-    putMark(New);
+    strings_.insert(string, firstNumber + qint32(strings_.size()));
+    putMark(newMark);
     putBytes(string);
 }
 
@@ -105,13 +105,13 @@ void Writer::putClass(const QByteArray &name, qint32 version)
         return;
     }
     classes_.insert(name, nextObject_++);
-    putMark(New);
+    putMark(newMark);
     putSharedString(name);
     putInteger(version);
-    if (name == RootClass)
-        putMark(Nil);
+    if (name == rootClass)
+        putMark(nilMark);
     else
-        putClass(RootClass, RootClassVersion);
+        putClass(rootClass, rootClassVersion);
 }
 
 // A catalogue's name is one object for all its colours; the names of the colours are not shared.
@@ -128,25 +128,25 @@ void Writer::putCatalog(const QString &catalog)
 void Writer::putText(const QString &text)
 {
     ++nextObject_;
-    putMark(New);
-    putClass(TextClass, TextClassVersion);
-    putSharedString(TextType);
+    putMark(newMark);
+    putClass(textClass, textClassVersion);
+    putSharedString(textType);
     putBytes(text.toUtf8());
-    putMark(EndOfObject);
+    putMark(endOfObject);
 }
 
 void Writer::putColor(const NSColor &color)
 {
     ++nextObject_;
-    putMark(New);
-    putClass(ColorClass, ColorClassVersion);
-    putSharedString(ColorSpaceType);
+    putMark(newMark);
+    putClass(colorClass, colorClassVersion);
+    putSharedString(colorSpaceType);
     putMark(qint8(color.colorSpace()));
     if (color.colorSpace() == NSColorSpace::Catalog)
         putNamedColor(color);
     else
         putComponents(color);
-    putMark(EndOfObject);
+    putMark(endOfObject);
 }
 
 void Writer::putComponents(const NSColor &color)
@@ -158,7 +158,7 @@ void Writer::putComponents(const NSColor &color)
 
 void Writer::putNamedColor(const NSColor &color)
 {
-    putSharedString(NamedColorType);
+    putSharedString(namedColorType);
     putCatalog(color.catalogName());
     putText(color.colorName());
     putColor(*color.fallback());
@@ -168,7 +168,7 @@ bool hasTooManyFallbacks(const NSColor &color)
 {
     int fallbacks = 0;
     for (NSColorRef fallback = color.fallback(); fallback; fallback = fallback->fallback()) {
-        if (++fallbacks > MaximumFallbacks)
+        if (++fallbacks > maximumFallbacks)
             return true;
     }
     return false;

@@ -5,9 +5,9 @@
 
 bool waitForSessionBus()
 {
-    constexpr int LongestWait = 5000; // milliseconds
+    constexpr int longestWait = 5000; // milliseconds
     // The bus handles our messages in order: with its answer to the last one it has taken the others.
     const QDBusMessage question = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
         QStringLiteral("/"), QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetId"));
-    return QDBusConnection::sessionBus().call(question, QDBus::Block, LongestWait).type() == QDBusMessage::ReplyMessage;
+    return QDBusConnection::sessionBus().call(question, QDBus::Block, longestWait).type() == QDBusMessage::ReplyMessage;
 }

@@ -14,14 +14,14 @@
 
 namespace {
 
-constexpr qsizetype LongestName = 200; // in bytes; the file's name has a suffix, and so have its side files
+constexpr qsizetype longestName = 200; // in bytes; the file's name has a suffix, and so have its side files
 
 bool canNameADomain(const QString &name)
 {
     const auto isAllowed = [](QChar character) {
         return character != u'/' && character.category() != QChar::Other_Control;
     };
-    return !name.isEmpty() && !name.startsWith(u'.') && QFile::encodeName(name).size() <= LongestName
+    return !name.isEmpty() && !name.startsWith(u'.') && QFile::encodeName(name).size() <= longestName
         && std::all_of(name.begin(), name.end(), isAllowed);
 }
 

@@ -8,9 +8,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto LongestWait = 2s;
+constexpr auto longestWait = 2s;
 // Short, since the holder releases the lock for moments only where it writes again and again.
-constexpr auto Pause = 200us;
+constexpr auto pauseBetweenTries = 200us;
 
 } // namespace
 
@@ -28,13 +28,13 @@ FileLock::FileLock(const QByteArray &path) : file_(FileDescriptor::opened(path, 
 /// 0 or the reason. The kernel's own waiting has no bound short of a signal, so we ask again and again.
 int FileLock::waitForLock(int descriptor)
 {
-    const auto end = systemCalls().monotonicTime() + LongestWait;
+    const auto end = systemCalls().monotonicTime() + longestWait;
     while (uninterrupted([&] { return systemCalls().flock(descriptor, LOCK_EX | LOCK_NB); }) != 0) {
         if (errno != EWOULDBLOCK)
             return errno;
         if (systemCalls().monotonicTime() >= end)
             return ETIMEDOUT;
-        systemCalls().sleep(Pause);
+        systemCalls().sleep(pauseBetweenTries);
     }
     return 0;
 }

@@ -17,12 +17,12 @@ QByteArray temporaryPathFor(const QByteArray &path)
 
 FileDescriptor createdFile(const QByteArray &path)
 {
-    constexpr int Flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW;
-    FileDescriptor file = FileDescriptor::opened(path, Flags, 0600);
+    constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW;
+    FileDescriptor file = FileDescriptor::opened(path, flags, 0600);
     if (file || errno != EEXIST)
         return file;
     systemCalls().unlink(path.constData());
-    return FileDescriptor::opened(path, Flags, 0600);
+    return FileDescriptor::opened(path, flags, 0600);
 }
 
 bool writeAll(int descriptor, const QByteArray &bytes)

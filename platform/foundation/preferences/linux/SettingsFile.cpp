@@ -13,8 +13,8 @@ using Content = StoredSettings::Content;
 
 namespace {
 
-constexpr int LongestLinkChain = 40;
-constexpr int MostFilesKeptAside = 1000;
+constexpr int longestLinkChain = 40;
+constexpr int mostFilesKeptAside = 1000;
 
 bool makeFolders(const QByteArray &folder)
 {
@@ -125,7 +125,7 @@ Content SettingsFile::moveAside()
 bool SettingsFile::moveAsideUnderLock(const QByteArray &path)
 {
     const QString damage = stored_.problem();
-    for (int number = 1; number <= MostFilesKeptAside; ++number) {
+    for (int number = 1; number <= mostFilesKeptAside; ++number) {
         const QByteArray suffix = '~' + QByteArray::number(number);
         if (systemCalls().renameWithoutReplacing(path.constData(), (path + suffix).constData()) == 0) {
             NSLog(QStringLiteral("lumaroo: settings: %1 does not parse (%2); kept as %1%3, starting empty")
@@ -167,7 +167,7 @@ QString SettingsFile::name() const
 QByteArray SettingsFile::target() const
 {
     QByteArray path = path_;
-    for (int followed = 0; followed < LongestLinkChain; ++followed) {
+    for (int followed = 0; followed < longestLinkChain; ++followed) {
         QByteArray link(PATH_MAX, '\0');
         const ssize_t size = systemCalls().readlink(path.constData(), link.data(), size_t(link.size()));
         if (size < 0)

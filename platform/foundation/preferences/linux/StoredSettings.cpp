@@ -13,10 +13,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr int ReadingFlags = O_RDONLY | O_NONBLOCK | O_NOCTTY; // a pipe at the path must not make us wait
+constexpr int readingFlags = O_RDONLY | O_NONBLOCK | O_NOCTTY; // a pipe at the path must not make us wait
 // File times advance in steps, of two seconds on some file systems; a change within the same step cannot be seen by
 // them.
-constexpr auto LongestTimeStep = 2500ms;
+constexpr auto longestTimeStep = 2500ms;
 
 std::chrono::nanoseconds durationOf(const timespec &time)
 {
@@ -33,18 +33,18 @@ bool isSameVersion(const struct stat &left, const struct stat &right)
 /// The whole file, or as much as shows that it is longer than a property list may be. False after a failure.
 bool readAll(int descriptor, qint64 expectedSize, QByteArray *bytes)
 {
-    constexpr qint64 Limit = PropertyListBounds::MaximumBytes + 1;
-    constexpr qint64 LaterPortion = 65536;
-    qint64 portion = std::min(expectedSize + 1, Limit);
-    while (bytes->size() < Limit) {
+    constexpr qint64 limit = PropertyListBounds::maximumBytes + 1;
+    constexpr qint64 laterPortion = 65536;
+    qint64 portion = std::min(expectedSize + 1, limit);
+    while (bytes->size() < limit) {
         const qint64 size = bytes->size();
-        bytes->resize(std::min(size + portion, Limit));
+        bytes->resize(std::min(size + portion, limit));
         const ssize_t count = uninterrupted(
             [&] { return systemCalls().pread(descriptor, bytes->data() + size, size_t(bytes->size() - size), size); });
         bytes->resize(size + std::max(ssize_t(0), count));
         if (count <= 0)
             return count == 0;
-        portion = LaterPortion;
+        portion = laterPortion;
     }
     return true;
 }
@@ -55,7 +55,7 @@ StoredSettings::Content StoredSettings::refresh()
 {
     if (isUnchanged())
         return content_;
-    FileDescriptor file = FileDescriptor::opened(path_, ReadingFlags);
+    FileDescriptor file = FileDescriptor::opened(path_, readingFlags);
     if (file)
         return readOpened(std::move(file));
     if (errno != ENOENT)
@@ -67,7 +67,7 @@ StoredSettings::Content StoredSettings::refresh()
 void StoredSettings::adopt(const QVariantMap &values, const QByteArray &bytes, const struct stat &written)
 {
     forgetFile();
-    FileDescriptor file = FileDescriptor::opened(path_, ReadingFlags);
+    FileDescriptor file = FileDescriptor::opened(path_, readingFlags);
     struct stat status;
     if (!file || systemCalls().fstat(file.get(), &status) != 0 || status.st_ino != written.st_ino
         || durationOf(status.st_mtim) != durationOf(written.st_mtim))
@@ -88,7 +88,7 @@ bool StoredSettings::isUnchanged()
 bool StoredSettings::isSettled() const
 {
     const auto changed = std::max(durationOf(status_.st_mtim), durationOf(status_.st_ctim));
-    return bytesReadAt_ - changed > LongestTimeStep;
+    return bytesReadAt_ - changed > longestTimeStep;
 }
 
 /// With one call, since every key that is read soon after a change asks: a byte more than expected is asked for, and

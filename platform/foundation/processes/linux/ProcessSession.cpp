@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int LongestAnswer = 5000; // milliseconds
+constexpr int longestAnswer = 5000; // milliseconds
 
 const QByteArray addressVariable("DBUS_SESSION_BUS_ADDRESS");
 const QByteArray folderVariable("XDG_RUNTIME_DIR");
@@ -40,6 +40,6 @@ bool ownsNameOnSessionBus(pid_t process, const QString &name)
     QDBusMessage question = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/"),
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetConnectionUnixProcessID"));
     question << name;
-    const QDBusMessage answer = QDBusConnection::sessionBus().call(question, QDBus::Block, LongestAnswer);
+    const QDBusMessage answer = QDBusConnection::sessionBus().call(question, QDBus::Block, longestAnswer);
     return answer.type() == QDBusMessage::ReplyMessage && answer.arguments().value(0).toUInt() == quint32(process);
 }

@@ -12,10 +12,10 @@ using namespace PropertyListBounds;
 
 namespace {
 
-constexpr int HeaderSize = 8;
-constexpr int TrailerSize = 32;
-constexpr qint64 MillisecondsTo2001 = 978'307'200'000;
-constexpr double LongestInterval = 1e12; // seconds; some 31,000 years, well within QDateTime
+constexpr int headerSize = 8;
+constexpr int trailerSize = 32;
+constexpr qint64 millisecondsTo2001 = 978'307'200'000;
+constexpr double longestInterval = 1e12; // seconds; some 31,000 years, well within QDateTime
 
 } // namespace
 
@@ -28,8 +28,8 @@ QVariant BinaryPropertyListReader::read()
 void BinaryPropertyListReader::readTrailer()
 {
     require(data_.startsWith("bplist0"), "unknown version", 6);
-    end_ = data_.size() - TrailerSize;
-    require(end_ > HeaderSize, "cut short", data_.size());
+    end_ = data_.size() - trailerSize;
+    require(end_ > headerSize, "cut short", data_.size());
     offsetSize_ = quint8(data_[end_ + 6]);
     referenceSize_ = quint8(data_[end_ + 7]);
     require(offsetSize_ >= 1 && offsetSize_ <= 8 && referenceSize_ >= 1 && referenceSize_ <= 8, "damaged trailer",
@@ -38,9 +38,9 @@ void BinaryPropertyListReader::readTrailer()
     const quint64 count = qFromBigEndian<quint64>(data_.constData() + end_ + 8);
     top_ = qFromBigEndian<quint64>(data_.constData() + end_ + 16);
     const quint64 table = qFromBigEndian<quint64>(data_.constData() + end_ + 24);
-    require(count <= quint64(MaximumObjects), "too many objects", end_ + 8);
+    require(count <= quint64(maximumObjects), "too many objects", end_ + 8);
     require(top_ < count, "no top object", end_ + 16);
-    require(table >= HeaderSize && table <= quint64(end_), "damaged trailer", end_ + 24);
+    require(table >= headerSize && table <= quint64(end_), "damaged trailer", end_ + 24);
     require(count * quint64(offsetSize_) <= quint64(end_) - table, "offset table cut short", qint64(table));
     offsetTable_ = qint64(table);
     objects_.resize(count);
@@ -52,14 +52,14 @@ const BinaryPropertyListReader::Object &BinaryPropertyListReader::object(quint64
     const qint64 entry = offsetTable_ + qint64(index) * offsetSize_;
     if (object.state == State::Unread) {
         const quint64 offset = number(entry, offsetSize_);
-        require(offset >= HeaderSize && offset < quint64(offsetTable_), "object outside of the file", entry);
+        require(offset >= headerSize && offset < quint64(offsetTable_), "object outside of the file", entry);
         object.state = State::BeingRead;
         object.extent.objects = 1;
         readObject(object, qint64(offset), depth);
         object.state = State::Read;
     }
     require(object.state == State::Read, "an object contains itself", entry);
-    require(depth + object.height <= MaximumDepth, "nested too deeply", entry);
+    require(depth + object.height <= maximumDepth, "nested too deeply", entry);
     require(object.extent.isWithinBounds(), "too many objects", entry);
     return object;
 }
@@ -93,7 +93,7 @@ const BinaryPropertyListReader::Object &BinaryPropertyListReader::member(
 
 void BinaryPropertyListReader::readArray(Object &object, qint64 offset, int depth)
 {
-    require(depth <= MaximumDepth, "nested too deeply", offset);
+    require(depth <= maximumDepth, "nested too deeply", offset);
     object.height = 1;
     const Span references = countedSpan(offset, referenceSize_);
     QVariantList list;
@@ -104,7 +104,7 @@ void BinaryPropertyListReader::readArray(Object &object, qint64 offset, int dept
 
 void BinaryPropertyListReader::readDictionary(Object &object, qint64 offset, int depth)
 {
-    require(depth <= MaximumDepth, "nested too deeply", offset);
+    require(depth <= maximumDepth, "nested too deeply", offset);
     object.height = 1;
     const Span references = countedSpan(offset, qint64(2) * referenceSize_);
     QVariantMap map;
@@ -169,8 +169,8 @@ QVariant BinaryPropertyListReader::readDate(qint64 offset) const
 {
     require(byteAt(offset) == 0x33, "date of an unknown size", offset);
     const double seconds = std::bit_cast<double>(number(offset + 1, 8));
-    require(std::abs(seconds) <= LongestInterval, "date out of range", offset);
-    return QDateTime::fromMSecsSinceEpoch(MillisecondsTo2001 + std::llround(seconds * 1000), Qt::UTC);
+    require(std::abs(seconds) <= longestInterval, "date out of range", offset);
+    return QDateTime::fromMSecsSinceEpoch(millisecondsTo2001 + std::llround(seconds * 1000), Qt::UTC);
 }
 
 QVariant BinaryPropertyListReader::readASCII(qint64 offset) const

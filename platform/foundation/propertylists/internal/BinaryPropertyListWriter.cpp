@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr qint64 MillisecondsTo2001 = 978'307'200'000;
+constexpr qint64 millisecondsTo2001 = 978'307'200'000;
 
 void appendNumber(QByteArray &bytes, quint64 number, int size)
 {
@@ -79,7 +79,7 @@ void appendData(QByteArray &bytes, const QByteArray &data)
 
 void appendDate(QByteArray &bytes, const QDateTime &date)
 {
-    const double seconds = double(date.toMSecsSinceEpoch() - MillisecondsTo2001) / 1000;
+    const double seconds = double(date.toMSecsSinceEpoch() - millisecondsTo2001) / 1000;
     appendBits(bytes, 0x33, std::bit_cast<quint64>(seconds), 8);
 }
 
@@ -111,12 +111,12 @@ class Writer
 public:
     QByteArray write(const QVariant &value)
     {
-        encodings_.reserve(UsualSize);
+        encodings_.reserve(usualSize);
         add(value);
         const int referenceSize = sizeOf(objects_.size());
         QByteArray file;
         file.reserve(encodings_.size() + qsizetype(references_.size()) * referenceSize
-            + qsizetype(objects_.size() * sizeof(quint64)) + SizeOfTheEnds);
+            + qsizetype(objects_.size() * sizeof(quint64)) + sizeOfTheEnds);
         file.append("bplist00");
         std::vector<qint64> offsets;
         offsets.reserve(objects_.size());
@@ -226,8 +226,8 @@ private:
         appendNumber(file, quint64(table), 8);
     }
 
-    static constexpr qsizetype UsualSize = 2048;
-    static constexpr qsizetype SizeOfTheEnds = 40;
+    static constexpr qsizetype usualSize = 2048;
+    static constexpr qsizetype sizeOfTheEnds = 40;
 
     QByteArray encodings_;
     std::vector<Object> objects_;
@@ -243,5 +243,5 @@ QByteArray writeBinaryPropertyList(const QVariant &value)
     if (!converted.isValid())
         return {};
     const QByteArray file = Writer().write(converted);
-    return file.size() <= PropertyListBounds::MaximumBytes ? file : QByteArray();
+    return file.size() <= PropertyListBounds::maximumBytes ? file : QByteArray();
 }

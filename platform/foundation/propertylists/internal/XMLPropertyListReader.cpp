@@ -45,7 +45,7 @@ QVariant XMLPropertyListReader::readValue(int depth)
 
 QVariantList XMLPropertyListReader::readArray(int depth)
 {
-    require(depth <= MaximumDepth, "nested too deeply");
+    require(depth <= maximumDepth, "nested too deeply");
     QVariantList list;
     while (nextElement())
         list.append(readValue(depth));
@@ -54,7 +54,7 @@ QVariantList XMLPropertyListReader::readArray(int depth)
 
 QVariantMap XMLPropertyListReader::readDictionary(int depth)
 {
-    require(depth <= MaximumDepth, "nested too deeply");
+    require(depth <= maximumDepth, "nested too deeply");
     QVariantMap map;
     while (nextElement()) {
         require(xml_.name() == u"key", "value without a key");
@@ -88,15 +88,15 @@ QVariant XMLPropertyListReader::readInteger()
 QVariant XMLPropertyListReader::readReal()
 {
     const QString text = readTrimmedText().toLower();
-    constexpr double Infinity = std::numeric_limits<double>::infinity();
+    constexpr double infinity = std::numeric_limits<double>::infinity();
     static const QHash<QString, double> named = {
         {QStringLiteral("nan"), std::numeric_limits<double>::quiet_NaN()},
-        {QStringLiteral("inf"), Infinity},
-        {QStringLiteral("infinity"), Infinity},
-        {QStringLiteral("+infinity"), Infinity},
-        {QStringLiteral("-infinity"), -Infinity},
-        {QStringLiteral("-inf"), -Infinity},
-        {QStringLiteral("+inf"), Infinity},
+        {QStringLiteral("inf"), infinity},
+        {QStringLiteral("infinity"), infinity},
+        {QStringLiteral("+infinity"), infinity},
+        {QStringLiteral("-infinity"), -infinity},
+        {QStringLiteral("-inf"), -infinity},
+        {QStringLiteral("+inf"), infinity},
     };
     if (const auto found = named.find(text); found != named.end())
         return *found;

@@ -11,7 +11,7 @@ struct Unwritable
 {
 };
 
-constexpr auto Header =
+constexpr auto header =
     "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
     "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" \"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
     "<plist version=\"1.0\">\n";
@@ -130,12 +130,12 @@ QByteArray writeXMLPropertyList(const QVariant &value)
     const QVariant converted = propertyListValue(value);
     if (!converted.isValid())
         return {};
-    QByteArray file(Header);
+    QByteArray file(header);
     try {
         append(file, converted, {});
     } catch (const Unwritable &) {
         return {};
     }
     file += "</plist>\n";
-    return file.size() <= PropertyListBounds::MaximumBytes ? file : QByteArray();
+    return file.size() <= PropertyListBounds::maximumBytes ? file : QByteArray();
 }
