@@ -12,9 +12,6 @@
 
 namespace {
 
-/// No key repeats this soon after it went down (in ms): desktops let their users choose 100 and more.
-constexpr quint64 shortestRepeatDelay = 50;
-
 /// While it lives, an event is the application's current one.
 class CurrentEvent
 {
@@ -134,10 +131,8 @@ bool TextFieldEvents::eventFilter(QObject *object, QEvent *event)
     auto *field = qobject_cast<QLineEdit *>(object); // none any more while it is being destroyed
     if (!field || !field->isReadOnly())
         return false;
-    if (event->type() == QEvent::KeyRelease) {
-        const auto *release = static_cast<QKeyEvent *>(event);
-        lastRelease_ = {release->nativeScanCode(), release->timestamp()};
-    }
+    if (event->type() == QEvent::KeyRelease)
+        repeats_.noteRelease(*static_cast<QKeyEvent *>(event));
     if (event->type() == QEvent::KeyPress)
         return handlePress(field, *static_cast<QKeyEvent *>(event));
     if (event->type() == QEvent::ShortcutOverride && takesKey(*static_cast<QKeyEvent *>(event))) {
@@ -150,23 +145,10 @@ bool TextFieldEvents::eventFilter(QObject *object, QEvent *event)
     return bringsText(*event) && staysUnchanged(field, {});
 }
 
-/// The server repeats a key by a release and a press of one and the same time, with nothing in between. The toolkit
-/// knows the press for a repeat only if both have arrived together, and takes for one what a program types that fast.
-bool TextFieldEvents::isRepeat(const QKeyEvent &press) const
-{
-    const bool isSinceLastPress = press.nativeScanCode() == lastPress_.scanCode;
-    if (isSinceLastPress && press.timestamp() - lastPress_.time < shortestRepeatDelay)
-        return false;
-    const bool isJustReleased = press.nativeScanCode() == lastRelease_.scanCode;
-    return press.isAutoRepeat() || (isJustReleased && press.timestamp() == lastRelease_.time);
-}
-
 bool TextFieldEvents::handlePress(QLineEdit *field, const QKeyEvent &event)
 {
-    const bool isRepeated = isRepeat(event);
-    if (!isRepeated)
-        lastPress_ = {event.nativeScanCode(), event.timestamp()};
-    lastRelease_ = {};
+    const bool isRepeated = repeats_.isRepeat(event);
+    repeats_.notePress(event);
     const std::optional<NSEvent> keyDown = keyDownEvent(event);
     if (!keyDown)
         return false;

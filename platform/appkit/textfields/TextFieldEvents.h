@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/appkit/KeyRepeats.h"
 #include "platform/appkit/NSEvent.h"
 #include "platform/appkit/textfields/FieldEditor.h"
 
@@ -35,16 +36,9 @@ private:
     void endEditing();
     FieldEditor *editorOf(QLineEdit *field);
     FieldEditor *askWindowDelegate(QLineEdit *field);
-    bool isRepeat(const QKeyEvent &press) const;
     bool handlePress(QLineEdit *field, const QKeyEvent &event);
     bool handleCommand(QLineEdit *field, const NSEvent &event);
     bool staysUnchanged(QLineEdit *field, const NSEvent &event);
-
-    struct KeyMove
-    {
-        quint32 scanCode = 0;
-        quint64 time = 0;
-    };
 
     QByteArray file_;
     NSControlTextEditingDelegate *textDelegate_;
@@ -52,6 +46,5 @@ private:
     QList<QPointer<QLineEdit>> fields_;
     QPointer<QLineEdit> edited_;
     QPointer<FieldEditor> editor_;
-    KeyMove lastPress_; ///< repeats left out
-    KeyMove lastRelease_;
+    KeyRepeats repeats_;
 };

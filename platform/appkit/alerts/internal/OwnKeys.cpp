@@ -18,10 +18,9 @@ bool OwnKeys::isOwnPress(const QKeyEvent &press)
 {
     if (down_.contains(press.nativeScanCode()))
         return true;
-    // The server repeats a key by a release and a press of one time; the toolkit does not always know that for a
-    // repeat.
-    const bool continues = press.nativeScanCode() == foreignScanCode_ && press.timestamp() == foreignReleaseTime_;
-    if (press.isAutoRepeat() || continues)
+    const bool isRepeat = repeats_.isRepeat(press);
+    repeats_.notePress(press);
+    if (isRepeat)
         return false;
     down_.insert(press.nativeScanCode());
     return true;
@@ -30,8 +29,7 @@ bool OwnKeys::isOwnPress(const QKeyEvent &press)
 bool OwnKeys::isOwnRelease(const QKeyEvent &release)
 {
     if (!down_.contains(release.nativeScanCode())) {
-        foreignScanCode_ = release.nativeScanCode();
-        foreignReleaseTime_ = release.timestamp();
+        repeats_.noteRelease(release);
         return false;
     }
     if (!release.isAutoRepeat())

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/appkit/KeyRepeats.h"
+
 #include <QObject>
 #include <QSet>
 
@@ -20,7 +22,5 @@ private:
     bool isOwnRelease(const QKeyEvent &release);
 
     QSet<quint32> down_; ///< scan codes
-    /// Of the last release that was none of ours, and when it was.
-    quint32 foreignScanCode_ = 0;
-    quint64 foreignReleaseTime_ = ~quint64(0);
+    KeyRepeats repeats_; ///< of keys that are none of ours
 };
