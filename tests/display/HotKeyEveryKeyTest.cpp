@@ -2,10 +2,15 @@
 
 #include "KeyCodes.h"
 #include "KeyPress.h"
+#include "Keyboard.h"
 #include "PaneOnHotKeyPage.h"
 
 #include "KTXConstants.h"
+#include "Wait.h"
+#include "platform/foundation/keyboard/KeyboardLayout.h"
 
+#include <QProcess>
+#include <QScopeGuard>
 #include <linux/input-event-codes.h>
 #include <map>
 #include <set>
@@ -73,6 +78,18 @@ QString labelOf(const KeyCodeRow &key)
     return signs.value(key.code, key.usCharacter.toUpper());
 }
 
+/// Has the keyboard number its keys in another way, and waits until a field knows.
+void useKeycodes(const QString &keycodes)
+{
+    ASSERT_EQ(QProcess::execute("setxkbmap", {"-keycodes", keycodes, "-layout", "us"}), 0);
+    const auto up = keycodeNamed(QStringLiteral("UP"));
+    ASSERT_TRUE(up);
+    EXPECT_TRUE(waitUntil([&] {
+        const auto layout = TISCopyCurrentKeyboardLayoutInputSource();
+        return LMVirtualKeyCodeOfKeycode(layout, quint32(*up)) == VirtualKeyCode(126);
+    })) << keycodes.toStdString();
+}
+
 struct SendableKey
 {
     int evdev;
@@ -119,6 +136,24 @@ TEST_F(HotKeyFieldGets, everyKeyThatAFieldTakesIsStoredUnderItsCode)
         EXPECT_EQ(focusedRow(), screenshot) << key.row.code;
         giveItNoKey(); // some codes are those of two keys
     }
+}
+
+TEST_F(HotKeyFieldGets, theKeyOfItsNameOnAKeyboardThatNumbersKeysOtherwise)
+{
+    const auto restore = qScopeGuard([] { useKeycodes("evdev"); });
+    useKeycodes("xfree86");
+    storeNoKeys();
+    showPage();
+    int moved = 0;
+    for (const KeyCodeRow &row : keyCodeRows()) {
+        const std::optional<int> keycode = keycodeNamed(row.xkbName);
+        if (!taken().count(row.code) || !keycode)
+            continue;
+        moved += *keycode != row.evdev + evdevToX11;
+        pressIn(Screenshot, *keycode - evdevToX11);
+        expectTaken(Screenshot, row.code, labelOf(row));
+    }
+    EXPECT_GE(moved, 6) << "the arrows, Enter and the divide sign of the keypad";
 }
 
 TEST_F(HotKeyFieldGets, everyOtherKeyLeavesTheFieldAsItWas)

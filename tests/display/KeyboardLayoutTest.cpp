@@ -5,7 +5,9 @@
 #include "Keyboard.h"
 #include "Wait.h"
 
+#include <QDir>
 #include <gtest/gtest.h>
+#include <sys/ioctl.h>
 
 namespace {
 
@@ -27,6 +29,31 @@ void expectNames(const std::vector<Key> &keys)
         EXPECT_TRUE(waitUntil([&key] { return nameOf(key.code) == key.name; }))
             << key.code << " is " << nameOf(key.code).toStdString() << ", not " << key.name;
     }
+}
+
+/// What this process has been sent and has not read, in bytes.
+qint64 unreadBytes()
+{
+    qint64 sum = 0;
+    for (const QString &name : QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::Files | QDir::System)) {
+        const QString target = QFile::symLinkTarget(QStringLiteral("/proc/self/fd/") + name);
+        int bytes = 0;
+        if (target.contains(QStringLiteral("socket:")) && ioctl(name.toInt(), FIONREAD, &bytes) == 0)
+            sum += bytes;
+    }
+    return sum;
+}
+
+/// The X server's memory, in KiB.
+qint64 memoryOfTheServer()
+{
+    for (const QString &process : QDir(QStringLiteral("/proc")).entryList({QStringLiteral("[0-9]*")}, QDir::Dirs)) {
+        QFile status(QStringLiteral("/proc/%1/status").arg(process));
+        const QByteArray text = status.open(QIODevice::ReadOnly) ? status.readAll() : QByteArray();
+        if (text.startsWith("Name:\tXvfb\n"))
+            return text.mid(text.indexOf("VmRSS:") + 6).simplified().split(' ').first().toLongLong();
+    }
+    return 0;
 }
 
 /// On the real X server, whose layout is left as it was.
@@ -179,4 +206,24 @@ TEST_F(KeyboardLayout, aHundredSwitchesInOneGoEndInTheLast)
         lockKeyboardGroup(turn % 2);
     lockKeyboardGroup(1);
     expectNames({{0, "Ф"}});
+}
+
+TEST_F(KeyboardLayout, switchedTwentyThousandTimesWhileNoKeyIsNamedPilesUpNothing)
+{
+    constexpr int rounds = 100, switches = 200, someKiB = 128;
+    setKeyboardLayout("us,ru");
+    lockKeyboardGroup(0);
+    expectNames({{0, "A"}});
+    const qint64 unread = unreadBytes(); // connections of the test that nobody reads
+    qint64 memory = 0;
+    for (int round = -10; round < rounds; ++round) {
+        if (round == 0)
+            memory = memoryOfTheServer();
+        switchKeyboardGroups(switches);
+        runPendingEvents();
+    }
+    EXPECT_TRUE(waitUntil([unread] { return unreadBytes() <= unread; })) << unreadBytes();
+    EXPECT_GT(memory, 0);
+    EXPECT_LT(memoryOfTheServer(), memory + someKiB);
+    expectNames({{0, "A"}});
 }

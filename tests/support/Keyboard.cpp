@@ -4,9 +4,8 @@
 #include "platform/foundation/system/X11.h"
 
 #include <QProcess>
-#include <cstdlib>
 #include <memory>
-#include <xcb/xcb.h>
+#include <xkbcommon/xkbcommon-x11.h>
 
 void setKeyboardLayout(const QString &layouts, const QString &variants, const QStringList &options)
 {
@@ -17,16 +16,49 @@ void setKeyboardLayout(const QString &layouts, const QString &variants, const QS
         qFatal("setxkbmap does not take %s", qPrintable(layouts));
 }
 
-void lockKeyboardGroup(int group)
+namespace {
+
+XConnection connectionToKeyboard()
 {
-    const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> connection(
-        xcb_connect(nullptr, nullptr), &xcb_disconnect);
+    XConnection connection = connectToXServer();
     const auto use = xcb_xkb_use_extension(connection.get(), XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION);
-    std::free(xcb_xkb_use_extension_reply(connection.get(), use, nullptr));
+    fromServer(xcb_xkb_use_extension_reply(connection.get(), use, nullptr));
+    return connection;
+}
+
+void lockGroup(const XConnection &connection, int group)
+{
     const auto lock =
         xcb_xkb_latch_lock_state_checked(connection.get(), XCB_XKB_ID_USE_CORE_KBD, 0, 0, 1, quint8(group), 0, 0, 0);
-    if (xcb_request_check(connection.get(), lock))
+    if (fromServer(xcb_request_check(connection.get(), lock)))
         qFatal("the server refuses group %d", group);
+}
+
+} // namespace
+
+void lockKeyboardGroup(int group)
+{
+    lockGroup(connectionToKeyboard(), group);
+}
+
+void switchKeyboardGroups(int times)
+{
+    const XConnection connection = connectionToKeyboard();
+    for (int turn = 1; turn <= times; ++turn)
+        lockGroup(connection, turn % 2);
+}
+
+std::optional<int> keycodeNamed(const QString &xkbName)
+{
+    const XConnection connection = connectionToKeyboard();
+    const std::unique_ptr<xkb_context, decltype(&xkb_context_unref)> context(
+        xkb_context_new(XKB_CONTEXT_NO_FLAGS), &xkb_context_unref);
+    const std::unique_ptr<xkb_keymap, decltype(&xkb_keymap_unref)> keymap(
+        xkb_x11_keymap_new_from_device(context.get(), connection.get(),
+            xkb_x11_get_core_keyboard_device_id(connection.get()), XKB_KEYMAP_COMPILE_NO_FLAGS),
+        &xkb_keymap_unref);
+    const xkb_keycode_t keycode = xkb_keymap_key_by_name(keymap.get(), xkbName.toLatin1().constData());
+    return keycode == XKB_KEYCODE_INVALID ? std::nullopt : std::optional(int(keycode));
 }
 
 QString translatedKey(VirtualKeyCode keyCode)

@@ -28,6 +28,11 @@ LM_FOUNDATION UCKeyboardLayoutRef TISGetInputSourceProperty(const TISInputSource
 /// The keyboard's physical type. This desktop tells none apart; always the same non-zero number (ANSI).
 LM_FOUNDATION quint8 LMGetKbdType();
 
+/// The virtual key code of a key by its keycode on the layout's keyboard, which is the toolkit's scan code. The key's
+/// name there decides; for a null layout the keycode does. Nothing for a key that has no code.
+LM_FOUNDATION std::optional<VirtualKeyCode> LMVirtualKeyCodeOfKeycode(
+    const UCKeyboardLayoutRef &layout, quint32 keycode);
+
 /// The characters a key gives in a layout: of a virtual key code, without modifiers whatever is held now.
 ///
 /// Writes at most `maxStringLength` UTF-16 units to `unicodeString` and their count to `*actualStringLength`; a dead

@@ -1,5 +1,7 @@
 #include "platform/appkit/textfields/internal/KeyBindings.h"
 
+#include "platform/foundation/keyboard/KeyboardLayout.h"
+
 #include <QKeyEvent>
 #include <algorithm>
 #include <array>
@@ -66,10 +68,9 @@ quint32 flagsOf(Qt::KeyboardModifiers modifiers)
 
 std::optional<NSEvent> keyDownEvent(const QKeyEvent &event)
 {
-    const quint32 scanCode = event.nativeScanCode();
-    if (scanCode < evdevToX11)
-        return std::nullopt;
-    const std::optional<VirtualKeyCode> keyCode = virtualKeyCodeForEvdev(scanCode - evdevToX11);
+    const UCKeyboardLayoutRef layout =
+        TISGetInputSourceProperty(TISCopyCurrentKeyboardLayoutInputSource(), kTISPropertyUnicodeKeyLayoutData);
+    const std::optional<VirtualKeyCode> keyCode = LMVirtualKeyCodeOfKeycode(layout, event.nativeScanCode());
     if (!keyCode)
         return std::nullopt;
     return NSEvent{NSEventType::KeyDown, *keyCode, flagsOf(event.modifiers())};

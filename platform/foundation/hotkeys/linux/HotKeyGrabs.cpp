@@ -10,24 +10,12 @@ namespace {
 
 constexpr quint32 hotKeyModifiers = cmdKey | shiftKey | optionKey | controlKey;
 
-/// Found by name, which holds for every kind of keyboard; by number only where that is nobody else's.
-std::optional<quint8> keycodeOf(const PhysicalKey &key, const KeyboardMapping &keyboard)
-{
-    const auto named = keyboard.keycodes.constFind(QByteArray(key.xkbName));
-    if (named != keyboard.keycodes.cend())
-        return *named;
-    const int keycode = key.evdev + evdevToX11;
-    if (keycode < keyboard.leastKeycode || keycode > keyboard.greatestKeycode || keyboard.isNamed(quint8(keycode)))
-        return std::nullopt;
-    return quint8(keycode);
-}
-
 std::set<quint8> keycodesOf(VirtualKeyCode keyCode, const KeyboardMapping &keyboard)
 {
     std::set<quint8> keycodes;
     for (const PhysicalKey &key : physicalKeysOf(keyCode)) {
-        if (const auto keycode = keycodeOf(key, keyboard))
-            keycodes.insert(*keycode);
+        if (const auto keycode = keyboard.keys.keycodeOf(key))
+            keycodes.insert(quint8(*keycode));
     }
     return keycodes;
 }

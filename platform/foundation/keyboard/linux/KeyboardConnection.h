@@ -13,12 +13,15 @@ public:
     /// The layout as it is now, or null once the server is gone.
     UCKeyboardLayoutRef currentLayout();
 
+    int fileDescriptor() const { return xcb_get_file_descriptor(connection_.get()); }
+    bool isLost() const;
+    /// Takes note of what the server has told since.
+    void handlePendingEvents();
+
 private:
     KeyboardConnection(XkbContext context, XConnection connection);
     bool start();
     bool selectEvents();
-    bool isLost() const;
-    void handlePendingEvents();
     void handle(const xcb_generic_event_t *event);
     bool readKeymap();
 

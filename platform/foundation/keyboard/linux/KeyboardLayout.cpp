@@ -3,6 +3,8 @@
 #include "platform/foundation/keyboard/linux/KeyboardConnection.h"
 #include "platform/foundation/system/NSLog.h"
 
+#include <QCoreApplication>
+#include <QSocketNotifier>
 #include <QStringView>
 #include <algorithm>
 
@@ -21,11 +23,15 @@ public:
 
 private:
     KeyboardLayoutSource();
+    void followServer();
+    void handleInput();
+    void handleLoss();
     UCKeyboardLayoutRef serverLayout();
     UCKeyboardLayoutRef defaultLayout();
 
     XkbContext context_ = ownedContext(xkb_context_new(XKB_CONTEXT_NO_FLAGS));
     std::unique_ptr<KeyboardConnection> connection_;
+    std::unique_ptr<QSocketNotifier> notifier_;
     UCKeyboardLayoutRef defaultLayout_;
 };
 
@@ -41,6 +47,34 @@ KeyboardLayoutSource::KeyboardLayoutSource()
         connection_ = KeyboardConnection::open(context_);
 }
 
+/// What the server tells is read as it comes, so that it does not pile up where no key is named for long. A process
+/// without a run loop does not last.
+void KeyboardLayoutSource::followServer()
+{
+    if (notifier_ || !QCoreApplication::instance())
+        return;
+    notifier_ = std::make_unique<QSocketNotifier>(connection_->fileDescriptor(), QSocketNotifier::Read);
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] { handleInput(); });
+}
+
+void KeyboardLayoutSource::handleInput()
+{
+    connection_->handlePendingEvents();
+    if (connection_->isLost())
+        handleLoss();
+}
+
+void KeyboardLayoutSource::handleLoss()
+{
+    NSLog(QStringLiteral("lumaroo: keyboard layout: the X server is gone; keys are named by the default layout"));
+    // Later: the notifier may be the one that calls.
+    if (notifier_) {
+        notifier_->setEnabled(false);
+        notifier_.release()->deleteLater();
+    }
+    connection_ = nullptr;
+}
+
 UCKeyboardLayoutRef KeyboardLayoutSource::currentLayout()
 {
     if (!context_)
@@ -53,11 +87,10 @@ UCKeyboardLayoutRef KeyboardLayoutSource::serverLayout()
 {
     if (!connection_)
         return nullptr;
+    followServer();
     UCKeyboardLayoutRef layout = connection_->currentLayout();
-    if (!layout) {
-        NSLog(QStringLiteral("lumaroo: keyboard layout: the X server is gone; keys are named by the default layout"));
-        connection_ = nullptr;
-    }
+    if (!layout)
+        handleLoss();
     return layout;
 }
 
@@ -92,6 +125,13 @@ UCKeyboardLayoutRef TISGetInputSourceProperty(const TISInputSourceRef &source, T
 quint8 LMGetKbdType()
 {
     return ansiKeyboard;
+}
+
+std::optional<VirtualKeyCode> LMVirtualKeyCodeOfKeycode(const UCKeyboardLayoutRef &layout, quint32 keycode)
+{
+    if (layout)
+        return layout->keys().virtualKeyCodeOf(keycode);
+    return keycode < evdevToX11 ? std::nullopt : virtualKeyCodeForEvdev(keycode - evdevToX11);
 }
 
 qint32 UCKeyTranslate(const UCKeyboardLayoutRef &layout, VirtualKeyCode virtualKeyCode, UCKeyAction keyAction,

@@ -19,10 +19,22 @@ bool dependsOnTheLayout(VirtualKeyCode code)
     return isTypingKey || code == yenCode || code == underscoreCode;
 }
 
-xkb_keycode_t keycodeOf(xkb_keymap *keymap, const VirtualKey &key)
+/// Of the keys that have virtual key codes also those that the keymap knows by an alias only.
+KeyboardKeys keysOf(xkb_keymap *keymap)
 {
-    const xkb_keycode_t named = xkb_keymap_key_by_name(keymap, key.xkbName);
-    return named != XKB_KEYCODE_INVALID ? named : key.evdev + evdevToX11;
+    KeyboardKeys keys{xkb_keymap_min_keycode(keymap), xkb_keymap_max_keycode(keymap), {}};
+    for (xkb_keycode_t keycode = keys.leastKeycode; keycode <= keys.greatestKeycode; ++keycode) {
+        if (const char *name = xkb_keymap_key_get_name(keymap, keycode))
+            keys.keycodes.insert(name, keycode);
+    }
+    for (const VirtualKey &key : virtualKeys()) {
+        for (const PhysicalKey &physical : physicalKeysOf(key.code)) {
+            const xkb_keycode_t keycode = xkb_keymap_key_by_name(keymap, physical.xkbName);
+            if (keycode != XKB_KEYCODE_INVALID)
+                keys.keycodes.insert(physical.xkbName, keycode);
+        }
+    }
+    return keys;
 }
 
 } // namespace
@@ -55,10 +67,22 @@ char32_t KeyboardLayoutData::character(VirtualKeyCode virtualKeyCode) const
     if (!key || !unmodified_)
         return 0;
     if (virtualKeyCode == keypadDecimalCode)
-        return numLockCharacter(keycodeOf(keymap_.get(), *key));
+        return numLockCharacter(keycodeOf(*key));
     if (dependsOnTheLayout(virtualKeyCode))
-        return typedCharacter(keycodeOf(keymap_.get(), *key));
+        return typedCharacter(keycodeOf(*key));
     return key->character;
+}
+
+const KeyboardKeys &KeyboardLayoutData::keys() const
+{
+    if (!keys_)
+        keys_ = keysOf(keymap_.get());
+    return *keys_;
+}
+
+xkb_keycode_t KeyboardLayoutData::keycodeOf(const VirtualKey &key) const
+{
+    return keys().keycodeOf({key.evdev, key.xkbName}).value_or(XKB_KEYCODE_INVALID);
 }
 
 char32_t KeyboardLayoutData::typedCharacter(xkb_keycode_t key) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/foundation/keyboard/KeyboardKeys.h"
 #include "platform/foundation/keyboard/KeyboardLayout.h"
 
 #include <xkbcommon/xkbcommon.h>
@@ -22,10 +23,14 @@ public:
     /// The character of a key without modifiers; 0 for a dead key, a modifier and an unknown code.
     char32_t character(VirtualKeyCode virtualKeyCode) const;
 
+    const KeyboardKeys &keys() const;
+
 private:
+    xkb_keycode_t keycodeOf(const VirtualKey &key) const;
     char32_t typedCharacter(xkb_keycode_t key) const;
     char32_t numLockCharacter(xkb_keycode_t key) const;
 
     XkbKeymap keymap_;
     XkbState unmodified_;
+    mutable std::optional<KeyboardKeys> keys_; ///< read when they are first asked for
 };

@@ -65,7 +65,7 @@ QByteArray keyName(const char *characters, size_t most)
     return {characters, qsizetype(qstrnlen(characters, most))};
 }
 
-void readKeyNames(KeyboardMapping &mapping, const xcb_xkb_get_names_reply_t *reply)
+void readKeyNames(KeyboardKeys &keys, const xcb_xkb_get_names_reply_t *reply)
 {
     xcb_xkb_get_names_value_list_t names{};
     xcb_xkb_get_names_value_list_unpack(xcb_xkb_get_names_value_list(reply), reply->nTypes, reply->indicators,
@@ -74,40 +74,35 @@ void readKeyNames(KeyboardMapping &mapping, const xcb_xkb_get_names_reply_t *rep
     for (int key = 0; key < reply->nKeys; ++key) {
         const QByteArray name = keyName(names.keyNames[key].name, sizeof names.keyNames[key].name);
         if (!name.isEmpty())
-            mapping.keycodes.insert(name, quint8(reply->firstKey + key));
+            keys.keycodes.insert(name, quint32(reply->firstKey + key));
     }
     for (int alias = 0; alias < reply->nKeyAliases; ++alias) {
         const xcb_xkb_key_alias_t &pair = names.keyAliases[alias];
         // A copy: what a hash table holds moves when something is added to it.
-        const quint8 keycode = mapping.keycodes.value(keyName(pair.real, sizeof pair.real));
+        const quint32 keycode = keys.keycodes.value(keyName(pair.real, sizeof pair.real));
         if (keycode != 0)
-            mapping.keycodes.insert(keyName(pair.alias, sizeof pair.alias), keycode);
+            keys.keycodes.insert(keyName(pair.alias, sizeof pair.alias), keycode);
     }
 }
 
 } // namespace
 
-bool KeyboardMapping::isNamed(quint8 keycode) const
-{
-    return std::find(keycodes.cbegin(), keycodes.cend(), keycode) != keycodes.cend();
-}
-
 std::optional<KeyboardMapping> readKeyboardMapping(xcb_connection_t *connection)
 {
     const xcb_setup_t *setup = xcb_get_setup(connection);
     KeyboardMapping mapping;
-    mapping.leastKeycode = setup->min_keycode;
-    mapping.greatestKeycode = setup->max_keycode;
+    mapping.keys.leastKeycode = setup->min_keycode;
+    mapping.keys.greatestKeycode = setup->max_keycode;
     const auto names = xcb_xkb_get_names(connection, XCB_XKB_ID_USE_CORE_KBD, keyNames);
     const auto modifiers = xcb_get_modifier_mapping(connection);
-    const auto keyboard = xcb_get_keyboard_mapping(
-        connection, mapping.leastKeycode, quint8(mapping.greatestKeycode - mapping.leastKeycode + 1));
+    const auto keyboard =
+        xcb_get_keyboard_mapping(connection, setup->min_keycode, quint8(setup->max_keycode - setup->min_keycode + 1));
     const auto nameReply = fromServer(xcb_xkb_get_names_reply(connection, names, nullptr));
     const ModifierKeys keys{fromServer(xcb_get_modifier_mapping_reply(connection, modifiers, nullptr)),
-        fromServer(xcb_get_keyboard_mapping_reply(connection, keyboard, nullptr)), mapping.leastKeycode};
+        fromServer(xcb_get_keyboard_mapping_reply(connection, keyboard, nullptr)), setup->min_keycode};
     if (!nameReply || !keys.modifiers || !keys.keyboard)
         return std::nullopt;
     readModifiers(mapping, keys);
-    readKeyNames(mapping, nameReply.get());
+    readKeyNames(mapping.keys, nameReply.get());
     return mapping;
 }
