@@ -5,6 +5,7 @@
 #include "platform/foundation/processes/ProcessSerialNumber.h"
 
 #include <QString>
+#include <QUrl>
 
 inline constexpr OSStatus kLSUnknownErr = -10810; ///< the system could not start another process
 inline constexpr OSStatus kLSApplicationNotFoundErr =
@@ -40,3 +41,11 @@ struct LSApplicationParameters
 /// open file of this process. On failure the serial number is left alone, and the result is one of the statuses above,
 /// or paramErr for a version other than 0 or no application.
 LM_FOUNDATION OSStatus LSOpenApplication(const LSApplicationParameters *parameters, ProcessSerialNumber *process);
+
+/// Opens an address in the application that the user's desktop has for it; for a web page that is the browser.
+///
+/// Asks the desktop's own opener (`xdg-open`), and the portal of the session bus where there is none: 5 s at most.
+/// Returns once that has taken the address; what becomes of it, nobody tells. Nothing of what this process's
+/// environment holds for its own tasks reaches the application. Returns paramErr for an address without a scheme, and
+/// kLSApplicationNotFoundErr, with one logged line, where nobody takes it.
+LM_FOUNDATION OSStatus LSOpenCFURLRef(const QUrl &url);

@@ -6,6 +6,9 @@
 #include <QStringList>
 #include <memory>
 
+/// The environment variable that names this process's program to the tasks it launches.
+inline constexpr char hostExecutableVariable[] = "LUMAROO_HOST_EXECUTABLE";
+
 /// A pipe. Once a task has been launched with it, its write end stays with this process, and with no other, until this
 /// process ends, also after the object is gone: whoever reads from the other end sees the end of file when this
 /// process's life ends, however it ends.

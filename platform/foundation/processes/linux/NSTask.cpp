@@ -33,7 +33,7 @@ void NSTask::launch()
     ProgramStart start{QFile::encodeName(launchPath_), {}, {}, -1};
     for (const QString &argument : arguments_)
         start.arguments += QFile::encodeName(argument);
-    start.environment = {"LUMAROO_HOST_EXECUTABLE=" + QFile::encodeName(runningExecutablePath())};
+    start.environment = {QByteArray(hostExecutableVariable) + '=' + QFile::encodeName(runningExecutablePath())};
     if (standardInput_)
         start.standardInput = standardInput_->fileDescriptorForReading();
     const int error = startProgram(start).error;

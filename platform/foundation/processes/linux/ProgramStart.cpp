@@ -13,22 +13,22 @@
 
 namespace {
 
-bool replaces(const QByteArray &entry, const QByteArray &old)
+QByteArray nameOf(const QByteArray &entry)
 {
-    const qsizetype nameLength = entry.indexOf('=') + 1;
-    return old.left(nameLength) == entry.left(nameLength);
+    return entry.left(entry.indexOf('='));
 }
 
-QByteArrayList environmentWith(const QByteArrayList &entries)
+QByteArrayList environmentOf(const ProgramStart &start)
 {
+    QByteArrayList leftOut = start.hiddenVariables;
+    for (const QByteArray &entry : start.environment)
+        leftOut += nameOf(entry);
     QByteArrayList environment;
     for (char **old = environ; old && *old; ++old) {
-        const bool isReplaced =
-            std::any_of(entries.begin(), entries.end(), [&](const QByteArray &entry) { return replaces(entry, *old); });
-        if (!isReplaced)
+        if (!leftOut.contains(nameOf(*old)))
             environment += *old;
     }
-    return environment + entries;
+    return environment + start.environment;
 }
 
 std::vector<char *> pointersTo(QByteArrayList &texts)
@@ -50,9 +50,8 @@ FileDescriptor aboveStandardStreams(int descriptor)
 struct PreparedStart
 {
     explicit PreparedStart(const ProgramStart &start)
-        : argumentTexts(QByteArrayList{start.executable} + start.arguments),
-          environmentTexts(environmentWith(start.environment)), arguments(pointersTo(argumentTexts)),
-          environment(pointersTo(environmentTexts)),
+        : argumentTexts(QByteArrayList{start.executable} + start.arguments), environmentTexts(environmentOf(start)),
+          arguments(pointersTo(argumentTexts)), environment(pointersTo(environmentTexts)),
           nothing(aboveStandardStreams(FileDescriptor::opened("/dev/null", O_RDWR).get()))
     {
         if (start.standardInput >= 0)

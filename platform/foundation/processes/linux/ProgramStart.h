@@ -11,6 +11,7 @@ struct ProgramStart
     QByteArrayList arguments; ///< without the program's own name
     QByteArrayList environment; ///< entries "NAME=value", added to this process's or replacing its
     int standardInput = -1; ///< a descriptor; without one the input is empty
+    QByteArrayList hiddenVariables = {}; ///< names of this process's variables that the program does not get
 };
 
 struct StartedProgram
