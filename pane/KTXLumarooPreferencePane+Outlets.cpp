@@ -8,6 +8,7 @@ InterfaceOwner KTXLumarooPreferencePane::interfaceOwner()
     owner.tabViewDelegate = this;
     owner.textDelegate = this;
     owner.windowDelegate = this;
+    owner.frameLoadDelegate = this;
     return owner;
 }
 

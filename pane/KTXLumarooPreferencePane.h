@@ -5,6 +5,7 @@
 #include "platform/appkit/interface/NSPreferencePane.h"
 #include "platform/appkit/textfields/NSControlTextEditingDelegate.h"
 #include "platform/appkit/textfields/NSWindowDelegate.h"
+#include "platform/appkit/web/WebFrameLoadDelegate.h"
 #include "platform/foundation/keyboard/VirtualKeyCodes.h"
 #include "platform/foundation/notifications/NSNotification.h"
 #include "platform/foundation/processes/ProcessSerialNumber.h"
@@ -21,6 +22,7 @@ class KTXLumarooPreferencePane : public NSPreferencePane,
                                  public NSTabViewDelegate,
                                  public NSControlTextEditingDelegate,
                                  public NSWindowDelegate,
+                                 public WebFrameLoadDelegate,
                                  private PaneOutlets
 {
     Q_OBJECT
@@ -84,7 +86,7 @@ public:
     void launchURL(const QUrl &url);
     void visit(QObject *sender);
     void feedback(QObject *sender);
-    void webViewDidStartProvisionalLoadForFrame(QObject *webView, QObject *frame);
+    void webViewDidStartProvisionalLoadForFrame(WebView *webView, WebFrame *frame) override;
 
 protected: // privateMethods
     InterfaceOwner interfaceOwner() override;

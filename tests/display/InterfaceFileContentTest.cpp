@@ -68,7 +68,7 @@ struct ExpectedOutlet
 };
 
 const ExpectedOutlet outlets[] = {
-    {"helpFileView", "QTextEdit"},
+    {"helpFileView", "WebView"},
     {"modifiersField", "QLabel"},
     {"modifierCheckboxMatrix", "NSMatrix"},
     {"persistentModeMatrix", "NSMatrix"},
@@ -79,7 +79,7 @@ const ExpectedOutlet outlets[] = {
     {"doubleTapCheckBox", "QAbstractButton"},
     {"appNameField", "QLabel"},
     {"versionField", "QLabel"},
-    {"creditsField", "QTextEdit"},
+    {"creditsField", "WebView"},
     {"toggleStateButton", "QAbstractButton"},
     {"enableHorizontalWrapButton", "QAbstractButton"},
     {"enableVerticalWrapButton", "QAbstractButton"},

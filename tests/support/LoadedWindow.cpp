@@ -28,7 +28,8 @@ void copyResources(const TestBundle &bundle)
 {
     const QString inside = QStringLiteral("Contents/Resources/");
     const QString built = qEnvironmentVariable("LUMAROO_BUILD") + QStringLiteral("/Lumaroo.prefPane/") + inside;
-    for (const QString &file : {nibName + QStringLiteral(".ui"), QStringLiteral("de.lproj/LumarooPref.qm")})
+    for (const QString &file : {nibName + QStringLiteral(".ui"), QStringLiteral("de.lproj/LumarooPref.qm"),
+             QStringLiteral("Pages/AtAGlance.html"), QStringLiteral("de.lproj/Pages/AtAGlance.html")})
         bundle.writeFile(inside + file, contentOf(built + file));
 }
 
@@ -53,6 +54,7 @@ LoadedWindow::LoadedWindow(const QString &language) : bundle_(QStringLiteral("Wi
     owner.className = QStringLiteral("LoadedWindow");
     owner.tabViewDelegate = this;
     owner.textDelegate = this;
+    owner.frameLoadDelegate = this;
     for (const QString &selector : actionsOfThePane())
         owner.actions += {selector, [this, selector](QObject *sender) {
                               performedActions_ += PerformedAction{selector, sender};
@@ -98,3 +100,5 @@ bool LoadedWindow::controlTextViewDoCommandBySelector(QWidget *, FieldEditor *, 
 {
     return false;
 }
+
+void LoadedWindow::webViewDidStartProvisionalLoadForFrame(WebView *, WebFrame *) { }

@@ -3,6 +3,7 @@
 #include "TestBundle.h"
 #include "platform/appkit/controls/NSTabViewDelegate.h"
 #include "platform/appkit/textfields/NSControlTextEditingDelegate.h"
+#include "platform/appkit/web/WebFrameLoadDelegate.h"
 
 #include <QObject>
 #include <QPointer>
@@ -12,7 +13,7 @@
 
 /// The pane's window as its interface file makes it, in one language, with an owner that notes which actions are
 /// performed.
-class LoadedWindow : public NSTabViewDelegate, public NSControlTextEditingDelegate
+class LoadedWindow : public NSTabViewDelegate, public NSControlTextEditingDelegate, public WebFrameLoadDelegate
 {
 public:
     explicit LoadedWindow(const QString &language = QStringLiteral("en"));
@@ -43,6 +44,7 @@ public:
     void tabViewDidSelectTabViewItem(QTabWidget *tabView, QWidget *tabViewItem) override;
     bool controlTextShouldBeginEditing(QWidget *control, FieldEditor *fieldEditor) override;
     bool controlTextViewDoCommandBySelector(QWidget *control, FieldEditor *textView, const QString &command) override;
+    void webViewDidStartProvisionalLoadForFrame(WebView *webView, WebFrame *frame) override;
 
 private:
     TestBundle bundle_;

@@ -86,7 +86,8 @@ TEST_F(InstalledFiles, thePaneHasItsCodeAndEveryResource)
             {contents + "Info.plist", contents + "Linux/Lumaroo", contents + "Resources/LumarooPref.ui",
                 contents + "Resources/Lumaroo.icns", contents + "Resources/Credits.rtfd/TXT.rtf",
                 contents + "Resources/Credits.rtfd/Lumaroo.png", contents + "Resources/de.lproj/InfoPlist.qm",
-                contents + "Resources/de.lproj/LumarooPref.qm", contents + "Resources/de.lproj/Localizable.qm"}));
+                contents + "Resources/de.lproj/LumarooPref.qm", contents + "Resources/de.lproj/Localizable.qm",
+                contents + "Resources/Pages/AtAGlance.html", contents + "Resources/de.lproj/Pages/AtAGlance.html"}));
 }
 
 TEST_F(InstalledFiles, thePaneHasTheAgentAndTheLibraryItRunsWith)
@@ -97,6 +98,13 @@ TEST_F(InstalledFiles, thePaneHasTheAgentAndTheLibraryItRunsWith)
         testing::IsSupersetOf({agent + "Info.plist", agent + "Linux/LumarooAgent", contents + "Resources/launcher",
             contents + "Frameworks/liblumaroo-foundation.so.1",
             QString("share/dbus-1/interfaces/com.quorvane.LumarooAgent.xml")}));
+}
+
+TEST_F(InstalledFiles, whatAsksForWebPagesLiesBesideTheLibraryThatLoadsIt)
+{
+    EXPECT_THAT(files(),
+        testing::IsSupersetOf(
+            {QString("lib/lumaroo/liblumaroo-appkit.so.1"), QString("lib/lumaroo/liblumaroo-network.so.1")}));
 }
 
 TEST_F(InstalledFiles, theAgentRunsFromWhereverThePrefixIsMovedTo)

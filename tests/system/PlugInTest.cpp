@@ -28,6 +28,10 @@ TEST(PlugIn, theBundlesExecutableYieldsAPaneThatLoadsItsView)
     const std::unique_ptr<NSPreferencePane> pane(principalClass->alloc());
     EXPECT_TRUE(pane->initWithBundle(bundle));
     EXPECT_NE(pane->loadMainView(), nullptr);
+    // Most users never ask for a web page, and its library costs every start.
+    QFile maps(QStringLiteral("/proc/self/maps"));
+    ASSERT_TRUE(maps.open(QIODevice::ReadOnly));
+    EXPECT_FALSE(maps.readAll().contains("libQt6Network"));
 }
 
 TEST(PlugIn, itSharesThePlatformLibrariesWithItsHost)

@@ -1,6 +1,7 @@
 #include "platform/appkit/richtext/NSAttributedString.h"
 #include "platform/foundation/bundles/NSBundle.h"
 
+#include <QDir>
 #include <QIcon>
 #include <QImageReader>
 #include <QTextBlock>
@@ -30,6 +31,30 @@ protected:
 };
 
 INSTANTIATE_TEST_SUITE_P(PaneResources, CreditsOfALanguage, testing::Values("", "de.lproj/"));
+
+class PagesOfALanguage : public testing::TestWithParam<const char *>
+{
+protected:
+    QStringList names() const { return folder.entryList({"*.html"}, QDir::Files); }
+    QString page(const QString &name) const
+    {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return QString::fromUtf8(file.readAll());
+    }
+    QList<QUrl> links(const QString &name) const
+    {
+        static const QRegularExpression link("(?:href|src)=\"([^\"]*)\"");
+        QList<QUrl> found;
+        for (const QRegularExpressionMatch &match : link.globalMatch(page(name)))
+            found += QUrl(match.captured(1));
+        return found;
+    }
+
+    const QDir folder{builtPath() + "/Contents/Resources/" + GetParam() + "Pages"};
+};
+
+INSTANTIATE_TEST_SUITE_P(PaneResources, PagesOfALanguage, testing::Values("", "de.lproj/"));
 
 } // namespace
 
@@ -91,4 +116,29 @@ TEST(PaneResources, theIconHasAPictureForEachCommonSize)
     }
     std::sort(widths.begin(), widths.end());
     EXPECT_EQ(widths, QList<int>({16, 32, 64, 128, 256, 512}));
+}
+
+TEST_P(PagesOfALanguage, areThereInEachLanguage)
+{
+    EXPECT_EQ(names(), QStringList({"AtAGlance.html", "FirstSteps.html"}));
+}
+
+TEST_P(PagesOfALanguage, leadToEachOtherAndToTheProductPageOnly)
+{
+    const QUrl productPage(info().value("KTXProductPage").toString());
+    for (const QString &name : names()) {
+        EXPECT_FALSE(links(name).isEmpty());
+        for (const QUrl &link : links(name))
+            EXPECT_TRUE(link == productPage || folder.exists(link.toString())) << link.toString().toStdString();
+    }
+    EXPECT_TRUE(links("AtAGlance.html").contains(productPage));
+}
+
+TEST_P(PagesOfALanguage, sayInWhichEncodingTheyAreAndLeaveNoPlaceholder)
+{
+    for (const QString &name : names()) {
+        EXPECT_TRUE(page(name).contains("<meta charset=\"utf-8\">"));
+        EXPECT_FALSE(page(name).contains('@'));
+        EXPECT_FALSE(page(name).contains(QChar::ReplacementCharacter));
+    }
 }

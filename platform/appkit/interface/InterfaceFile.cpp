@@ -31,6 +31,6 @@ QWidget *loadInterfaceFile(const NSBundle *bundle, const QString &nibName, const
         return refuse(file.fileName(), text.error);
     QWidget *root = InterfaceLoader::loadInterface(text.xml, name, bundle->resourcePath(), text.baseClasses);
     if (root)
-        InterfaceConnections(name, owner).connectAll(root);
+        InterfaceConnections(name, bundle, owner).connectAll(root);
     return root;
 }

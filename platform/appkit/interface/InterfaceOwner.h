@@ -9,6 +9,7 @@
 class NSTabViewDelegate;
 class NSControlTextEditingDelegate;
 class NSWindowDelegate;
+class WebFrameLoadDelegate;
 
 /// An outlet by its name, and how an object of the interface file is put into it; answers false for an object of the
 /// wrong type.
@@ -35,6 +36,7 @@ struct InterfaceOwner
     NSTabViewDelegate *tabViewDelegate = nullptr;
     NSControlTextEditingDelegate *textDelegate = nullptr;
     NSWindowDelegate *windowDelegate = nullptr;
+    WebFrameLoadDelegate *frameLoadDelegate = nullptr;
 };
 
 template <typename T>

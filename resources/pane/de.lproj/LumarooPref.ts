@@ -416,10 +416,6 @@
         <translation>Hilfe</translation>
     </message>
     <message>
-        <source>&lt;h3&gt;Lumaroo at a glance&lt;/h3&gt;&lt;p&gt;Lumaroo lets you choose and act on windows with the keyboard.&lt;/p&gt;&lt;ul&gt;&lt;li&gt;&lt;b&gt;General&lt;/b&gt; turns Lumaroo on and off and starts the tutorial.&lt;/li&gt;&lt;li&gt;&lt;b&gt;Keys&lt;/b&gt; holds the modifier keys, the five movement keys and the six action keys.&lt;/li&gt;&lt;li&gt;&lt;b&gt;Behavior&lt;/b&gt; sets the order of windows, key repeat and the look of the overlay.&lt;/li&gt;&lt;li&gt;&lt;b&gt;Updates&lt;/b&gt; looks for new versions.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;The button with the question mark on each page, or F1, opens the help for that page.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Lumaroo auf einen Blick&lt;/h3&gt;&lt;p&gt;Mit Lumaroo wählen und bedienen Sie Fenster über die Tastatur.&lt;/p&gt;&lt;ul&gt;&lt;li&gt;&lt;b&gt;Allgemein&lt;/b&gt; schaltet Lumaroo ein und aus und startet die Einführung.&lt;/li&gt;&lt;li&gt;&lt;b&gt;Tasten&lt;/b&gt; enthält die Zusatztasten, die fünf Bewegungstasten und die sechs Aktionstasten.&lt;/li&gt;&lt;li&gt;&lt;b&gt;Verhalten&lt;/b&gt; bestimmt die Reihenfolge der Fenster, die Tastenwiederholung und das Aussehen des Overlays.&lt;/li&gt;&lt;li&gt;&lt;b&gt;Aktualisierung&lt;/b&gt; sucht nach neuen Versionen.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Die Schaltfläche mit dem Fragezeichen auf jeder Seite, oder F1, öffnet die Hilfe zu dieser Seite.&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>Visit the &amp;web page</source>
         <translation>&amp;Webseite besuchen</translation>
     </message>

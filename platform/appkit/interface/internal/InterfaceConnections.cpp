@@ -6,7 +6,10 @@
 #include "platform/appkit/controls/NSTabViewDelegate.h"
 #include "platform/appkit/controls/PageTurning.h"
 #include "platform/appkit/textfields/TextFieldEvents.h"
+#include "platform/appkit/web/WebFrameLoadDelegate.h"
+#include "platform/appkit/web/WebView.h"
 #include "platform/foundation/Boundary.h"
+#include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/system/NSLog.h"
 
 #include <QAction>
@@ -40,6 +43,9 @@ void InterfaceConnections::log(const QObject *object, const QString &what) const
 
 void InterfaceConnections::connectAll(QWidget *root)
 {
+    // First of all: a page that is read brings and removes objects of the view's own.
+    for (WebView *webView : root->findChildren<WebView *>())
+        showMainFrameFile(webView);
     const QList<QObject *> objects = objectsFrom(root);
     connectOutlets(objects);
     for (QObject *object : objects)
@@ -141,6 +147,8 @@ void InterfaceConnections::connectDelegate(QObject *object, const QString &deleg
         connectTabView(tabView);
     else if (auto *field = qobject_cast<QLineEdit *>(object))
         connectTextField(field);
+    else if (auto *webView = qobject_cast<WebView *>(object))
+        connectWebView(webView);
     // Windows ask their delegate through the text fields.
     else if (!view || !view->isWindow())
         log(object, QStringLiteral("a %1 has no delegate").arg(QLatin1StringView(object->metaObject()->className())));
@@ -169,4 +177,26 @@ void InterfaceConnections::connectTabView(QTabWidget *tabView)
             runAtBoundary(place.constData(), [&] { delegate->tabViewDidSelectTabViewItem(tabView, page); });
     };
     QObject::connect(tabView, &QTabWidget::currentChanged, owner_.object ? owner_.object : tabView, tell);
+}
+
+void InterfaceConnections::connectWebView(WebView *webView)
+{
+    WebFrameLoadDelegate *delegate = owner_.frameLoadDelegate;
+    if (!delegate)
+        return log(webView, QStringLiteral("%1 is no delegate of a web view").arg(owner_.className));
+    const QByteArray place = QStringLiteral("%1: webView:didStartProvisionalLoadForFrame:").arg(file_).toUtf8();
+    const auto tell = [place, webView, delegate](WebFrame *frame) {
+        runAtBoundary(place.constData(), [&] { delegate->webViewDidStartProvisionalLoadForFrame(webView, frame); });
+    };
+    QObject::connect(webView, &WebView::didStartProvisionalLoadForFrame, owner_.object ? owner_.object : webView, tell);
+}
+
+void InterfaceConnections::showMainFrameFile(WebView *webView)
+{
+    const QString file = added(webView, "mainFrameFile").toString();
+    const QString path = bundle_->pathForResourceOfType(file, {});
+    if (!path.isEmpty())
+        webView->setSource(QUrl::fromLocalFile(path));
+    else if (!file.isEmpty())
+        log(webView, QStringLiteral("%1 is not in the bundle").arg(file));
 }

@@ -6,6 +6,7 @@
 #include "platform/appkit/controls/NSMatrix.h"
 #include "platform/appkit/controls/NSSwitch.h"
 #include "platform/appkit/controls/StyledLabel.h"
+#include "platform/appkit/web/WebView.h"
 #include "platform/foundation/system/NSLog.h"
 
 #include <QBuffer>
@@ -31,6 +32,7 @@ WidgetMaker ownClass(const QString &className)
         {QStringLiteral("ConflictMarker"), &make<ConflictMarker>},
         {QStringLiteral("NSSwitch"), &make<NSSwitch>},
         {QStringLiteral("StyledLabel"), &make<StyledLabel>},
+        {QStringLiteral("WebView"), &make<WebView>},
     };
     return makers.value(className);
 }

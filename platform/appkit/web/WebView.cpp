@@ -1,0 +1,58 @@
+#include "platform/appkit/web/WebView.h"
+
+#include "platform/foundation/system/NSLog.h"
+
+#include <QEvent>
+#include <QFileInfo>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+
+namespace {
+
+bool canBeShown(const QUrl &address)
+{
+    const QFileInfo file(address.toLocalFile());
+    return address.isLocalFile() && file.isFile() && file.isReadable();
+}
+
+} // namespace
+
+WebView::WebView(QWidget *parent) : QTextBrowser(parent) { }
+
+void WebView::doSetSource(const QUrl &address, QTextDocument::ResourceType type)
+{
+    if (isRedrawn_)
+        return QTextBrowser::doSetSource(address, type);
+    mainFrame_.provisional_.emplace(NSMutableURLRequest::requestWithURL(address));
+    Q_EMIT didStartProvisionalLoadForFrame(&mainFrame_);
+    const bool wasStopped = !mainFrame_.provisional_;
+    mainFrame_.stopLoading();
+    if (wasStopped)
+        return;
+    if (canBeShown(address))
+        QTextBrowser::doSetSource(address, type);
+    else
+        NSLog(QStringLiteral("lumaroo: %1: %2 is no local page; what is shown stays")
+                  .arg(objectName(), address.toDisplayString()));
+}
+
+QVariant WebView::loadResource(int type, const QUrl &address)
+{
+    return canBeShown(address) ? QTextBrowser::loadResource(type, address) : QVariant();
+}
+
+void WebView::changeEvent(QEvent *event)
+{
+    QTextBrowser::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && !source().isEmpty())
+        redraw();
+}
+
+void WebView::redraw()
+{
+    // A page takes the links' colour when it is read. It is the same page: nobody is told.
+    const QScopedValueRollback<bool> again(isRedrawn_, true);
+    const int place = verticalScrollBar()->value();
+    reload();
+    verticalScrollBar()->setValue(place);
+}
