@@ -41,10 +41,12 @@ protected:
         EXPECT_TRUE(waitUntil([this] { return settings->settledPicture() == whileOn; })) << "it is shown on";
         EXPECT_EQ(agents(), before);
     }
+    /// Returns once the agent, too, is done with what the settings have announced on their way out.
     void quitSettings()
     {
         pressKey(KEY_Q, {KEY_LEFTCTRL});
         ASSERT_EQ(settings->exitStatus(), 0);
+        ASSERT_FALSE(runningAgent().isEmpty());
     }
 
     void pressSwitch() { pressKey(KEY_L, {KEY_LEFTALT}); }
