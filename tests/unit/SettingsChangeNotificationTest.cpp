@@ -103,6 +103,8 @@ TEST_F(SettingsChangeNotification, doesNotComeWhereOthersWroteTheSameAnew)
 {
     store({{"key", "one"}});
     read();
+    // Another file of the same content.
+    ASSERT_TRUE(QFile::rename(path(), path() + "-old"));
     store({{"key", "one"}});
     read();
     EXPECT_TRUE(flush());
