@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QVBoxLayout>
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace {
@@ -101,3 +102,28 @@ TEST_F(ALabel, isMirroredWithItsWindow)
 }
 
 } // namespace
+
+TEST_F(ALabel, isAsHighAsItsTextOfThisMomentNeeds)
+{
+    label.setWordWrap(true);
+    const auto heightOfAPlainOne = [this](int width) {
+        QLabel plain(label.text(), &window);
+        plain.setWordWrap(label.wordWrap());
+        plain.setFont(label.font());
+        plain.setMargin(label.margin());
+        plain.setIndent(label.indent());
+        plain.setContentsMargins(label.contentsMargins());
+        return plain.heightForWidth(width);
+    };
+    QFont large = label.font();
+    large.setPointSizeF(3 * large.pointSizeF());
+    const QList<std::function<void()>> changes{[this] { label.setText("a text of some words"); },
+        [this] { label.setText("a text of so many words that they take more lines than the ones before"); },
+        [&] { label.setFont(large); }, [this] { label.setMargin(9); }, [this] { label.setIndent(20); },
+        [this] { label.setContentsMargins(3, 4, 5, 6); }, [this] { label.setWordWrap(false); }};
+    for (const auto &change : changes) {
+        change();
+        for (const int width : {300, 120, 300})
+            EXPECT_EQ(label.heightForWidth(width), heightOfAPlainOne(width)) << width;
+    }
+}

@@ -60,6 +60,19 @@ void StyledLabel::setTextStyle(TextStyle textStyle)
     applyTextStyle();
 }
 
+/// A window's layouts ask for the same few widths again and again, and the base class would set the text anew each
+/// time.
+int StyledLabel::heightForWidth(int width) const
+{
+    const Measured now{text(), font(), contentsMargins(), margin(), indent(), logicalDpiY(), wordWrap()};
+    if (!(now == measured_)) {
+        measured_ = now;
+        heights_.clear();
+    }
+    const auto known = heights_.constFind(width);
+    return known == heights_.cend() ? *heights_.insert(width, QLabel::heightForWidth(width)) : *known;
+}
+
 bool StyledLabel::event(QEvent *event)
 {
     const bool handled = QLabel::event(event);

@@ -2,6 +2,7 @@
 
 #include "platform/appkit/Export.h"
 
+#include <QHash>
 #include <QLabel>
 
 /// A label in one of the window's text styles, made from the user's own font and palette and following both.
@@ -22,15 +23,34 @@ public:
     TextStyle textStyle() const { return textStyle_; }
     void setTextStyle(TextStyle textStyle);
 
+    int heightForWidth(int width) const override;
+
 protected:
     bool event(QEvent *event) override;
 
 private:
     void applyTextStyle();
     void applyDirection();
+
+    /// What the height depends on beside the width.
+    struct Measured
+    {
+        QString text;
+        QFont font;
+        QMargins margins;
+        int margin;
+        int indent;
+        int resolution;
+        bool isWrapped;
+
+        bool operator==(const Measured &) const = default;
+    };
+
     TextStyle textStyle_ = Body;
     Qt::Alignment unmirrored_;
     bool applying_ = false;
+    mutable Measured measured_ = {};
+    mutable QHash<int, int> heights_; ///< of what is measured, by width
 };
 
 /// How far two colours stand apart, from 1 (not at all) to 21 (black and white); 4.5 is the least for text.

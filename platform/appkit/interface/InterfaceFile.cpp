@@ -26,11 +26,14 @@ QWidget *loadInterfaceFile(const NSBundle *bundle, const QString &nibName, const
     QFile file(bundle->resourcePath() + u'/' + name);
     if (!file.open(QIODevice::ReadOnly))
         return refuse(file.fileName(), file.errorString());
-    const InterfaceText text = readInterfaceText(&file, bundle, nibName);
-    if (!text.error.isEmpty())
-        return refuse(file.fileName(), text.error);
-    QWidget *root = InterfaceLoader::loadInterface(text.xml, name, bundle->resourcePath(), text.baseClasses);
-    if (root)
-        InterfaceConnections(name, bundle, owner).connectAll(root);
+    const QByteArray xml = file.readAll();
+    QString toolkitsReason;
+    QWidget *root = InterfaceLoader::loadInterface(
+        translatedInterface(xml, bundle, nibName), name, bundle->resourcePath(), &toolkitsReason);
+    if (!root) {
+        const QString problem = problemIn(xml);
+        return refuse(file.fileName(), problem.isEmpty() ? toolkitsReason : problem);
+    }
+    InterfaceConnections(name, bundle, owner).connectAll(root);
     return root;
 }

@@ -6,12 +6,14 @@
 #include "platform/appkit/controls/NSMatrix.h"
 #include "platform/appkit/controls/NSSwitch.h"
 #include "platform/appkit/controls/StyledLabel.h"
+#include "platform/appkit/interface/internal/InterfaceText.h"
 #include "platform/appkit/web/WebView.h"
 #include "platform/foundation/system/NSLog.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
+#include <QHash>
 
 namespace {
 
@@ -69,6 +71,8 @@ public:
     }
     Q_DISABLE_COPY_MOVE(ToolkitWarnings)
 
+    void forgetLast() { line_.clear(); }
+
 private:
     static void handle(QtMsgType type, const QMessageLogContext &context, const QString &message)
     {
@@ -108,8 +112,7 @@ QtMessageHandler ToolkitWarnings::previous_ = nullptr;
 
 } // namespace
 
-InterfaceLoader::InterfaceLoader(const QString &file, const QHash<QString, QString> &baseClasses)
-    : file_(file), baseClasses_(baseClasses)
+InterfaceLoader::InterfaceLoader(const QString &file, const QByteArray &xml) : file_(file), xml_(xml)
 {
     const QStringList available = availableWidgets();
     toolkitClasses_ = QSet<QString>(available.cbegin(), available.cend());
@@ -117,11 +120,11 @@ InterfaceLoader::InterfaceLoader(const QString &file, const QHash<QString, QStri
 }
 
 QWidget *InterfaceLoader::loadInterface(
-    const QByteArray &xml, const QString &file, const QString &folder, const QHash<QString, QString> &baseClasses)
+    const QByteArray &xml, const QString &file, const QString &folder, QString *reason)
 {
     const NoPlugIns noPlugIns;
-    const ToolkitWarnings warnings(file);
-    InterfaceLoader loader(file, baseClasses);
+    ToolkitWarnings warnings(file);
+    InterfaceLoader loader(file, xml);
     // The texts are in the user's language already.
     loader.setTranslationEnabled(false);
     loader.setWorkingDirectory(folder);
@@ -129,8 +132,11 @@ QWidget *InterfaceLoader::loadInterface(
     buffer.setData(xml);
     buffer.open(QIODevice::ReadOnly);
     QWidget *root = loader.load(&buffer);
-    if (!root)
-        NSLog(QStringLiteral("lumaroo: %1: %2").arg(file, loader.errorString()));
+    if (!root) {
+        // The warning says the same.
+        warnings.forgetLast();
+        *reason = loader.errorString();
+    }
     return root;
 }
 
@@ -141,14 +147,16 @@ bool InterfaceLoader::isKnown(const QString &className) const
 
 QString InterfaceLoader::classToUse(const QString &className, const QString &name) const
 {
+    if (isKnown(className))
+        return className;
+    const QHash<QString, QString> baseClasses = baseClassesIn(xml_);
     QString known = className;
     // A file may say that two classes extend each other.
     for (int depth = 0; depth < 16 && !isKnown(known); ++depth)
-        known = baseClasses_.value(known);
+        known = baseClasses.value(known);
     if (!isKnown(known))
         known = QStringLiteral("QWidget");
-    if (known != className)
-        NSLog(QStringLiteral("lumaroo: %1: %2: unknown class %3, %4 stands in").arg(file_, name, className, known));
+    NSLog(QStringLiteral("lumaroo: %1: %2: unknown class %3, %4 stands in").arg(file_, name, className, known));
     return known;
 }
 

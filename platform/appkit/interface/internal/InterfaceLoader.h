@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QHash>
 #include <QSet>
 #include <QUiLoader>
 
@@ -12,18 +11,17 @@ class InterfaceLoader : public QUiLoader
     Q_OBJECT
 
 public:
-    /// `file` is the file's name for log lines, `baseClasses` what it says its own classes extend.
-    static QWidget *loadInterface(
-        const QByteArray &xml, const QString &file, const QString &folder, const QHash<QString, QString> &baseClasses);
+    /// `file` is the file's name for log lines. Null, with the toolkit's reason, where nothing can be built.
+    static QWidget *loadInterface(const QByteArray &xml, const QString &file, const QString &folder, QString *reason);
 
     QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override;
 
 private:
-    explicit InterfaceLoader(const QString &file, const QHash<QString, QString> &baseClasses);
+    InterfaceLoader(const QString &file, const QByteArray &xml);
     bool isKnown(const QString &className) const;
     QString classToUse(const QString &className, const QString &name) const;
 
     QString file_;
-    QHash<QString, QString> baseClasses_;
+    QByteArray xml_;
     QSet<QString> toolkitClasses_;
 };

@@ -2,10 +2,8 @@
 
 #include "platform/foundation/bundles/NSBundle.h"
 
-#include <QIODevice>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
-#include <optional>
 
 namespace {
 
@@ -26,114 +24,95 @@ bool isMarkedAsName(const QXmlStreamReader &reader)
 class Translator
 {
 public:
-    Translator(QIODevice *file, const NSBundle *bundle, const QString &nibName)
-        : bundle_(bundle), nibName_(nibName), reader_(result_.xml = file->readAll())
+    Translator(const QByteArray &xml, const NSBundle *bundle, const QString &nibName)
+        : bundle_(bundle), nibName_(nibName), reader_(xml), writer_(&translated_)
     {
-        // Most readers' language is the one that the file is written in; then it stays as it is.
-        if (!bundle->pathForResourceOfType(nibName, QStringLiteral("qm")).isEmpty())
-            writer_.emplace(&translated_);
     }
 
-    InterfaceText run()
+    QByteArray run()
     {
-        while (!reader_.atEnd() && result_.error.isEmpty()) {
+        while (!reader_.atEnd()) {
             reader_.readNext();
             if (reader_.isStartElement())
                 startElement();
             else if (!reader_.hasError())
-                copyToken();
+                writer_.writeCurrentToken(reader_);
         }
-        if (reader_.hasError())
-            result_.error = QStringLiteral("line %1: %2").arg(reader_.lineNumber()).arg(reader_.errorString());
-        if (writer_)
-            result_.xml = translated_;
-        return result_;
+        return translated_;
     }
 
 private:
     void startElement();
-    void checkRoot();
     void translate();
-    void copyClassName(QString *name);
-    void copyToken();
-    void replaceText(const QString &text);
 
     const NSBundle *bundle_;
     QString nibName_;
-    InterfaceText result_;
     QXmlStreamReader reader_;
     QByteArray translated_;
-    std::optional<QXmlStreamWriter> writer_; ///< where there may be something to translate
+    QXmlStreamWriter writer_;
     QString property_;
-    QString customClass_;
-    bool sawRoot_ = false;
     bool listIsOfNames_ = false;
-    bool inCustomWidget_ = false;
 };
-
-void Translator::checkRoot()
-{
-    if (!sawRoot_ && reader_.name() != QLatin1StringView("ui"))
-        result_.error = QStringLiteral("is no interface file");
-    sawRoot_ = true;
-}
 
 void Translator::startElement()
 {
-    checkRoot();
     const QStringView element = reader_.name();
     if (element == QLatin1StringView("property") || element == QLatin1StringView("attribute")) {
         property_ = reader_.attributes().value(QLatin1StringView("name")).toString();
         listIsOfNames_ = false;
     } else if (element == QLatin1StringView("stringlist")) {
         listIsOfNames_ = isMarkedAsName(reader_);
-    } else if (element == QLatin1StringView("customwidget")) {
-        inCustomWidget_ = true;
     }
-    if (element == QLatin1StringView("string")) {
+    writer_.writeCurrentToken(reader_);
+    if (element == QLatin1StringView("string"))
         translate();
-    } else if (inCustomWidget_ && element == QLatin1StringView("class")) {
-        copyClassName(&customClass_);
-    } else if (inCustomWidget_ && element == QLatin1StringView("extends")) {
-        copyClassName(&result_.baseClasses[customClass_]);
-        inCustomWidget_ = false;
-    } else {
-        copyToken();
-    }
 }
 
 void Translator::translate()
 {
     const bool isText = !isMarkedAsName(reader_) && !listIsOfNames_ && !isName(property_);
-    copyToken();
     const QString text = reader_.readElementText();
-    if (writer_)
-        replaceText(isText && !text.isEmpty() ? bundle_->localizedStringForKeyValueTable(text, text, nibName_) : text);
-}
-
-void Translator::copyClassName(QString *name)
-{
-    copyToken();
-    *name = reader_.readElementText();
-    if (writer_)
-        replaceText(*name);
-}
-
-void Translator::copyToken()
-{
-    if (writer_)
-        writer_->writeCurrentToken(reader_);
-}
-
-void Translator::replaceText(const QString &text)
-{
-    writer_->writeCharacters(text);
-    writer_->writeEndElement();
+    writer_.writeCharacters(
+        isText && !text.isEmpty() ? bundle_->localizedStringForKeyValueTable(text, text, nibName_) : text);
+    writer_.writeEndElement();
 }
 
 } // namespace
 
-InterfaceText readInterfaceText(QIODevice *file, const NSBundle *bundle, const QString &nibName)
+QByteArray translatedInterface(const QByteArray &xml, const NSBundle *bundle, const QString &nibName)
 {
-    return Translator(file, bundle, nibName).run();
+    // Most readers' language is the one that the file is written in.
+    const bool isWrittenInIt = bundle->pathForResourceOfType(nibName, QStringLiteral("qm")).isEmpty();
+    return isWrittenInIt ? xml : Translator(xml, bundle, nibName).run();
+}
+
+QHash<QString, QString> baseClassesIn(const QByteArray &xml)
+{
+    QHash<QString, QString> baseClasses;
+    QString className;
+    bool inCustomWidget = false;
+    QXmlStreamReader reader(xml);
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (!reader.isStartElement())
+            continue;
+        if (reader.name() == QLatin1StringView("customwidget"))
+            inCustomWidget = true;
+        else if (inCustomWidget && reader.name() == QLatin1StringView("class"))
+            className = reader.readElementText();
+        else if (inCustomWidget && reader.name() == QLatin1StringView("extends"))
+            baseClasses[className] = reader.readElementText();
+    }
+    return baseClasses;
+}
+
+QString problemIn(const QByteArray &xml)
+{
+    QXmlStreamReader reader(xml);
+    if (reader.readNextStartElement() && reader.name() != QLatin1StringView("ui"))
+        return QStringLiteral("is no interface file");
+    while (!reader.atEnd())
+        reader.readNext();
+    return reader.hasError() ? QStringLiteral("line %1: %2").arg(reader.lineNumber()).arg(reader.errorString())
+                             : QString();
 }
