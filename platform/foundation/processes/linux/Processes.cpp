@@ -90,7 +90,7 @@ OSStatus GetNextProcess(ProcessSerialNumber *process)
         return paramErr;
     ProcessWalk &walk = walkOfThisThread();
     if (*process == kNoProcess)
-        walk = {processesOfThisUser()};
+        walk = {processesOfThisUser(), 0, {}};
     else if (!walk.isAt(pid_t(process->lowLongOfPSN)))
         walk.moveBehind(pid_t(process->lowLongOfPSN));
     const bool isThere = advance(walk);
