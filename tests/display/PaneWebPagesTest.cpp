@@ -129,8 +129,10 @@ TEST_F(PaneWebPages, aLinkOfTheEmbeddedPageOpensInTheBrowserAndTheViewStays)
     writeEmbeddedPage("<p>Here</p><p><a href=\"" + server.url("/200").toEncoded() + "\">away</a></p>");
     showTab(helpTab);
     const QUrl page = control<QTextBrowser>("helpFileView")->source();
+    const CapturedLog log;
     clickOnLink("helpFileView", QStringLiteral("away"));
     expectOpened(server.url("/200"));
+    EXPECT_EQ(log.linesContaining("is no local page"), QStringList()) << "the view was to load it";
     EXPECT_EQ(control<QTextBrowser>("helpFileView")->source(), page);
     EXPECT_EQ(server.requests(), QStringList("HEAD /200"));
 }

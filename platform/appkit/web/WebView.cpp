@@ -36,11 +36,6 @@ void WebView::doSetSource(const QUrl &address, QTextDocument::ResourceType type)
                   .arg(objectName(), address.toDisplayString()));
 }
 
-QVariant WebView::loadResource(int type, const QUrl &address)
-{
-    return canBeShown(address) ? QTextBrowser::loadResource(type, address) : QVariant();
-}
-
 void WebView::changeEvent(QEvent *event)
 {
     QTextBrowser::changeEvent(event);

@@ -24,7 +24,6 @@ Q_SIGNALS:
 
 protected:
     void doSetSource(const QUrl &address, QTextDocument::ResourceType type) override;
-    QVariant loadResource(int type, const QUrl &address) override;
     void changeEvent(QEvent *event) override;
 
 private:

@@ -5,7 +5,6 @@
 #include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QNetworkAccessManager>
-#include <QNetworkProxyFactory>
 #include <QNetworkReply>
 #include <QTimer>
 #include <memory>
@@ -13,12 +12,6 @@
 namespace {
 
 constexpr int mostRedirections = 20;
-
-class SystemProxy : public QNetworkProxyFactory
-{
-public:
-    QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery &query) override { return systemProxyForQuery(query); }
-};
 
 bool mayLeadTo(const QUrl &from, const QUrl &to)
 {
@@ -31,10 +24,7 @@ bool mayLeadTo(const QUrl &from, const QUrl &to)
 class HeadRequest
 {
 public:
-    explicit HeadRequest(double seconds) : deadline_(qint64(seconds * 1000))
-    {
-        manager_.setProxyFactory(new SystemProxy);
-    }
+    explicit HeadRequest(double seconds) : deadline_(qint64(seconds * 1000)) { }
     NetworkAnswer answerTo(QUrl address);
 
 private:
