@@ -22,24 +22,25 @@ xcb_window_t OtherClient::rootOf(int screen) const
     return screens.data->root;
 }
 
-bool OtherClient::grabKey(int evdevCode, quint16 modifiers)
+bool OtherClient::grabKey(int evdevCode, quint16 modifiers, int screen)
 {
-    const auto grab = xcb_grab_key_checked(connection_.get(), false, rootOf(0), modifiers,
+    const auto grab = xcb_grab_key_checked(connection_.get(), false, rootOf(screen), modifiers,
         quint8(evdevCode + evdevToX11), XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
     return !fromServer(xcb_request_check(connection_.get(), grab));
 }
 
-void OtherClient::ungrabKey(int evdevCode, quint16 modifiers)
+void OtherClient::ungrabKey(int evdevCode, quint16 modifiers, int screen)
 {
-    const auto ungrab = xcb_ungrab_key_checked(connection_.get(), quint8(evdevCode + evdevToX11), rootOf(0), modifiers);
+    const auto ungrab =
+        xcb_ungrab_key_checked(connection_.get(), quint8(evdevCode + evdevToX11), rootOf(screen), modifiers);
     EXPECT_FALSE(fromServer(xcb_request_check(connection_.get(), ungrab)));
 }
 
-bool OtherClient::isHeldElsewhere(int evdevCode, quint16 modifiers)
+bool OtherClient::isHeldElsewhere(int evdevCode, quint16 modifiers, int screen)
 {
-    const bool isFree = grabKey(evdevCode, modifiers);
+    const bool isFree = grabKey(evdevCode, modifiers, screen);
     if (isFree)
-        ungrabKey(evdevCode, modifiers);
+        ungrabKey(evdevCode, modifiers, screen);
     return !isFree;
 }
 

@@ -13,11 +13,11 @@ public:
 
     bool isConnected() const { return !xcb_connection_has_error(connection_.get()); }
 
-    /// On the first screen; false when somebody else holds it.
-    bool grabKey(int evdevCode, quint16 modifiers);
-    void ungrabKey(int evdevCode, quint16 modifiers);
-    /// Whether somebody else holds it.
-    bool isHeldElsewhere(int evdevCode, quint16 modifiers);
+    /// On one screen; false when somebody else holds it there.
+    bool grabKey(int evdevCode, quint16 modifiers, int screen = 0);
+    void ungrabKey(int evdevCode, quint16 modifiers, int screen = 0);
+    /// Whether somebody else holds it there.
+    bool isHeldElsewhere(int evdevCode, quint16 modifiers, int screen = 0);
     /// The whole keyboard, as an open menu does; false when somebody else holds it.
     bool grabKeyboard();
     void ungrabKeyboard();
