@@ -5,6 +5,7 @@
 #include "KeyPress.h"
 #include "Keyboard.h"
 
+#include <QFile>
 #include <linux/input-event-codes.h>
 
 namespace {
@@ -15,6 +16,17 @@ constexpr quint16 serverControl = XCB_MOD_MASK_CONTROL;
 class HotKey : public HotKeyObjects
 {
 };
+
+/// How often this process has written to anything, the X server included.
+qint64 writesOfThisProcess()
+{
+    QFile file("/proc/self/io");
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray content = file.readAll();
+    constexpr QByteArrayView title = "syscw: ";
+    const qsizetype start = content.indexOf(title) + title.size();
+    return content.mid(start, content.indexOf('\n', start) - start).toLongLong();
+}
 
 } // namespace
 
@@ -123,6 +135,19 @@ TEST_F(HotKey, changedToWhatItIsTellsWhetherItIsRegistered)
     const auto reference = hotKey->hotKeyRef();
     EXPECT_TRUE(hotKey->setToKeyCodeWithModifiersForceChanges(A, controlKey, false));
     EXPECT_EQ(hotKey->hotKeyRef(), reference);
+}
+
+TEST_F(HotKey, changedToWhatItIsAsksTheServerNothing)
+{
+    const auto hotKey = created(A);
+    for (const bool isRegistered : {false, true}) {
+        const qint64 before = writesOfThisProcess();
+        for (const bool forced : {false, true})
+            EXPECT_EQ(hotKey->setToKeyCodeWithModifiersForceChanges(A, controlKey, forced), isRegistered);
+        EXPECT_EQ(writesOfThisProcess(), before);
+        hotKey->registerAsHotKey();
+        EXPECT_GT(writesOfThisProcess(), before) << "what is asked is counted";
+    }
 }
 
 TEST_F(HotKey, changesToAFreeCombinationAndRegistersIt)
