@@ -1,8 +1,9 @@
+#include "ColorSamples.h"
 #include "PaneOnRealStore.h"
+#include "SystemCallFaults.h"
 #include "Wait.h"
 
 #include "KTXConstants.h"
-#include "platform/foundation/colors/NSArchiver.h"
 #include "platform/foundation/preferences/CFPreferences.h"
 #include "platform/foundation/propertylists/PropertyList.h"
 
@@ -11,11 +12,6 @@
 namespace {
 
 const QString firstSelected = QStringLiteral("FirstSelected");
-
-QByteArray systemColorArchive()
-{
-    return NSArchiver::archivedDataWithRootObject(NSColor::selectedTextBackgroundColor());
-}
 
 QVariantMap factoryDomain()
 {
@@ -54,6 +50,8 @@ struct FileStamp
 class PaneSettings : public PaneOnRealStore
 {
 protected:
+    ~PaneSettings() override { systemCalls() = calls_; }
+
     bool isShown(const char *name) { return state(control(name)) == NSOnState; }
     int shownItem(const char *name) { return selectedItemTag(control(name)); }
     QString shownKey(int row) { return stringValue(keyField(row)); }
@@ -64,6 +62,9 @@ protected:
         pane().readUserPrefs();
         return shownItem(popUp);
     }
+
+private:
+    SystemCalls calls_ = systemCalls();
 };
 
 } // namespace
@@ -240,9 +241,26 @@ TEST_F(PaneSettings, readingAnnouncesOnceAndAfterTheFileHoldsEverything)
 {
     pane();
     bus().clear();
+    QList<QStringList> announcedAtWriting;
+    observe(&SystemCalls::rename, [&] { announcedAtWriting += bus().names(); });
     pane().readUserPrefs();
+    EXPECT_EQ(announcedAtWriting, QList<QStringList>(2)) << "written twice, and not announced before";
     EXPECT_TRUE(isEqualPropertyList(store().domain(), factoryDomain()));
     EXPECT_EQ(bus().names(), QStringList{KTXLMPrefsChanged});
+}
+
+TEST_F(PaneSettings, defaultsThatCannotBeWrittenAreTriedAgainBeforeTheSortOrdersAreRead)
+{
+    pane();
+    QList<QStringList> storedBeforeWriting;
+    failOnce(&SystemCalls::rename, 1, EIO);
+    observe(&SystemCalls::rename, [&] { storedBeforeWriting += store().domain().keys(); });
+    const CapturedLog log;
+    pane().readUserPrefs();
+    const QStringList firstDefaults{KTXAnimate, KTXAutoRepeat, KTXInitialDelay, KTXRepeatRate};
+    EXPECT_EQ(storedBeforeWriting, (QList<QStringList>{{}, {}, firstDefaults}));
+    EXPECT_TRUE(isEqualPropertyList(store().domain(), factoryDomain()));
+    EXPECT_EQ(log.lines().size(), 1);
 }
 
 TEST_F(PaneSettings, aDomainThatAnotherProcessEmptiesIsFilledAgainAtTheNextShowing)
