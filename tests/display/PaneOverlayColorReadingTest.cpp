@@ -1,15 +1,10 @@
+#include "ColorSamples.h"
 #include "PaneOnRealStore.h"
 
 #include "KTXConstants.h"
-#include "platform/foundation/colors/NSArchiver.h"
 #include "platform/foundation/propertylists/PropertyList.h"
 
 namespace {
-
-QByteArray systemColorArchive()
-{
-    return NSArchiver::archivedDataWithRootObject(NSColor::selectedTextBackgroundColor());
-}
 
 class PaneOverlayColorReading : public PaneOnRealStore
 {
@@ -19,10 +14,11 @@ class PaneOverlayColorReading : public PaneOnRealStore
 
 TEST_F(PaneOverlayColorReading, theStoredOverlayColourIsShown)
 {
-    store().set(KTXOverlayColor,
-        QVariant(NSArchiver::archivedDataWithRootObject(NSColor::colorWithCalibratedRGBA(1, 0.5f, 0, 1))));
-    pane().readUserPrefs();
-    EXPECT_EQ(color(control("overlayColorWell"))->rgba(), (std::array<float, 4>{1, 0.5f, 0, 1}));
+    for (const ColorSample &sample : colorSamples()) {
+        store().set(KTXOverlayColor, QVariant(sample.archive));
+        pane().readUserPrefs();
+        EXPECT_TRUE(isColorOf(sample, color(control("overlayColorWell")))) << sample.id.constData();
+    }
 }
 
 TEST_F(PaneOverlayColorReading, theStoredSystemColourIsTheSystemColourItself)

@@ -54,10 +54,8 @@ TEST_F(PaneOverlayColor, aColourPickedInThePanelIsStoredAtOnceAndCanBeReset)
     showPage();
     setEnabled(control("defaultColorButton"), false);
     const QVariantMap before = store().domain();
-    pick(QColor(10, 200, 30));
-    expectStored(before, NSArchiver::archivedDataWithRootObject(well()->color()));
-    const NSColorRef stored = NSUnarchiver::unarchiveObjectWithData(store().value(KTXOverlayColor).toByteArray());
-    EXPECT_EQ(liveColor(stored), QColor(10, 200, 30));
+    pick(QColor(168, 255, 96));
+    expectStored(before, colorSample("S019"));
     EXPECT_TRUE(canReset());
 }
 
@@ -70,6 +68,15 @@ TEST_F(PaneOverlayColor, resettingStoresTheSystemColourAnnouncesItOnceAndIsDone)
     QTest::mouseClick(control("defaultColorButton"), Qt::LeftButton);
     expectStored(before, systemColorArchive());
     EXPECT_EQ(well()->color(), NSColor::selectedTextBackgroundColor());
+    EXPECT_FALSE(canReset());
+}
+
+TEST_F(PaneOverlayColor, resettingIsDoneAlsoWithoutAWell)
+{
+    showPage();
+    delete well();
+    setEnabled(control("defaultColorButton"), true);
+    QTest::mouseClick(control("defaultColorButton"), Qt::LeftButton);
     EXPECT_FALSE(canReset());
 }
 
@@ -95,10 +102,13 @@ TEST_F(PaneOverlayColor, theSystemsOwnColourCannotBeReset)
 TEST_F(PaneOverlayColor, readingTheSettingsLeavesTheResetButtonAsItIs)
 {
     showPage();
-    for (const bool enabled : {true, false}) {
-        setEnabled(control("defaultColorButton"), enabled);
-        pane().readUserPrefs();
-        EXPECT_EQ(canReset(), enabled);
+    for (const QVariant &stored : {QVariant(colorSample("S019")), QVariant(systemColorArchive()), QVariant()}) {
+        for (const bool enabled : {true, false}) {
+            store().set(KTXOverlayColor, stored);
+            setEnabled(control("defaultColorButton"), enabled);
+            pane().readUserPrefs();
+            EXPECT_EQ(canReset(), enabled) << stored.toByteArray().toHex().constData();
+        }
     }
 }
 
@@ -113,10 +123,11 @@ TEST_F(PaneOverlayColor, everySampleReachesTheAgentAndComesBackFromIt)
         const QJsonValue text = QString::fromLatin1(expected.toBase64());
         EXPECT_TRUE(waitUntil([&] { return runningAgentsSetting(KTXOverlayColor) == text; })) << sample.id.constData();
     }
-    for (const QByteArray id : {"S014", "S118", "S131"}) {
-        const QByteArray archive = colorSample(id);
-        runAgent({"--set", KTXOverlayColor, "-data", QString::fromLatin1(archive.toHex())});
-        EXPECT_TRUE(waitUntil([&] { return NSArchiver::archivedDataWithRootObject(well()->color()) == archive; }));
+    for (const ColorSample &sample : colorSamples()) {
+        if (!QList<QByteArray>{"S014", "S118", "S131"}.contains(sample.id))
+            continue;
+        runAgent({"--set", KTXOverlayColor, "-data", QString::fromLatin1(sample.archive.toHex())});
+        EXPECT_TRUE(waitUntil([&] { return isColorOf(sample, well()->color()); })) << sample.id.constData();
     }
 }
 

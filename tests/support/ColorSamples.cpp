@@ -47,6 +47,16 @@ const QList<ColorSample> &colorSamples()
     return samples;
 }
 
+bool isColorOf(const ColorSample &sample, const NSColorRef &color)
+{
+    if (!color || color->colorSpace() != sample.colorSpace || color->catalogName() != sample.catalog
+        || color->colorName() != sample.name)
+        return false;
+    const NSColorRef numbers = sample.colorSpace == NSColorSpace::Catalog ? color->fallback() : color;
+    const auto begin = numbers->components().begin();
+    return QList<float>(begin, begin + numbers->componentCount()) == sample.components;
+}
+
 QByteArray colorSample(const QByteArray &id)
 {
     const auto hasId = [&id](const ColorSample &sample) { return sample.id == id; };

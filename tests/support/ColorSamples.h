@@ -20,6 +20,8 @@ struct ColorSample
 
 /// The samples of tests/data/color_samples.tsv.
 const QList<ColorSample> &colorSamples();
+/// Whether a colour is the one that a sample holds, in kind, names and components.
+bool isColorOf(const ColorSample &sample, const NSColorRef &color);
 /// The archive of a sample; empty for an unknown one.
 QByteArray colorSample(const QByteArray &id);
 /// The archive of the system's own selectedTextBackgroundColor, as it is always written.
