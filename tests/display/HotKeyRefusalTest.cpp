@@ -60,6 +60,14 @@ protected:
         ASSERT_TRUE(alertGoesBackTo(window()));
     }
     QColor background(int row) { return field(row)->palette().color(QPalette::Base); }
+    /// Notes what a field looks like when an alert comes up: its ground and what of its text is selected.
+    std::function<void()> lookAt(int row)
+    {
+        return [this, row] { looksAtAlert += {background(row), field(row)->selectedText()}; };
+    }
+
+    QList<std::pair<QColor, QString>> looksAtAlert;
+    const QList<std::pair<QColor, QString>> whiteWithoutSelection{{Qt::white, {}}};
 };
 
 } // namespace
@@ -199,6 +207,20 @@ TEST_F(HotKeyRefusal, theMarkersAreRefreshedAllTheSame)
     EXPECT_EQ(markedRows(), (QList<int>{Left, Under}));
 }
 
+TEST_F(HotKeyRefusal, theMarkersAreRefreshedWhileTheAlertIsOpen)
+{
+    store().set(KTXsuppressHKeysTaken, true);
+    storeKey(Under, 123);
+    showPage();
+    for (int row = Up; row <= Under; ++row)
+        setHidden(viewWithTag(pane().mainView(), row + 5), row != Up);
+    focus(Up);
+    pressKey(KEY_SPACE);
+    ASSERT_TRUE(alertComesUp());
+    EXPECT_EQ(markedRows(), (QList<int>{Left, Under}));
+    closeAlert();
+}
+
 TEST_F(HotKeyRefusal, whileTheAlertIsOpenTheFieldStaysMarkedWithItsTextSelected)
 {
     showPage();
@@ -210,6 +232,19 @@ TEST_F(HotKeyRefusal, whileTheAlertIsOpenTheFieldStaysMarkedWithItsTextSelected)
     EXPECT_EQ(FieldEditor::existingForWindow(window())->delegate(), field(Up));
     closeAlert();
     EXPECT_EQ(background(Up), liveColor(NSColor::selectedControlColor()));
+}
+
+TEST_F(HotKeyRefusal, theAlertComesUpOverAWhiteFieldWithNothingSelected)
+{
+    showPage();
+    focus(Up);
+    field(Up)->selectAll();
+    ASSERT_NE(background(Up), QColor(Qt::white));
+    const AtAlert look(lookAt(Up));
+    pressKey(KEY_SPACE);
+    ASSERT_TRUE(alertComesUp());
+    EXPECT_EQ(looksAtAlert, whiteWithoutSelection);
+    closeAlert();
 }
 
 TEST_F(HotKeyRefusal, theRefreshShowsTheMovementKeysInCapitalsAndTheirMarkers)
@@ -241,8 +276,11 @@ TEST_F(HotKeyRefusal, theRefreshTellsOfConflicts)
     store().set(KTXsuppressHKeysTaken, QVariant());
     rememberStore();
     focus(Right);
+    field(Right)->selectAll();
+    const AtAlert look(lookAt(Right));
     pane().updateHotKeyFields();
     ASSERT_TRUE(alertComesUp());
+    EXPECT_EQ(looksAtAlert, whiteWithoutSelection);
     EXPECT_EQ(textsOfAlert(), (QStringList{conflictMessage, conflictInformation}));
     EXPECT_NE(partOfAlert("suppression"), nullptr);
     EXPECT_EQ(partOfAlert("help"), nullptr);

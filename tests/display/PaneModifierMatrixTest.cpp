@@ -219,9 +219,16 @@ TEST_F(PaneModifierMatrix, aFieldThatIsBeingEditedWaitsMarkedUnderTheSheets)
     auto *field = qobject_cast<QLineEdit *>(keyField(0));
     for (const int cellTag : {0x800, 0x200}) {
         field->setFocus();
-        field->deselect();
+        field->selectAll();
+        int alerts = 0;
+        const AtAlert look([&] {
+            ++alerts;
+            EXPECT_EQ(field->palette().color(QPalette::Base), QColor(Qt::white));
+            EXPECT_EQ(field->selectedText(), QString());
+        });
         clickCell(cellTag);
         ASSERT_TRUE(alertComesUp());
+        EXPECT_EQ(alerts, 1);
         EXPECT_EQ(field->palette().color(QPalette::Base), liveColor(NSColor::selectedTextBackgroundColor()));
         EXPECT_EQ(field->selectedText(), field->text());
         closeAlert();

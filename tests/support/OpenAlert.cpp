@@ -32,6 +32,18 @@ bool noAlertComesUpOn(const QWidget *window)
     return isThere && !openAlert();
 }
 
+AtAlert::AtAlert(std::function<void()> look) : look_(std::move(look))
+{
+    qApp->installEventFilter(this);
+}
+
+bool AtAlert::eventFilter(QObject *object, QEvent *event)
+{
+    if (event->type() == QEvent::Show && qobject_cast<QDialog *>(object))
+        look_();
+    return false;
+}
+
 QStringList textsOfAlert()
 {
     QStringList texts;

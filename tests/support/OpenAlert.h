@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <QStringList>
+#include <functional>
 
 // The alert or sheet on screen, as its user sees and answers it.
 
@@ -13,6 +14,18 @@ bool alertComesUp();
 bool alertGoesBackTo(const QWidget *window);
 /// Whether a window on screen is there without one, once what is pending has been done.
 bool noAlertComesUpOn(const QWidget *window);
+/// Looks at something at the moment at which an alert comes up, before the operation that asked for it goes on.
+class AtAlert : public QObject
+{
+public:
+    explicit AtAlert(std::function<void()> look);
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+private:
+    std::function<void()> look_;
+};
 /// Its message and its information.
 QStringList textsOfAlert();
 /// A part of it: "message", "information", "icon", "suppression", "help".
