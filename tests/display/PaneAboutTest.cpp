@@ -2,9 +2,16 @@
 
 #include "platform/foundation/bundles/NSBundle.h"
 
+#include <QTextBlock>
+
 namespace {
 
 const QString copyright = QStringLiteral("NSHumanReadableCopyright");
+
+bool isBold(const QTextCharFormat &format)
+{
+    return format.fontWeight() == QFont::Bold;
+}
 
 class PaneAbout : public PaneOnRealStore
 {
@@ -15,7 +22,27 @@ protected:
         bundle().writeFile(QStringLiteral("Contents/Resources/Credits.rtfd/TXT.rtf"),
             "{\\rtf1\\ansi{\\fonttbl\\f0 Sans;}\\f0 Lumaroo\\par <<copyright>>\\par \\b again: <<copyright>>.\\b0}");
     }
-    QString credits() { return control<QTextEdit>("creditsField")->toPlainText(); }
+    QTextDocument *document() { return control<QTextEdit>("creditsField")->document(); }
+    QString credits() { return document()->toPlainText(); }
+    /// The pieces of the credits that look alike, in order.
+    QList<QTextFragment> pieces()
+    {
+        QList<QTextFragment> all;
+        for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+            for (auto piece = block.begin(); !piece.atEnd(); ++piece)
+                all += piece.fragment();
+        }
+        return all;
+    }
+    QStringList textsThat(const std::function<bool(const QTextCharFormat &)> &looksSo)
+    {
+        QStringList texts;
+        for (const QTextFragment &piece : pieces()) {
+            if (looksSo(piece.charFormat()))
+                texts += piece.text();
+        }
+        return texts;
+    }
 };
 
 } // namespace
@@ -78,6 +105,25 @@ TEST_F(PaneAbout, theShippedCreditsShowTheCopyrightInPlaceOfTheMarker)
     EXPECT_TRUE(credits().contains(QStringLiteral("Rights of 1999"))) << credits().toStdString();
     EXPECT_FALSE(credits().contains(QStringLiteral("<<copyright>>")));
     EXPECT_FALSE(credits().contains(QStringLiteral("reserved")));
+}
+
+TEST_F(PaneAbout, theCopyrightLooksAsItsMarkerDid)
+{
+    writeCredits();
+    changeInfo({{copyright, QStringLiteral("Copyright 2011")}});
+    EXPECT_EQ(textsThat(isBold), QStringList{"again: Copyright 2011."});
+}
+
+TEST_F(PaneAbout, theShippedCreditsComeWithBoldTextLinksAndTheirPicture)
+{
+    changeInfo({{copyright, QStringLiteral("Rights of 1999, reserved")}});
+    EXPECT_EQ(textsThat(isBold), (QStringList{"Rights of 1999", "Built with", "And with thanks"}));
+    const auto leadsToQt = [](const QTextCharFormat &format) { return format.anchorHref() == "https://www.qt.io/"; };
+    EXPECT_EQ(textsThat(leadsToQt), QStringList{"Qt"});
+    EXPECT_EQ(textsThat(&QTextCharFormat::isAnchor), (QStringList{"Qt", "XCB", "xkbcommon", "D-Bus"}));
+    ASSERT_EQ(textsThat(&QTextCharFormat::isImageFormat).size(), 1);
+    const QTextImageFormat picture = pieces().first().charFormat().toImageFormat();
+    EXPECT_FALSE(document()->resource(QTextDocument::ImageResource, QUrl(picture.name())).value<QImage>().isNull());
 }
 
 TEST_F(PaneAbout, theCreditsReplaceWhateverStoodInTheField)
