@@ -5,6 +5,7 @@
 
 #include "KTXConstants.h"
 #include "platform/appkit/controls/FloatSlider.h"
+#include "platform/foundation/preferences/CFPreferences.h"
 #include "platform/foundation/propertylists/PropertyList.h"
 
 #include <QTest>
@@ -130,6 +131,19 @@ TEST_F(PaneKeyRepeat, aSliderOnAnEmptyDomainStoresItsValueAlone)
     store().clear();
     pane().changeSlider(control("repeatRateSlider"));
     EXPECT_TRUE(isEqualPropertyList(store().domain(), QVariantMap{{KTXRepeatRate, 1.0f}}));
+}
+
+TEST_F(PaneKeyRepeat, aSliderWithAnotherTagWritesTheDomainAsItStands)
+{
+    showPage();
+    QVariantMap expected = store().domain();
+    FloatSlider stranger;
+    stranger.setProperty("tag", 73);
+    // Set, but not flushed: the next writing of the domain takes it along.
+    CFPreferencesSetAppValue(QStringLiteral("theirs"), true, KTXLMAppID);
+    pane().changeSlider(&stranger);
+    expected.insert(QStringLiteral("theirs"), true);
+    expectStoredInSilence(expected);
 }
 
 TEST_F(PaneKeyRepeat, aSliderWithAnotherTagChangesNothing)

@@ -56,7 +56,7 @@ TEST_F(BehaviourByUser, whatIsChangedByKeyboardReachesTheAgent)
     EXPECT_TRUE(agentReads(KTXAnimate, true));
     pressKey(KEY_L, {KEY_LEFTALT}); // into the horizontal order
     pressKey(KEY_DOWN);
-    EXPECT_TRUE(waitUntil([] { return runningAgentsSetting(KTXHSort) != QJsonValue("FirstSelected"); }));
+    EXPECT_TRUE(agentReads(KTXHSort, "LeftEdge"));
 }
 
 TEST_F(BehaviourByUser, theTutorialIsAskedOfTheRunningAgent)
