@@ -9,11 +9,16 @@
 
 namespace {
 
+/// To the display that the test goes by now.
 xcb_connection_t *connection()
 {
-    static const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> display(
-        xcb_connect(nullptr, nullptr), &xcb_disconnect);
-    return display.get();
+    static std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> connection(nullptr, &xcb_disconnect);
+    static QByteArray display;
+    const QByteArray wanted = qgetenv("DISPLAY");
+    if (!connection || display != wanted)
+        connection.reset(xcb_connect(nullptr, nullptr));
+    display = wanted;
+    return connection.get();
 }
 
 xcb_window_t windowWithKeyboard()

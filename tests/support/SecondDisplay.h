@@ -21,6 +21,7 @@ public:
     SecondDisplay &operator=(const SecondDisplay &) = delete;
 
     QByteArray name() const { return name_.toLatin1(); }
+    qint64 processId() const { return server_.processId(); }
     void end()
     {
         server_.kill();
