@@ -53,6 +53,8 @@ public:
     void updateHotKeyFields();
     bool controlTextShouldBeginEditing(QWidget *control, FieldEditor *fieldEditor) override;
     bool controlTextViewDoCommandBySelector(QWidget *control, FieldEditor *textView, const QString &command) override;
+    bool controlComesBeforeShortcuts(QWidget *control, const NSEvent &event) override;
+    QString controlReasonAgainstKey(QWidget *control, const NSEvent &event) override;
     FieldEditor *windowWillReturnFieldEditorToObject(QWidget *window, QWidget *client) override;
 
     // Activation modifiers

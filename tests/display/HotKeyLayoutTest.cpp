@@ -9,6 +9,7 @@
 #include "KTXActionKeys.h"
 #include "KTXConstants.h"
 
+#include <QShortcut>
 #include <linux/input-event-codes.h>
 
 namespace {
@@ -54,6 +55,28 @@ const QList<Key> &keysOfEveryKind()
         {KEY_LEFT, 123, "←"}, {KEY_RIGHT, 124, "→"}, {KEY_DOWN, 125, "↓"}, {KEY_UP, 126, "↑"}};
     return keys;
 }
+
+const QList<Key> &keysWithoutMnemonics()
+{
+    static const QList<Key> keys{{KEY_1, 18, "1"}, {KEY_MINUS, 27, "-"}, {KEY_SPACE, 49, "___"}, {KEY_102ND, 10, "<"},
+        {KEY_KP5, 87, "5"}, {KEY_KPDOT, 65, "."}, {KEY_KPENTER, 76, "⌅"}, {KEY_LEFT, 123, "←"}, {KEY_UP, 126, "↑"}};
+    return keys;
+}
+
+class RepeatCounter : public QObject
+{
+public:
+    RepeatCounter() { qApp->installEventFilter(this); }
+    int repeats = 0;
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        repeats += object->isWindowType() && event->type() == QEvent::KeyPress
+            && static_cast<QKeyEvent *>(event)->isAutoRepeat();
+        return false;
+    }
+};
 
 } // namespace
 
@@ -121,9 +144,10 @@ TEST_F(HotKeyLayout, anotherLayoutsNameOfAKeyInUseIsInTheAlert)
 TEST_F(HotKeyLayout, noHeldModifierHindersAKey)
 {
     showPage();
-    for (const int modifier : {KEY_LEFTSHIFT, KEY_RIGHTSHIFT, KEY_LEFTCTRL, KEY_RIGHTCTRL, KEY_LEFTALT, KEY_RIGHTALT,
-             KEY_LEFTMETA, KEY_RIGHTMETA})
+    for (const int modifier : {KEY_LEFTSHIFT, KEY_RIGHTSHIFT, KEY_LEFTCTRL, KEY_RIGHTCTRL, KEY_LEFTMETA, KEY_RIGHTMETA})
         expectTakenIn(Screenshot, keysOfEveryKind(), {modifier});
+    for (const int alt : {KEY_LEFTALT, KEY_RIGHTALT})
+        expectTakenIn(Screenshot, keysWithoutMnemonics(), {alt});
     expectTakenIn(Screenshot, keysOfEveryKind(), {KEY_LEFTCTRL, KEY_LEFTALT, KEY_LEFTSHIFT, KEY_LEFTMETA});
 }
 
@@ -139,21 +163,62 @@ TEST_F(HotKeyLayout, noLockHindersAKey)
     }
 }
 
-TEST_F(HotKeyLayout, mnemonicsOnTheKeysRestWhileAFieldHasTheFocus)
+TEST_F(HotKeyLayout, mnemonicsOfTheWindowComeBeforeTheField)
 {
     showPage();
     focus(Screenshot);
-    const int page = selectedTabIndex(control("tabbedView"));
-    const QVariantMap before = store().domain();
-    for (const int key : {KEY_Q, KEY_W, KEY_E, KEY_R, KEY_T, KEY_Y, KEY_U, KEY_I, KEY_O, KEY_P, KEY_A, KEY_S, KEY_D,
-             KEY_F, KEY_G, KEY_H, KEY_J, KEY_K, KEY_L, KEY_Z, KEY_X, KEY_C, KEY_V, KEY_B, KEY_N, KEY_M}) {
-        press(key, {KEY_LEFTALT});
-        ASSERT_EQ(focusedRow(), Screenshot) << key;
-        ASSERT_EQ(selectedTabIndex(control("tabbedView")), page) << key;
-    }
-    QVariantMap expected = before;
-    expected.insert(KTXScreenshotPref, QVariantMap{{KTXKeycode, "46"}});
-    EXPECT_EQ(store().domain(), expected);
+    press(KEY_R, {KEY_LEFTALT});
+    EXPECT_EQ(focusedRow(), Right);
+    expectNothingStored();
+    focus(Screenshot);
+    press(KEY_G, {KEY_LEFTALT});
+    EXPECT_EQ(selectedTabIndex(control("tabbedView")), 0);
+    EXPECT_EQ(keyCode(Screenshot), codeOfNoKey + Screenshot);
+}
+
+TEST_F(HotKeyLayout, shortcutsOfTheWindowComeBeforeTheField)
+{
+    showPage();
+    int triggered = 0;
+    QShortcut shortcut(QKeySequence(QStringLiteral("Ctrl+Q")), window());
+    QObject::connect(&shortcut, &QShortcut::activated, [&triggered] { ++triggered; });
+    pressIn(Screenshot, KEY_Q, {KEY_LEFTCTRL});
+    EXPECT_EQ(triggered, 1);
+    expectNothingStored();
+    expectTakenIn(Screenshot, {{KEY_Q, 12, "Q"}}, {KEY_LEFTCTRL, KEY_LEFTSHIFT});
+    EXPECT_EQ(triggered, 1);
+}
+
+TEST_F(HotKeyLayout, withExactlyTheActivationModifiersTheKeyIsMeant)
+{
+    store().set(KTXModifierMask, 0x800);
+    showPage();
+    expectTakenIn(Screenshot, {{KEY_R, 15, "R"}, {KEY_G, 5, "G"}, {KEY_Q, 12, "Q"}}, {KEY_LEFTALT});
+    store().set(KTXModifierMask, 0x1000);
+    pane().readUserPrefs();
+    rememberStore();
+    pressIn(Screenshot, KEY_R, {KEY_LEFTALT});
+    EXPECT_EQ(focusedRow(), Right);
+    expectNothingStored();
+}
+
+TEST_F(HotKeyLayout, aKeyThatStaysDownLongerThanAModifierBecomesNoShortcut)
+{
+    store().set(KTXModifierMask, 0x1800);
+    showPage();
+    focus(Screenshot);
+    RepeatCounter counter;
+    keyDown(KEY_LEFTCTRL);
+    keyDown(KEY_LEFTALT);
+    keyDown(KEY_R);
+    EXPECT_TRUE(waitUntil([&] { return counter.repeats >= 1; }));
+    keyUp(KEY_LEFTCTRL);
+    counter.repeats = 0;
+    EXPECT_TRUE(waitUntil([&] { return counter.repeats >= 3; }));
+    keyUp(KEY_R);
+    keyUp(KEY_LEFTALT);
+    EXPECT_EQ(focusedRow(), Screenshot);
+    expectTaken(Screenshot, 15, "R");
 }
 
 TEST_F(HotKeyLayout, pagesAreTurnedFromAFieldAsFromAnywhere)
@@ -172,20 +237,6 @@ TEST_F(HotKeyLayout, aKeyThatStaysDownIsStoredOnce)
 {
     showPage();
     focus(Screenshot);
-    class RepeatCounter : public QObject
-    {
-    public:
-        RepeatCounter() { qApp->installEventFilter(this); }
-        int repeats = 0;
-
-    protected:
-        bool eventFilter(QObject *object, QEvent *event) override
-        {
-            repeats += object->isWindowType() && event->type() == QEvent::KeyPress
-                && static_cast<QKeyEvent *>(event)->isAutoRepeat();
-            return false;
-        }
-    };
     RepeatCounter counter;
     keyDown(KEY_B);
     EXPECT_TRUE(waitUntil([&] { return counter.repeats >= 3; }));

@@ -4,6 +4,7 @@
 
 class FieldEditor;
 class QWidget;
+struct NSEvent;
 
 /// Told of what happens in a text field whose `delegate` is the owner.
 class NSControlTextEditingDelegate
@@ -18,4 +19,13 @@ public:
     /// field and its window handle it as usual.
     virtual bool controlTextViewDoCommandBySelector(
         QWidget *control, FieldEditor *textView, const QString &command) = 0;
+
+    // What only this desktop asks.
+
+    /// A key that the field takes is pressed, and a shortcut or mnemonic of the window may lie on it with what is held.
+    /// True gives it to the field, false to the shortcut, if there is one.
+    virtual bool controlComesBeforeShortcuts(QWidget *control, const NSEvent &event) { return false; }
+    /// A key is pressed that no field takes and nothing else uses. The line that is shown at the field, with the
+    /// system's alert sound; empty for neither.
+    virtual QString controlReasonAgainstKey(QWidget *control, const NSEvent &event) { return {}; }
 };

@@ -1,6 +1,7 @@
 #include "platform/appkit/textfields/TextFieldEvents.h"
 
 #include "platform/appkit/NSApplication.h"
+#include "platform/appkit/NSBeep.h"
 #include "platform/appkit/textfields/NSControlTextEditingDelegate.h"
 #include "platform/appkit/textfields/NSWindowDelegate.h"
 #include "platform/appkit/textfields/internal/FieldAccessibility.h"
@@ -9,6 +10,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QToolTip>
 
 namespace {
 
@@ -26,12 +28,6 @@ public:
 private:
     NSEvent outer_;
 };
-
-bool takesKey(const QKeyEvent &event)
-{
-    const std::optional<NSEvent> keyDown = keyDownEvent(event);
-    return keyDown && comesBeforeShortcuts(keyDown->keyCode);
-}
 
 /// What would put text into a field past the keyboard.
 bool bringsText(const QEvent &event)
@@ -135,14 +131,28 @@ bool TextFieldEvents::eventFilter(QObject *object, QEvent *event)
         repeats_.noteRelease(*static_cast<QKeyEvent *>(event));
     if (event->type() == QEvent::KeyPress)
         return handlePress(field, *static_cast<QKeyEvent *>(event));
-    if (event->type() == QEvent::ShortcutOverride && takesKey(*static_cast<QKeyEvent *>(event))) {
-        // It comes as a press then, whatever is held with it: shortcuts and mnemonics on it rest.
-        event->accept();
-        return true;
-    }
+    if (event->type() == QEvent::ShortcutOverride)
+        return handleShortcutOverride(field, *static_cast<QKeyEvent *>(event));
     if (keepsInputMethodAway(event))
         return true;
     return bringsText(*event) && staysUnchanged(field, {});
+}
+
+/// Accepted, it comes as a press, and shortcuts rest; else it comes as one where there is no shortcut on it. The text
+/// field itself is not asked: it would keep its editing keys.
+bool TextFieldEvents::handleShortcutOverride(QLineEdit *field, QKeyEvent &event)
+{
+    const std::optional<NSEvent> keyDown = keyDownEvent(event);
+    if (!keyDown || !isTakenByFields(keyDown->keyCode))
+        return false;
+    // Of a key that stays down while modifiers change, nothing is to become a shortcut.
+    bool isForField = repeats_.isRepeat(event);
+    if (!isForField) {
+        runAtBoundary((file_ + ": shortcuts").constData(),
+            [&] { isForField = textDelegate_->controlComesBeforeShortcuts(field, *keyDown); });
+    }
+    event.setAccepted(isForField);
+    return true;
 }
 
 bool TextFieldEvents::handlePress(QLineEdit *field, const QKeyEvent &event)
@@ -150,12 +160,30 @@ bool TextFieldEvents::handlePress(QLineEdit *field, const QKeyEvent &event)
     const bool isRepeated = repeats_.isRepeat(event);
     repeats_.notePress(event);
     const std::optional<NSEvent> keyDown = keyDownEvent(event);
+    if (!isRepeated)
+        QToolTip::hideText();
     if (!keyDown)
         return false;
     // A key that stays down counts once, also when the focus has moved meanwhile.
     if (isRepeated && countsOnceWhileHeld(keyDown->keyCode))
         return true;
-    return isTypingKey(keyDown->keyCode) ? staysUnchanged(field, *keyDown) : handleCommand(field, *keyDown);
+    if (isTypingKey(keyDown->keyCode))
+        return staysUnchanged(field, *keyDown);
+    const bool isDone = handleCommand(field, *keyDown);
+    if (!isDone && !isRepeated && isOfNoUse(keyDown->keyCode))
+        tellReasonAgainst(field, *keyDown);
+    return isDone;
+}
+
+void TextFieldEvents::tellReasonAgainst(QLineEdit *field, const NSEvent &event)
+{
+    QString reason;
+    runAtBoundary(
+        (file_ + ": refused key").constData(), [&] { reason = textDelegate_->controlReasonAgainstKey(field, event); });
+    if (reason.isEmpty())
+        return;
+    NSBeep();
+    QToolTip::showText(field->mapToGlobal(field->rect().bottomLeft()), reason, field);
 }
 
 bool TextFieldEvents::staysUnchanged(QLineEdit *field, const NSEvent &event)

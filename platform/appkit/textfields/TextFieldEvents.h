@@ -14,8 +14,9 @@ class QKeyEvent;
 ///
 /// A field takes nothing by itself: a typed key, the middle button's paste and an input method's text ask the delegate
 /// first, which may let editing begin; drops, the context menu's editing, keys that would edit and what an assistive
-/// tool would set do nothing. Editing a field lasts from its gaining the focus until another view of its window has it;
-/// a sheet or another window in front only interrupts it.
+/// tool would set do nothing. The window's shortcuts and mnemonics come first, unless the delegate wants a press for
+/// the field. Editing a field lasts from its gaining the focus until another view of its window has it; a sheet or
+/// another window in front only interrupts it.
 class TextFieldEvents : public QObject
 {
     Q_OBJECT
@@ -36,8 +37,10 @@ private:
     void endEditing();
     FieldEditor *editorOf(QLineEdit *field);
     FieldEditor *askWindowDelegate(QLineEdit *field);
+    bool handleShortcutOverride(QLineEdit *field, QKeyEvent &event);
     bool handlePress(QLineEdit *field, const QKeyEvent &event);
     bool handleCommand(QLineEdit *field, const NSEvent &event);
+    void tellReasonAgainst(QLineEdit *field, const NSEvent &event);
     bool staysUnchanged(QLineEdit *field, const NSEvent &event);
 
     QByteArray file_;

@@ -24,6 +24,10 @@
         <translation>Die markierten Tasten sind mit mehreren Aktionen belegt. Wenn Sie jetzt beenden, kann sich Lumaroo unvorhersehbar verhalten.</translation>
     </message>
     <message>
+        <source>This key cannot be used. Press a letter, a digit, a sign, an arrow or a key of the number pad.</source>
+        <translation>Diese Taste ist hier nicht verwendbar. Drücken Sie einen Buchstaben, eine Ziffer, ein Zeichen, einen Pfeil oder eine Taste des Ziffernblocks.</translation>
+    </message>
+    <message>
         <source>Quit</source>
         <translation>Beenden</translation>
     </message>

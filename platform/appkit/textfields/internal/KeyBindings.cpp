@@ -27,6 +27,16 @@ constexpr std::array typingKeys{
     KeyRange{91, 95},
 };
 
+constexpr std::array keysOfNoUse{
+    KeyRange{51, 51},
+    KeyRange{53, 53},
+    KeyRange{64, 64},
+    KeyRange{79, 80},
+    KeyRange{90, 90},
+    KeyRange{96, 111},
+    KeyRange{113, 122},
+};
+
 struct KeyBinding
 {
     VirtualKeyCode keyCode;
@@ -54,6 +64,13 @@ constexpr std::array bindings{
 constexpr VirtualKeyCode returnKey = 36;
 constexpr std::array<VirtualKeyCode, 5> enterAndArrows{76, 123, 124, 125, 126};
 
+template <typename Ranges>
+bool isIn(const Ranges &ranges, VirtualKeyCode keyCode)
+{
+    return std::any_of(ranges.begin(), ranges.end(),
+        [keyCode](const KeyRange &range) { return range.first <= keyCode && keyCode <= range.last; });
+}
+
 quint32 flagsOf(Qt::KeyboardModifiers modifiers)
 {
     quint32 flags = 0;
@@ -78,8 +95,12 @@ std::optional<NSEvent> keyDownEvent(const QKeyEvent &event)
 
 bool isTypingKey(VirtualKeyCode keyCode)
 {
-    const auto holds = [keyCode](KeyRange range) { return range.first <= keyCode && keyCode <= range.last; };
-    return std::any_of(typingKeys.begin(), typingKeys.end(), holds);
+    return isIn(typingKeys, keyCode);
+}
+
+bool isOfNoUse(VirtualKeyCode keyCode)
+{
+    return isIn(keysOfNoUse, keyCode);
 }
 
 bool countsOnceWhileHeld(VirtualKeyCode keyCode)
@@ -89,7 +110,7 @@ bool countsOnceWhileHeld(VirtualKeyCode keyCode)
     return isEnterOrArrow || isTypingKey(keyCode);
 }
 
-bool comesBeforeShortcuts(VirtualKeyCode keyCode)
+bool isTakenByFields(VirtualKeyCode keyCode)
 {
     return keyCode == returnKey || countsOnceWhileHeld(keyCode);
 }

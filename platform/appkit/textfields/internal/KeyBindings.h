@@ -17,13 +17,17 @@ LM_APPKIT std::optional<NSEvent> keyDownEvent(const QKeyEvent &event);
 /// Whether a key types: letters, digits, signs, space, and the keypad without its Enter.
 LM_APPKIT bool isTypingKey(VirtualKeyCode keyCode);
 
-/// Whether a text field takes a key before any shortcut or mnemonic on it, whatever is held with it: what types, and
-/// the commands of Return, Enter and the arrows.
-LM_APPKIT bool comesBeforeShortcuts(VirtualKeyCode keyCode);
+/// Whether a text field takes a key, whatever is held with it: what types, and the commands of Return, Enter and the
+/// arrows.
+LM_APPKIT bool isTakenByFields(VirtualKeyCode keyCode);
 
 /// Whether a key that stays down is one press, of which the repeats are nothing: what types, Enter and the arrows.
 /// Others, Tab and Return among them, repeat.
 LM_APPKIT bool countsOnceWhileHeld(VirtualKeyCode keyCode);
+
+/// Whether a key does nothing in a field that takes keys: functions, deleting, paging and the like. Modifiers, locks
+/// and what moves the focus are of use.
+LM_APPKIT bool isOfNoUse(VirtualKeyCode keyCode);
 
 /// The command that a key press becomes ("insertNewline:"); empty for none.
 LM_APPKIT QString commandSelector(const NSEvent &event);

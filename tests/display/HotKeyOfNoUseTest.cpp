@@ -1,0 +1,86 @@
+// A key that no field takes, and what the user is told about it.
+
+#include "KeyPress.h"
+#include "OpenAlert.h"
+#include "PaneOnHotKeyPage.h"
+#include "Wait.h"
+
+#include <QToolTip>
+#include <linux/input-event-codes.h>
+
+namespace {
+
+constexpr int Screenshot = 6;
+
+/// Counts what arrives of a key that is held: its repeats are releases too.
+class ReleaseCounter : public QObject
+{
+public:
+    ReleaseCounter() { qApp->installEventFilter(this); }
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        count += object->isWindowType() && event->type() == QEvent::KeyRelease;
+        return false;
+    }
+};
+
+class HotKeyOfNoUse : public PaneOnHotKeyPage
+{
+};
+
+} // namespace
+
+TEST_F(HotKeyOfNoUse, isToldByABeepAndALineAtTheField)
+{
+    showPage();
+    int beeps = 0;
+    for (const int key :
+        {KEY_F12, KEY_INSERT, KEY_DELETE, KEY_BACKSPACE, KEY_HOME, KEY_PAGEDOWN, KEY_ESC, KEY_COMPOSE}) {
+        pressIn(Screenshot, key);
+        EXPECT_EQ(bell.rings(), ++beeps) << key;
+        EXPECT_TRUE(QToolTip::isVisible()) << key;
+        EXPECT_TRUE(QToolTip::text().startsWith("This key cannot be used.")) << key;
+        press(KEY_LEFTSHIFT);
+        EXPECT_TRUE(waitUntil([] { return !QToolTip::isVisible(); })) << key;
+    }
+    EXPECT_EQ(shown(Screenshot), "S");
+    expectNothingStored();
+    EXPECT_FALSE(openAlert());
+}
+
+TEST_F(HotKeyOfNoUse, isForgottenWhenAKeyIsTaken)
+{
+    showPage();
+    pressIn(Screenshot, KEY_F12);
+    EXPECT_TRUE(QToolTip::isVisible());
+    press(KEY_B);
+    expectTaken(Screenshot, 11, "B");
+    EXPECT_TRUE(waitUntil([] { return !QToolTip::isVisible(); }));
+    EXPECT_EQ(bell.rings(), 1);
+}
+
+TEST_F(HotKeyOfNoUse, isNoModifierNoLockAndNothingThatMovesTheFocus)
+{
+    showPage();
+    for (const int key : {KEY_LEFTSHIFT, KEY_RIGHTCTRL, KEY_LEFTALT, KEY_LEFTMETA, KEY_CAPSLOCK, KEY_CAPSLOCK,
+             KEY_NUMLOCK, KEY_NUMLOCK, KEY_TAB, KEY_ENTER})
+        pressIn(Screenshot, key);
+    EXPECT_EQ(bell.rings(), 0);
+    EXPECT_FALSE(QToolTip::isVisible());
+    expectNothingStored();
+}
+
+TEST_F(HotKeyOfNoUse, isToldOfOnceWhileItStaysDown)
+{
+    showPage();
+    focus(Screenshot);
+    ReleaseCounter releases;
+    keyDown(KEY_F12);
+    EXPECT_TRUE(waitUntil([&] { return releases.count >= 3; })) << "it repeats";
+    keyUp(KEY_F12);
+    runPendingEvents();
+    EXPECT_EQ(bell.rings(), 1);
+}
