@@ -15,15 +15,6 @@ const BusNotification launched{
 const BusNotification changed{
     QStringLiteral("Lumaroo Preferences Changed"), QStringLiteral("com.quorvane.Lumaroo"), {}, true};
 
-/// Those that no operation reaches as well.
-/// In the order of their declaration.
-const QStringList knownControls{"helpFileView", "modifiersField", "modifierCheckboxMatrix", "persistentModeMatrix",
-    "shiftCheckBox", "controlCheckBox", "optionCheckBox", "commandCheckBox", "doubleTapCheckBox", "appNameField",
-    "versionField", "creditsField", "toggleStateButton", "enableHorizontalWrapButton", "enableVerticalWrapButton",
-    "HorizontalPopup", "VerticalPopup", "keyRepeatButton", "animateButton", "repeatDelaySlider", "repeatRateSlider",
-    "keyRepeatBox", "delayTextField", "repeatTextField", "defaultColorButton", "autoUpdateButton", "overlayColorWell",
-    "movementBox", "cancelBox", "tabbedView", "enabledState", "copyrightField", "betaWindow"};
-
 class PaneLifeCycle : public PaneOnRealStore
 {
 protected:
@@ -232,14 +223,4 @@ TEST_F(PaneLifeCycle, aPaneThatIsGoneClicksNothing)
     bus().clear();
     runPendingEvents();
     EXPECT_TRUE(bus().notifications().isEmpty());
-}
-
-TEST_F(PaneLifeCycle, everyControlThePaneKnowsIsInTheInterfaceFile)
-{
-    const CapturedLog log;
-    pane();
-    EXPECT_TRUE(log.lines().isEmpty()) << log.lines().join(u'\n').toStdString();
-    EXPECT_EQ(pane().outletNames(), knownControls) << "in this order";
-    for (const QString &name : knownControls)
-        EXPECT_NE(control(qPrintable(name)), nullptr) << qPrintable(name);
 }
