@@ -45,7 +45,7 @@ TEST_F(SettingsProcesses, twoWriteTwoThousandKeysEachAndNoneIsLost)
 {
     constexpr int keys = 2000;
     constexpr int keysInAFlush = 8;
-    constexpr int attempts = 30;
+    constexpr int mostAttempts = 30;
     const auto writer = [](const QString &prefix) {
         return [prefix] {
             for (int number = 0; number < keys; ++number) {
@@ -55,9 +55,9 @@ TEST_F(SettingsProcesses, twoWriteTwoThousandKeysEachAndNoneIsLost)
                     CFPreferencesAppSynchronize(Domain);
             }
             int attempts = 0;
-            while (!CFPreferencesAppSynchronize(Domain) && attempts < attempts)
+            while (!CFPreferencesAppSynchronize(Domain) && attempts < mostAttempts)
                 ++attempts;
-            return attempts < attempts;
+            return attempts < mostAttempts;
         };
     };
     const pid_t first = start(writer("first"));
