@@ -150,8 +150,8 @@ TEST_F(HotKeyFieldGets, theKeyOfItsNameOnAKeyboardThatNumbersKeysOtherwise)
         if (!taken().count(row.code) || !keycode)
             continue;
         moved += *keycode != row.evdev + evdevToX11;
-        pressIn(Screenshot, *keycode - evdevToX11);
-        expectTaken(Screenshot, row.code, labelOf(row));
+        pressIn(screenshot, *keycode - evdevToX11);
+        expectTaken(screenshot, row.code, labelOf(row));
     }
     EXPECT_GE(moved, 6) << "the arrows, Enter and the divide sign of the keypad";
 }

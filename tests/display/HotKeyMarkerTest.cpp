@@ -89,7 +89,7 @@ TEST_F(HotKeyMarker, aRowThatThereIsNotHasNoConflict)
     showPage();
     for (const int row : {-1, int(RowCount), 1000, -1000})
         EXPECT_FALSE(pane().hotKeyIsDuplicateAtIndex(row)) << row;
-    pane().setKeyCodes(std::make_shared<QList<int>>(QList<int>{upArrow, upArrow}));
+    pane().setKeyCodes(std::make_shared<QList<VirtualKeyCode>>(QList<VirtualKeyCode>{upArrow, upArrow}));
     EXPECT_TRUE(pane().hotKeyIsDuplicateAtIndex(Up));
     EXPECT_TRUE(pane().hotKeyIsDuplicateAtIndex(Right));
     EXPECT_FALSE(pane().hotKeyIsDuplicateAtIndex(Down)) << "a table that ends before";

@@ -109,7 +109,7 @@ protected:
 
     static QString keyName(const QVariant &entry)
     {
-        return KeyCodeTranslator::stringForKeyCodeWithModifierFlags(quint16(keyCodeOf(entry).value_or(-1)), 0);
+        return KeyCodeTranslator::stringForKeyCodeWithModifierFlags(keyCodeOf(entry).value_or(0xffff), 0);
     }
 
     const QHash<QString, const char *> popUps{

@@ -162,9 +162,9 @@ TEST_F(AgentByUser, anAgentThatWasKilledIsShownOffAtTheNextShowingAndCanBeTurned
 
 TEST_F(AgentByUser, anAgentOfAnotherSessionIsShownOffAndLeftAlone)
 {
-    const SecondBus bus;
+    const SecondBus otherBus;
     storeOutside(KTXFirstLaunch, true);
-    AgentProgram another({"--foreground"}, agentProgram(), bus.environment());
+    AgentProgram another({"--foreground"}, agentProgram(), otherBus.environment());
     ASSERT_TRUE(another.waitForLaunch());
     settings = std::make_unique<SettingsProgram>(QStringList{pane()});
     ASSERT_TRUE(settings->waitForWindows(1));

@@ -102,7 +102,7 @@ TEST_F(AgentHotKeys, areTheElevenActionsWithTheDefaultModifiers)
     ASSERT_EQ(all.size(), KTXActionKeyCount);
     for (int row = 0; row < KTXActionKeyCount; ++row) {
         const KTXActionKey &action = KTXActionKeys().at(row);
-        const QJsonObject expected{{"action", action.preferenceName}, {"keyCode", action.defaultKeyCode},
+        const QJsonObject expected{{"action", action.preferenceName}, {"keyCode", int(action.defaultKeyCode.number())},
             {"combination", combinations.at(row)}, {"registered", true}};
         EXPECT_EQ(all.at(row).toObject(), expected) << row << shownAsText(all.at(row));
     }
