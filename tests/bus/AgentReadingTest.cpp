@@ -122,18 +122,19 @@ TEST_F(RunningAgent, outlivesCallsOfItsInterfaceThatMakeNoSense)
     EXPECT_EQ(QDBusReply<int>(running.call("Version")).value(), builtVersion());
 }
 
-TEST_F(RunningAgent, goesByTheDefaultsWhereValuesAreOfAnotherType)
+TEST_F(RunningAgent, goesByWhatTheWindowShowsWhereValuesAreOfAnotherType)
 {
+    const QJsonValue byDefault = runningAgentsSetting(KTXOverlayColor);
     storeBesideFirstLaunch({{KTXHWrap, "no"}, {KTXRepeatRate, "fast"}, {KTXModifierMask, qlonglong(1) << 40},
         {KTXHSort, qlonglong(3)}, {KTXUpPref, "126"}, {KTXOverlayColor, QVariantList{1, 2}}});
     paneAnnounces(KTXLMPrefsChanged);
     ASSERT_TRUE(waitForReading(2));
     EXPECT_EQ(runningAgentsSetting(KTXHWrap), QJsonValue(true));
-    EXPECT_EQ(runningAgentsSetting(KTXRepeatRate), QJsonValue(1.0));
+    EXPECT_EQ(runningAgentsSetting(KTXRepeatRate), QJsonValue(0.0)) << "as the slider shows it";
     EXPECT_EQ(runningAgentsSetting(KTXModifierMask), QJsonValue(0x1800));
     EXPECT_EQ(runningAgentsSetting(KTXHSort), QJsonValue("FirstSelected"));
     EXPECT_EQ(runningAgentsSetting(KTXUpPref), QJsonValue(QJsonObject{{"keycode", "126"}}));
-    EXPECT_EQ(runningAgentsSetting(KTXOverlayColor), QJsonValue(QJsonValue::Null));
+    EXPECT_EQ(runningAgentsSetting(KTXOverlayColor), byDefault);
 }
 
 TEST_F(RunningAgent, goesByTheDefaultsWhereTheFileIsDamagedAndKeepsIt)
@@ -172,7 +173,7 @@ TEST_F(AgentSession, startsOverADamagedFileAsForTheFirstTime)
 
 TEST_F(RunningAgent, saysThatWhatItHasReadIsTooMuchToShow)
 {
-    storeBesideFirstLaunch({{KTXOverlayColor, QByteArray(4 * 1024 * 1024, 'x')}});
+    store({{KTXFirstLaunch, QByteArray(4 * 1024 * 1024, 'x')}});
     paneAnnounces(KTXLMPrefsChanged);
     ASSERT_TRUE(waitForReading(2));
     const ProgramResult result = runAgent({"--print-settings"});
