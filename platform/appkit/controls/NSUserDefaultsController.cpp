@@ -10,6 +10,8 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <algorithm>
+#include <functional>
 
 namespace {
 
