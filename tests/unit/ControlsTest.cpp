@@ -2,7 +2,9 @@
 #include "Wait.h"
 #include "platform/appkit/controls/ConflictMarker.h"
 #include "platform/appkit/controls/FloatSlider.h"
+#include "platform/appkit/richtext/NSAttributedString.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QAction>
 #include <QApplication>
 #include <QButtonGroup>
@@ -15,6 +17,8 @@
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTabWidget>
+#include <QTextBlock>
+#include <QTextDocument>
 #include <QTextEdit>
 #include <gtest/gtest.h>
 
@@ -204,4 +208,49 @@ TEST(Controls, namedColoursOutlastAChangeOfThemeAndTheOthersFollowIt)
     EXPECT_EQ(field.palette().color(QPalette::Base), QColor(Qt::white));
     EXPECT_EQ(field.palette().color(QPalette::Text), QColor(Qt::black));
     QApplication::setPalette(before);
+}
+
+namespace {
+
+NSAttributedString threeLines()
+{
+    return NSAttributedString::fromRTF("{\\rtf1 one\\par two\\par three}", {});
+}
+
+double heightOfText(const QTextEdit &view)
+{
+    return view.document()->documentLayout()->blockBoundingRect(view.document()->lastBlock()).bottom();
+}
+
+} // namespace
+
+TEST(ATextView, laysItsTextOutWhenItIsShown)
+{
+    QWidget window;
+    QTextEdit view(&window);
+    window.show();
+    view.hide();
+    setAttributedString(&view, threeLines());
+    EXPECT_EQ(view.toPlainText(), "one\ntwo\nthree");
+    EXPECT_EQ(heightOfText(view), 0);
+    view.show();
+    EXPECT_GT(heightOfText(view), 3 * view.fontMetrics().ascent());
+}
+
+TEST(ATextView, laysItsTextOutAtOnceOnScreen)
+{
+    QTextEdit view;
+    view.show();
+    setAttributedString(&view, threeLines());
+    EXPECT_GT(heightOfText(view), 3 * view.fontMetrics().ascent());
+}
+
+TEST(ATextView, showsTheLastOfTheTextsThatItWasGivenWhileHidden)
+{
+    QTextEdit view;
+    setAttributedString(&view, NSAttributedString::fromRTF("{\\rtf1 first}", {}));
+    setAttributedString(&view, threeLines());
+    view.show();
+    EXPECT_EQ(view.toPlainText(), "one\ntwo\nthree");
+    EXPECT_GT(heightOfText(view), 3 * view.fontMetrics().ascent());
 }

@@ -2,6 +2,7 @@
 
 #include "platform/appkit/colors/NSColorWell.h"
 #include "platform/appkit/controls/NSMatrix.h"
+#include "platform/appkit/controls/internal/LayoutWhenShown.h"
 #include "platform/appkit/richtext/NSAttributedString.h"
 
 #include <QAbstractButton>
@@ -169,6 +170,8 @@ void setAttributedString(QObject *textView, const NSAttributedString &text)
     const bool wasSet = before->parent() == edit;
     QTextDocument *document = text.document().release();
     document->setParent(edit);
+    if (!edit->isVisible())
+        new LayoutWhenShown(edit, document);
     edit->setDocument(document);
     if (wasSet)
         delete before;
