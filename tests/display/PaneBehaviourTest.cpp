@@ -133,47 +133,6 @@ TEST_F(PaneBehaviour, choosingTheSameItemAgainAnnouncesItAgain)
     expectStored(before, {{KTXHSort, "FirstSelected"}});
 }
 
-TEST_F(PaneBehaviour, anOrderThatStartsAtTheCenterOrTheLeadingEdgeIsNotSelectedOnReading)
-{
-    struct Order
-    {
-        const char *popUp;
-        QString key;
-        int center, leadingEdge;
-        QList<int> others;
-    };
-    const QList<Order> orders{
-        {horizontalOrder, KTXHSort, 60, 58, {52, 53}}, {verticalOrder, KTXVSort, 61, 59, {55, 56}}};
-    showPage();
-    for (const Order &order : orders) {
-        for (const int itemTag : {order.center, order.leadingEdge}) {
-            const QString stored = itemTag == order.center ? QStringLiteral("Center") : QStringLiteral("LeadingEdge");
-            choose(order.popUp, itemTag);
-            EXPECT_EQ(store().value(order.key), QVariant(stored));
-            for (const int shown : order.others) {
-                selectItemWithTag(control(order.popUp), shown);
-                pane().readUserPrefs();
-                EXPECT_EQ(selectedItemTag(control(order.popUp)), shown) << "it shows what it showed";
-                EXPECT_EQ(store().value(order.key), QVariant(stored)) << "and stays stored";
-            }
-        }
-    }
-}
-
-TEST_F(PaneBehaviour, anOrderThatStartsAtAnEdgeIsSelectedOnReading)
-{
-    showPage();
-    for (const Item &item : items) {
-        const bool isRead = item.key != KTXCycleAscending && !QStringList{"Center", "LeadingEdge"}.contains(item.value);
-        if (!isRead)
-            continue;
-        control<QComboBox>(item.popUp)->setCurrentIndex(4);
-        store().set(item.key, item.value);
-        pane().readUserPrefs();
-        EXPECT_EQ(selectedItemTag(control(item.popUp)), item.tag);
-    }
-}
-
 TEST_F(PaneBehaviour, activatingWithADoubleClickForcesTheMatrixToo)
 {
     showPage();

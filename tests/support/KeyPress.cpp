@@ -1,7 +1,6 @@
 #include "KeyPress.h"
 
 #include <QScopeGuard>
-#include <QWidget>
 #include <cstdlib>
 #include <memory>
 #include <xcb/xcb.h>
@@ -21,13 +20,6 @@ xcb_connection_t *connection()
     return connection.get();
 }
 
-xcb_window_t windowWithKeyboard()
-{
-    const std::unique_ptr<xcb_get_input_focus_reply_t, decltype(&std::free)> reply(
-        xcb_get_input_focus_reply(connection(), xcb_get_input_focus(connection()), nullptr), &std::free);
-    return reply ? reply->focus : xcb_window_t(XCB_NONE);
-}
-
 /// An answer comes after all that was asked before.
 void waitForServer()
 {
@@ -42,9 +34,11 @@ void send(quint8 type, quint8 detail, QPoint place = {})
 
 } // namespace
 
-bool hasKeyboard(const QWidget *window)
+quint32 windowWithKeyboard()
 {
-    return window->isActiveWindow() && windowWithKeyboard() == window->winId();
+    const std::unique_ptr<xcb_get_input_focus_reply_t, decltype(&std::free)> reply(
+        xcb_get_input_focus_reply(connection(), xcb_get_input_focus(connection()), nullptr), &std::free);
+    return reply ? reply->focus : xcb_window_t(XCB_NONE);
 }
 
 void keyDown(int evdevCode)

@@ -13,6 +13,8 @@ class QWidget;
 
 /// Presses and releases a key while `held` keys are down, and waits until the server has taken it all.
 void pressKey(int evdevCode, const QList<int> &held = {});
+/// The X server's window to which presses go now.
+quint32 windowWithKeyboard();
 /// Whether a press would come to a window now. When another window has gone, the toolkit calls this one active before
 /// the server has given it the keyboard; a press goes nowhere then.
 bool hasKeyboard(const QWidget *window);

@@ -1,5 +1,7 @@
 #include "platform/appkit/web/internal/NetworkAnswer.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <dlfcn.h>
 
 namespace {
@@ -16,10 +18,18 @@ QString loadingError()
     return QString::fromLocal8Bit(error ? error : "nothing there");
 }
 
-/// Found where this library itself lies.
+/// It lies beside this library. (Its bare name would do, but a sanitizer's loader does not search there.)
+QByteArray pathOfNetworkLibrary()
+{
+    Dl_info own;
+    if (::dladdr(reinterpret_cast<const void *>(&networkAnswer), &own) == 0)
+        return LUMAROO_NETWORK_LIBRARY;
+    return QFile::encodeName(QFileInfo(QFile::decodeName(own.dli_fname)).path()) + "/" LUMAROO_NETWORK_LIBRARY;
+}
+
 NetworkLibrary loadNetworkLibrary()
 {
-    void *handle = ::dlopen(LUMAROO_NETWORK_LIBRARY, RTLD_NOW | RTLD_LOCAL);
+    void *handle = ::dlopen(pathOfNetworkLibrary().constData(), RTLD_NOW | RTLD_LOCAL);
     void *function = handle ? ::dlsym(handle, networkLibraryFunction) : nullptr;
     if (!function)
         return {nullptr, loadingError()};
