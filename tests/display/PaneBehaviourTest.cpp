@@ -57,15 +57,6 @@ protected:
         bus().clear();
     }
 
-    /// What then shows is the pane's doing.
-    void removeBindings() const
-    {
-        const QString name = QStringLiteral("Contents/Resources/LumarooPref.ui");
-        QFile file(bundle().path() + u'/' + name);
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        bundle().writeFile(name, file.readAll().replace("=\"binding\"", "=\"unbound\""));
-    }
-
     void click(QWidget *button) { QTest::mouseClick(button, Qt::LeftButton, {}, {8, button->height() / 2}); }
     void click(const char *name) { click(control(name)); }
     QAbstractButton *cell(int cellTag) { return control<NSMatrix>("persistentModeMatrix")->cellWithTag(cellTag); }
@@ -180,16 +171,6 @@ TEST_F(PaneBehaviour, theMatrixStoresWhetherADoubleClickIsNeeded)
         click(cell(cellTag));
         expectStored(before, {{KTXPersistentDoubleClick, cellTag == 74}});
     }
-}
-
-TEST_F(PaneBehaviour, theOptionsThatAreNotReadKeepWhatTheWindowFileGivesThem)
-{
-    removeBindings();
-    store().set({{KTXActivateDoubleClick, true}, {KTXPersistentDoubleClick, true}, {KTXCycleAscending, true}});
-    showPage();
-    EXPECT_EQ(state(control("doubleClickActivateCheckBox")), NSOffState);
-    EXPECT_EQ(state(cell(75)), NSOnState);
-    EXPECT_EQ(selectedItemTag(control(cycleOrder)), 51);
 }
 
 TEST_F(PaneBehaviour, everyTagOfACheckBoxStoresItsRowOfTheTableAndNoOtherDoes)

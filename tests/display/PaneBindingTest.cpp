@@ -61,6 +61,15 @@ protected:
         runPendingEvents();
     }
 
+    /// What then shows is the pane's doing.
+    void removeBindings() const
+    {
+        const QString name = QStringLiteral("Contents/Resources/LumarooPref.ui");
+        QFile file(bundle().path() + u'/' + name);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        bundle().writeFile(name, file.readAll().replace("=\"binding\"", "=\"unbound\""));
+    }
+
     void leaveAndComeBack()
     {
         pane().willUnselect();
@@ -237,4 +246,15 @@ TEST_F(PaneBinding, writesNothingAndAnnouncesNothing)
         EXPECT_EQ(bus().names(), QStringList());
         EXPECT_TRUE(isEqualPropertyList(store().domain(), domain)) << qPrintable(option.key);
     }
+}
+
+TEST_F(PaneBinding, isTheWindowFilesAndThePaneItselfSetsNoneOfTheseOptions)
+{
+    removeBindings();
+    store().set({{KTXFirstLaunch, true}, {KTXActivateDoubleClick, true}, {KTXPersistentDoubleClick, true},
+        {KTXCycleAscending, true}});
+    showPage();
+    EXPECT_EQ(shown("doubleClickActivateCheckBox"), NSOffState);
+    EXPECT_EQ(shown("persistentModeMatrix"), 75);
+    EXPECT_EQ(shown("cycleOrderPopup"), 51);
 }
