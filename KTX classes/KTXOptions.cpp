@@ -14,8 +14,9 @@ const QList<KTXChoice> &KTXChoices()
     const QString bottomEdge = QStringLiteral("BottomEdge");
     const QString leadingEdge = QStringLiteral("LeadingEdge");
     const QString center = QStringLiteral("Center");
-    // Reading leaves two orders of each pop-up, and the cycle, to what the interface file binds: the window shows them
-    // when it is loaded, and from then on what was chosen in it.
+    // Reading knows three texts of each direction, and takes any other for one that no item has. So it leaves the
+    // pop-up as it is for the center and the leading edge, which the interface file's binding shows when it is loaded.
+    // The cycle is not read at all: its binding shows it, and follows it.
     static const QList<KTXChoice> all{
         {KTXCyclesAscendingTag, KTXCycleAscending, true, LeaveAsShown},
         {KTXCyclesDescendingTag, KTXCycleAscending, false, LeaveAsShown},

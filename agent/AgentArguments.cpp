@@ -2,7 +2,7 @@
 
 #include <QHash>
 
-const char *const AgentHelp =
+const char *const agentHelp =
     R"(The background agent of Lumaroo. The settings window starts it and ends it.
 
 usage: LumarooAgent [--foreground]

@@ -16,4 +16,4 @@ struct AgentRequest
 /// Throws UsageError.
 AgentRequest parseAgentArguments(QStringList arguments);
 
-extern const char *const AgentHelp;
+extern const char *const agentHelp;

@@ -72,7 +72,7 @@ void quit(const AgentRequest &)
 
 void help(const AgentRequest &)
 {
-    print(AgentHelp);
+    print(agentHelp);
 }
 
 void version(const AgentRequest &)

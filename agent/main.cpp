@@ -21,7 +21,7 @@ int main(int argumentCount, char **arguments)
             return runAgent(request.foreground);
         perform(request);
     } catch (const UsageError &error) {
-        std::fprintf(stderr, "LumarooAgent: %s\n%s", error.what(), AgentHelp);
+        std::fprintf(stderr, "LumarooAgent: %s\n%s", error.what(), agentHelp);
         return NotUnderstood;
     } catch (const CommandFailure &failure) {
         std::fprintf(stderr, "LumarooAgent: %s\n", failure.what());

@@ -188,7 +188,7 @@ TEST_F(RunningAgent, doesNotGrowOverAThousandReadings)
     int readings = 1;
     const auto readOften = [&](int upTo) {
         while (readings < upTo) {
-            storeBesideFirstLaunch({{KTXInitialDelay, float(++readings)}, {KTXOverlayColor, QByteArray(5000, 'x')}});
+            store({{KTXInitialDelay, float(++readings) / 1000}, {KTXFirstLaunch, QByteArray(5000, 'x')}});
             paneAnnounces(KTXLMPrefsChanged);
             // Not after each: waiting takes longer than reading.
             if (readings % 50 == 0) {
@@ -198,9 +198,9 @@ TEST_F(RunningAgent, doesNotGrowOverAThousandReadings)
     };
     readOften(200);
     // What the first showing brings along, as the names of keys, is no growth.
-    EXPECT_EQ(runningAgentsSetting(KTXInitialDelay).toDouble(), 200);
+    EXPECT_FLOAT_EQ(runningAgentsSetting(KTXInitialDelay).toDouble(), 0.2);
     const qint64 before = residentKibibytes();
     readOften(1200);
-    EXPECT_EQ(runningAgentsSetting(KTXInitialDelay).toDouble(), 1200);
-    EXPECT_LE(residentKibibytes(), before + 2048); // a copy of the colour alone would be 5000 at each
+    EXPECT_FLOAT_EQ(runningAgentsSetting(KTXInitialDelay).toDouble(), 1.2);
+    EXPECT_LE(residentKibibytes(), before + 2048); // a copy of the data alone would be 5000 at each
 }

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int Screenshot = 6;
+constexpr int screenshot = 6;
 
 /// Counts what arrives of a key that is held: its repeats are releases too.
 class ReleaseCounter : public QObject
@@ -39,14 +39,14 @@ TEST_F(HotKeyOfNoUse, isToldByABeepAndALineAtTheField)
     int beeps = 0;
     for (const int key :
         {KEY_F12, KEY_INSERT, KEY_DELETE, KEY_BACKSPACE, KEY_HOME, KEY_PAGEDOWN, KEY_ESC, KEY_COMPOSE}) {
-        pressIn(Screenshot, key);
+        pressIn(screenshot, key);
         EXPECT_EQ(bell.rings(), ++beeps) << key;
         EXPECT_TRUE(QToolTip::isVisible()) << key;
         EXPECT_TRUE(QToolTip::text().startsWith("This key cannot be used.")) << key;
         press(KEY_LEFTSHIFT);
         EXPECT_TRUE(waitUntil([] { return !QToolTip::isVisible(); })) << key;
     }
-    EXPECT_EQ(shown(Screenshot), "S");
+    EXPECT_EQ(shown(screenshot), "S");
     expectNothingStored();
     EXPECT_FALSE(openAlert());
 }
@@ -54,10 +54,10 @@ TEST_F(HotKeyOfNoUse, isToldByABeepAndALineAtTheField)
 TEST_F(HotKeyOfNoUse, isForgottenWhenAKeyIsTaken)
 {
     showPage();
-    pressIn(Screenshot, KEY_F12);
+    pressIn(screenshot, KEY_F12);
     EXPECT_TRUE(QToolTip::isVisible());
     press(KEY_B);
-    expectTaken(Screenshot, 11, "B");
+    expectTaken(screenshot, 11, "B");
     EXPECT_TRUE(waitUntil([] { return !QToolTip::isVisible(); }));
     EXPECT_EQ(bell.rings(), 1);
 }
@@ -67,7 +67,7 @@ TEST_F(HotKeyOfNoUse, isNoModifierNoLockAndNothingThatMovesTheFocus)
     showPage();
     for (const int key : {KEY_LEFTSHIFT, KEY_RIGHTCTRL, KEY_LEFTALT, KEY_LEFTMETA, KEY_CAPSLOCK, KEY_CAPSLOCK,
              KEY_NUMLOCK, KEY_NUMLOCK, KEY_TAB, KEY_ENTER})
-        pressIn(Screenshot, key);
+        pressIn(screenshot, key);
     EXPECT_EQ(bell.rings(), 0);
     EXPECT_FALSE(QToolTip::isVisible());
     expectNothingStored();
@@ -76,7 +76,7 @@ TEST_F(HotKeyOfNoUse, isNoModifierNoLockAndNothingThatMovesTheFocus)
 TEST_F(HotKeyOfNoUse, isToldOfOnceWhileItStaysDown)
 {
     showPage();
-    focus(Screenshot);
+    focus(screenshot);
     ReleaseCounter releases;
     keyDown(KEY_F12);
     EXPECT_TRUE(waitUntil([&] { return releases.count >= 3; })) << "it repeats";

@@ -87,6 +87,16 @@ TEST_F(SmallHouse, anIncludeOfAnotherRoomsInternalsIsTold)
             Breach{file, 3, rule.arg("x11")}));
 }
 
+TEST_F(SmallHouse, aRoomHasNothingOfWhatItsLibraryKeepsToItself)
+{
+    write("platform/appkit/linux/Inner.h", "");
+    write("platform/appkit/Top.cpp", "#include \"platform/appkit/linux/Inner.h\"\n");
+    write("platform/appkit/room/Room.cpp", "#include \"platform/appkit/linux/Inner.h\"\n");
+    EXPECT_THAT(includesOfOthersInternals(tree()),
+        ElementsAre(Breach{
+            "platform/appkit/room/Room.cpp", 1, "platform/appkit keeps to itself platform/appkit/linux/Inner.h"}));
+}
+
 TEST_F(SmallHouse, aCircleBetweenRoomsIsTold)
 {
     write("platform/foundation/a/A.h", "#include \"platform/foundation/b/B.h\"\n");

@@ -60,6 +60,12 @@ QString ownerOf(const QString &file)
     return internal.match(file).captured(1);
 }
 
+/// What stands on a library's own top belongs to no room of it.
+bool belongsTo(const QString &owner, const QString &file)
+{
+    return owner == layerOf(file) && !roomOf(file).isEmpty() ? roomOf(file) == owner : file.startsWith(owner + u'/');
+}
+
 bool isTest(const QString &file)
 {
     return file.startsWith(u"tests/");
@@ -175,7 +181,7 @@ QList<Breach> includesOfOthersInternals(const SourceTree &tree)
     QList<Breach> breaches;
     for (const Inclusion &inclusion : tree.inclusions()) {
         const QString owner = ownerOf(inclusion.included);
-        if (!owner.isEmpty() && !isTest(inclusion.file) && !inclusion.file.startsWith(owner + u'/'))
+        if (!owner.isEmpty() && !isTest(inclusion.file) && !belongsTo(owner, inclusion.file))
             breaches +=
                 {inclusion.file, inclusion.line, owner + QStringLiteral(" keeps to itself ") + inclusion.included};
     }

@@ -24,8 +24,8 @@ QList<Breach> includesAgainstTheLayers(const SourceTree &tree);
 QList<Breach> includesOfOthersInternals(const SourceTree &tree);
 /// The include that closes a circle between rooms of one library.
 QList<Breach> circlesBetweenRooms(const SourceTree &tree);
-/// Headers on top of a library or of one of its rooms that are no contract: they export nothing, nobody outside includes
-/// them, and no contract does.
+/// Headers on top of a library or of one of its rooms that are no contract: they export nothing, nobody outside
+/// includes them, and no contract does.
 QList<Breach> headersThatExportNothing(const SourceTree &tree);
 /// Sources of more than 300 lines, headers of more than 150.
 QList<Breach> filesThatAreTooLong(const SourceTree &tree);
