@@ -201,7 +201,7 @@ TEST_F(TheCommandLine, helpsAndTellsItsVersionOnStandardOutput)
     for (const QString &option : QStringList{"--help", "-h"}) {
         const ProgramResult help = runAgent({option});
         EXPECT_EQ(help.status, 0);
-        EXPECT_EQ(help.output, AgentHelp);
+        EXPECT_EQ(help.output, agentHelp);
         EXPECT_EQ(help.errors, "");
     }
     const ProgramResult version = runAgent({"--version"});
