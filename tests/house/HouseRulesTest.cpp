@@ -97,6 +97,28 @@ TEST_F(SmallHouse, aRoomHasNothingOfWhatItsLibraryKeepsToItself)
             "platform/appkit/room/Room.cpp", 1, "platform/appkit keeps to itself platform/appkit/linux/Inner.h"}));
 }
 
+TEST_F(SmallHouse, theUpdatersCoreIsALayerOfItsOwn)
+{
+    write("updater/core/Core.h", "");
+    write("updater/Window.h", "");
+    write("updater/Window.cpp", "#include \"updater/core/Core.h\"\n#include \"updater/Window.h\"\n");
+    write("tools/tool.cpp", "#include \"updater/core/Core.h\"\n#include \"updater/Window.h\"\n");
+    write("updater/core/Core.cpp", "#include \"updater/Window.h\"\n");
+    EXPECT_THAT(includesAgainstTheLayers(tree()),
+        ElementsAre(Breach{"tools/tool.cpp", 2, "tools does not include updater/Window.h"},
+            Breach{"updater/core/Core.cpp", 1, "updater/core does not include updater/Window.h"}));
+}
+
+TEST_F(SmallHouse, aLibraryOutOfItsPlaceIsTold)
+{
+    write("updater/core/Core.cpp", "#include <sodium.h>\n#include <archive.h>\n");
+    write("updater/Window.cpp", "#include <archive_entry.h>\n");
+    write("pane/Pane.cpp", "#include <vector>\n#include <sodium.h>\n");
+    EXPECT_THAT(librariesOutOfTheirPlace(tree()),
+        ElementsAre(Breach{"pane/Pane.cpp", 2, "sodium.h is for updater/core alone"},
+            Breach{"updater/Window.cpp", 1, "archive_entry.h is for updater/core alone"}));
+}
+
 TEST_F(SmallHouse, aCircleBetweenRoomsIsTold)
 {
     write("platform/foundation/a/A.h", "#include \"platform/foundation/b/B.h\"\n");

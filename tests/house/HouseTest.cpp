@@ -30,6 +30,11 @@ TEST(House, noRoomReachesIntoAnother)
     EXPECT_THAT(includesOfOthersInternals(house()), IsEmpty());
 }
 
+TEST(House, signaturesAndArchivesAreTheUpdatersAlone)
+{
+    EXPECT_THAT(librariesOutOfTheirPlace(house()), IsEmpty());
+}
+
 TEST(House, roomsOfALibraryFormNoCircle)
 {
     EXPECT_THAT(circlesBetweenRooms(house()), IsEmpty());

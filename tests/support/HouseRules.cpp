@@ -13,6 +13,7 @@ const QString appkit = QStringLiteral("platform/appkit");
 const QString shared = QStringLiteral("KTX classes");
 const QString crashreporter = QStringLiteral("crashreporter");
 const QString updater = QStringLiteral("updater");
+const QString updaterCore = QStringLiteral("updater/core");
 
 /// Whom each layer may include beside itself; tests and benches may include all.
 const QMap<QString, QStringList> &layers()
@@ -22,23 +23,26 @@ const QMap<QString, QStringList> &layers()
         {appkit, {foundation}},
         {shared, {foundation}},
         {crashreporter, {shared, appkit, foundation}},
-        {updater, {appkit, foundation}},
-        {QStringLiteral("pane"), {crashreporter, updater, shared, appkit, foundation}},
+        {updater, {updaterCore, appkit, foundation}},
+        {updaterCore, {foundation}},
+        {QStringLiteral("pane"), {crashreporter, updater, updaterCore, shared, appkit, foundation}},
         {QStringLiteral("host"), {appkit, foundation}},
         {QStringLiteral("agent"), {shared, foundation}},
-        {QStringLiteral("tools"), {shared, foundation}},
+        {QStringLiteral("tools"), {updaterCore, shared, foundation}},
         {QStringLiteral("launcher"), {}},
     };
     return mayInclude;
 }
 
+/// The innermost, where one lies within another.
 QString layerOf(const QString &file)
 {
+    QString innermost;
     for (const QString &layer : layers().keys()) {
-        if (file.startsWith(layer + u'/'))
-            return layer;
+        if (file.startsWith(layer + u'/') && layer.size() > innermost.size())
+            innermost = layer;
     }
-    return {};
+    return innermost;
 }
 
 /// The folder below a platform library that a file stands in; the library itself for what stands on its top, and
@@ -184,6 +188,21 @@ QList<Breach> includesOfOthersInternals(const SourceTree &tree)
         if (!owner.isEmpty() && !isTest(inclusion.file) && !belongsTo(owner, inclusion.file))
             breaches +=
                 {inclusion.file, inclusion.line, owner + QStringLiteral(" keeps to itself ") + inclusion.included};
+    }
+    return breaches;
+}
+
+QList<Breach> librariesOutOfTheirPlace(const SourceTree &tree)
+{
+    static const QRegularExpression header(QStringLiteral("^\\s*#include <(sodium|archive|archive_entry)\\.h>"));
+    QList<Breach> breaches;
+    for (const QString &file : tree.files()) {
+        const QStringList &lines = tree.lines(file);
+        for (int i = 0; i < lines.size(); ++i) {
+            const QString library = header.match(lines.at(i)).captured(1);
+            if (!library.isEmpty() && layerOf(file) != updaterCore)
+                breaches += {file, i + 1, QStringLiteral("%1.h is for %2 alone").arg(library, updaterCore)};
+        }
     }
     return breaches;
 }

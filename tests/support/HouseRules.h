@@ -22,6 +22,8 @@ std::ostream &operator<<(std::ostream &stream, const Breach &breach);
 QList<Breach> includesAgainstTheLayers(const SourceTree &tree);
 /// Includes of what another room keeps to itself: its linux/, x11/ and internal/ folders. Tests look everywhere.
 QList<Breach> includesOfOthersInternals(const SourceTree &tree);
+/// Includes of the libraries for signatures and archives anywhere but in the updater's core.
+QList<Breach> librariesOutOfTheirPlace(const SourceTree &tree);
 /// The include that closes a circle between rooms of one library.
 QList<Breach> circlesBetweenRooms(const SourceTree &tree);
 /// Headers on top of a library or of one of its rooms that are no contract: they export nothing, nobody outside

@@ -96,7 +96,7 @@ TEST_F(InstalledFiles, thePaneHasTheAgentAndTheLibraryItRunsWith)
     const QString agent = contents + "Resources/LumarooAgent.app/Contents/";
     EXPECT_THAT(files(),
         testing::IsSupersetOf({agent + "Info.plist", agent + "Linux/LumarooAgent", contents + "Resources/launcher",
-            contents + "Frameworks/liblumaroo-foundation.so.1",
+            contents + "Resources/installer", contents + "Frameworks/liblumaroo-foundation.so.1",
             QString("share/dbus-1/interfaces/com.quorvane.LumarooAgent.xml")}));
 }
 

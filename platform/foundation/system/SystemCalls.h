@@ -35,7 +35,7 @@ struct SystemCalls
 LM_FOUNDATION SystemCalls &systemCalls();
 
 /// An open file; closed, with whatever result, when it goes.
-class FileDescriptor
+class LM_FOUNDATION FileDescriptor
 {
 public:
     FileDescriptor() = default;

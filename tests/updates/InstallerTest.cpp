@@ -1,0 +1,102 @@
+#include "ProgramResult.h"
+#include "UpdatableBundle.h"
+#include "updater/core/UpdateRecord.h"
+
+#include "platform/foundation/preferences/CFPreferences.h"
+
+#include <QProcess>
+
+// The program that installs a waiting update when nobody else does.
+
+namespace {
+
+class Installer : public UpdatableBundle
+{
+protected:
+    static QString program()
+    {
+        return qEnvironmentVariable("LUMAROO_BUILD") + "/Lumaroo.prefPane/Contents/Resources/installer";
+    }
+    QString recordedProblem() const
+    {
+        CFPreferencesAppSynchronize(updaterDomain);
+        return UpdateRecord().installationProblem();
+    }
+    ProgramResult run() const { return runProgram(program(), {bundle()}); }
+};
+
+} // namespace
+
+TEST_F(Installer, installsWhatWaitsAndLeavesNothingBeside)
+{
+    prepare(101);
+    const ProgramResult result = run();
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errors, "lumaroo: installer: version 101 is installed\n");
+    EXPECT_EQ(wholeVersion(), 101);
+    EXPECT_EQ(beside(), QStringList());
+}
+
+TEST_F(Installer, doesNothingWhereNothingWaits)
+{
+    const ProgramResult result = run();
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errors, "");
+    expectOldBundleAlone();
+}
+
+TEST_F(Installer, waitsForTheEndOfItsInputWhenItIsToldTo)
+{
+    prepare(101);
+    QProcess installer;
+    installer.start(program(), {"--after-input", bundle()});
+    ASSERT_TRUE(installer.waitForStarted());
+    installer.write(QByteArray(1000000, 'x'));
+    while (installer.bytesToWrite() > 0)
+        ASSERT_TRUE(installer.waitForBytesWritten());
+    EXPECT_EQ(wholeVersion(), 100) << "it reads all the while";
+    EXPECT_EQ(installer.state(), QProcess::Running);
+    installer.closeWriteChannel();
+    ASSERT_TRUE(installer.waitForFinished());
+    EXPECT_EQ(installer.exitCode(), 0);
+    EXPECT_EQ(wholeVersion(), 101);
+}
+
+TEST_F(Installer, remembersWhyNothingWasInstalledUntilSomethingIs)
+{
+    prepare(101);
+    write(places().archive(), "something else");
+    const ProgramResult result = run();
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, "lumaroo: installer: version 100 stays: the archive is not the one that was signed\n");
+    EXPECT_EQ(recordedProblem(), "the archive is not the one that was signed");
+    expectOldBundleAlone();
+    prepare(101);
+    EXPECT_EQ(run().status, 0);
+    EXPECT_EQ(recordedProblem(), QString());
+}
+
+TEST_F(Installer, installsNothingAsRoot)
+{
+    prepare(101);
+    const ProgramResult result = runProgram("unshare", {"--user", "--map-root-user", program(), bundle()});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, "lumaroo: installer: version 100 stays: updates are not installed as root\n");
+    EXPECT_EQ(wholeVersion(), 100);
+    EXPECT_TRUE(waitingUpdate(places()));
+}
+
+TEST_F(Installer, needsABundle)
+{
+    for (const QStringList &arguments : {QStringList(), QStringList{"a", "b"}, QStringList{"--after-input"},
+             QStringList{"--other", "a"}, QStringList{"-x"}})
+        EXPECT_EQ(runProgram(program(), arguments).status, 2) << arguments.join(' ').toStdString();
+}
+
+TEST_F(Installer, neitherLoadsTheNetworkNorAWindow)
+{
+    const ProgramResult result = runProgram("ldd", {program()});
+    EXPECT_NE(result.output.find("libQt6Core"), std::string::npos);
+    for (const char *library : {"libQt6Network", "libQt6Gui", "libQt6Widgets"})
+        EXPECT_EQ(result.output.find(library), std::string::npos) << library;
+}

@@ -1,0 +1,88 @@
+#include "updater/core/Installation.h"
+
+#include "updater/core/InstalledBundle.h"
+#include "updater/core/WaitingUpdate.h"
+#include "updater/core/linux/BundleExchange.h"
+#include "updater/core/linux/MappedFiles.h"
+#include "updater/core/linux/SystemProblem.h"
+
+#include <QDir>
+
+namespace {
+
+using Kind = UpdateProblem::Kind;
+
+/// The archive will not get better by waiting.
+bool isForGood(const UpdateProblem &problem)
+{
+    return problem.kind == Kind::Signature || problem.kind == Kind::Contents || problem.kind == Kind::NoKey;
+}
+
+UpdateProblem changePlaces(const UpdatePlaces &places, const QString &newBundle)
+{
+    const QString unsecured = secureFileSystem(newBundle);
+    if (!unsecured.isEmpty())
+        return {Kind::Storage, unsecured};
+    const QString notExchanged = exchangeFolders(newBundle, places.bundle());
+    return notExchanged.isEmpty() ? UpdateProblem{} : UpdateProblem{Kind::Exchange, notExchanged};
+}
+
+UpdateProblem install(const UpdatePlaces &places, const ExpectedUpdate &expected)
+{
+    // The room that it takes on the disk is needed now.
+    QDir(places.unpacked()).removeRecursively();
+    const QString aside = newPrivateFolder(places.asideStart());
+    if (aside.isEmpty())
+        return {Kind::Storage, systemProblem("mkdtemp")};
+    QString newBundle;
+    UpdateProblem problem = unpackVerified(places, expected, aside, &newBundle);
+    if (problem.isNone())
+        problem = changePlaces(places, newBundle);
+    if (!problem.isNone())
+        QDir(aside).removeRecursively();
+    return problem;
+}
+
+void removeOldBundles(const UpdatePlaces &places)
+{
+    for (const QString &aside : places.aside()) {
+        if (!isMappedByAnyProcess(aside))
+            QDir(aside).removeRecursively();
+    }
+}
+
+UpdateProblem busy(const QString &bundle)
+{
+    return {Kind::Busy, QStringLiteral("another process is about to update %1").arg(bundle)};
+}
+
+} // namespace
+
+Installation installWaitingUpdate(const QString &bundlePath)
+{
+    const UpdatePlaces places(InstalledBundle(bundlePath).path);
+    const std::optional<ExpectedUpdate> expected = waitingUpdate(places);
+    if (places.bundle().isEmpty() || !expected)
+        return {};
+    const UpdateProblem refusal = problemOfUpdating(bundlePath);
+    if (!refusal.isNone())
+        return {InstalledBundle(bundlePath).version, refusal};
+    const FolderLock lock(places.folder());
+    const UpdateProblem problem = lock ? install(places, *expected) : busy(places.bundle());
+    if (problem.isNone() || isForGood(problem))
+        removeWaitingUpdate(places);
+    if (problem.isNone())
+        secureFileSystem(places.folder());
+    return {InstalledBundle(bundlePath).version, problem};
+}
+
+void removeWhatIsOver(const QString &bundlePath)
+{
+    const UpdatePlaces places(InstalledBundle(bundlePath).path);
+    const FolderLock lock(places.folder());
+    if (places.bundle().isEmpty() || !problemOfUpdating(bundlePath).isNone() || !lock)
+        return;
+    removeOldBundles(places);
+    if (!waitingUpdate(places))
+        removeWaitingUpdate(places);
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "updater/core/UpdatePlaces.h"
+#include "updater/core/UpdateProblem.h"
+
+/// What came of installing a waiting update.
+struct Installation
+{
+    QString version; ///< that stands at the bundle's path now; empty where nothing was waiting
+    UpdateProblem problem; ///< then the old bundle stands untouched
+};
+
+/// Installs the update that waits for a bundle, if there is one: verifies its archive again, unpacks that afresh, and
+/// has the two bundles change places in one step. Whenever the process dies, the bundle is the old or the new one,
+/// whole.
+///
+/// The old bundle stays aside for the processes that run its code. An update that turns out to be no genuine or no
+/// newer one is removed; one that the disk has no room for waits on. Takes as long as unpacking does; blocks.
+Installation installWaitingUpdate(const QString &bundlePath);
+
+/// Removes the old bundles of which no process runs code any more, and updates that were not completed. Does nothing
+/// while another process updates the bundle.
+void removeWhatIsOver(const QString &bundlePath);

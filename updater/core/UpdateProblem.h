@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+/// Why a check, a preparation or an installation came to nothing.
+struct UpdateProblem
+{
+    enum class Kind {
+        None,
+        Feed, ///< it cannot be fetched or read
+        Download, ///< the archive cannot be fetched
+        Storage, ///< a folder or file cannot be written: a full disk, mostly
+        NoKey, ///< the installed bundle does not say whose signature counts
+        Signature, ///< the archive is not the one that the maker has signed
+        Archive, ///< it holds what is not unpacked, or is damaged
+        Contents, ///< what is in it is not what the feed said, or no update of what is installed
+        NotWritable, ///< the bundle is not this user's to change: it was installed for everybody
+        Superuser, ///< updates are not installed as root
+        Busy, ///< another process is about to update the bundle
+        Exchange, ///< the last step: the two bundles cannot change places
+    };
+    Kind kind = Kind::None;
+    QString detail; ///< in English, for the log and for who wants to know more
+
+    bool isNone() const { return kind == Kind::None; }
+    bool operator==(const UpdateProblem &) const = default;
+};

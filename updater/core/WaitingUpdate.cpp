@@ -1,0 +1,115 @@
+#include "updater/core/WaitingUpdate.h"
+
+#include "platform/foundation/propertylists/PropertyList.h"
+#include "updater/core/Appcast.h"
+#include "updater/core/InstalledBundle.h"
+#include "updater/core/Signature.h"
+#include "updater/core/UpdateArchive.h"
+#include "updater/core/linux/BundleExchange.h"
+#include "updater/core/linux/SealedFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+
+namespace {
+
+using Kind = UpdateProblem::Kind;
+
+constexpr qint64 largestRecord = qint64(64) * 1024;
+
+const QString versionKey = QStringLiteral("Version");
+const QString displayVersionKey = QStringLiteral("DisplayVersion");
+const QString signatureKey = QStringLiteral("Signature");
+const QString lengthKey = QStringLiteral("Length");
+const QString platformVersionKey = QStringLiteral("PlatformVersion");
+
+UpdateProblem problem(Kind kind, const QString &detail)
+{
+    return detail.isEmpty() ? UpdateProblem{} : UpdateProblem{kind, detail};
+}
+
+UpdateProblem writeRecord(const UpdatePlaces &places, const ExpectedUpdate &expected)
+{
+    const QVariantMap values{{versionKey, expected.version}, {displayVersionKey, expected.displayVersion},
+        {signatureKey, expected.signature}, {lengthKey, expected.length},
+        {platformVersionKey, qlonglong(expected.platformVersion)}};
+    // The record makes the rest count: that has to be on the disk before it.
+    const QString unsecured = secureFileSystem(places.waiting());
+    if (!unsecured.isEmpty())
+        return {Kind::Storage, unsecured};
+    QSaveFile file(places.record());
+    const QByteArray bytes = writeBinaryPropertyList(values);
+    const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    return problem(Kind::Storage, isWritten ? QString() : file.errorString());
+}
+
+UpdateProblem prepare(const UpdatePlaces &places, const ExpectedUpdate &expected)
+{
+    const QString notMade = makePrivateFolder(places.unpacked());
+    if (!notMade.isEmpty())
+        return {Kind::Storage, notMade};
+    QString bundle;
+    const UpdateProblem unusable = unpackVerified(places, expected, places.unpacked(), &bundle);
+    return unusable.isNone() ? writeRecord(places, expected) : unusable;
+}
+
+} // namespace
+
+UpdateProblem beginWaitingUpdate(const UpdatePlaces &places)
+{
+    removeWaitingUpdate(places);
+    return problem(Kind::Storage, makePrivateFolder(places.waiting()));
+}
+
+UpdateProblem completeWaitingUpdate(const UpdatePlaces &places, const ExpectedUpdate &expected)
+{
+    const UpdateProblem unusable = prepare(places, expected);
+    if (!unusable.isNone())
+        removeWaitingUpdate(places);
+    return unusable;
+}
+
+std::optional<ExpectedUpdate> waitingUpdate(const UpdatePlaces &places)
+{
+    QFile file(places.record());
+    if (!file.open(QIODevice::ReadOnly) || file.size() > largestRecord)
+        return std::nullopt;
+    const QVariantMap values = readPropertyList(file.readAll()).value.toMap();
+    const ExpectedUpdate expected{values.value(versionKey).toString(), values.value(displayVersionKey).toString(),
+        values.value(signatureKey).toByteArray(), values.value(lengthKey).toLongLong(),
+        values.value(platformVersionKey).toInt()};
+    return expected.version.isEmpty() ? std::nullopt : std::optional(expected);
+}
+
+void removeWaitingUpdate(const UpdatePlaces &places)
+{
+    // Without its record it is none any more, however far the rest comes.
+    QFile::remove(places.record());
+    QDir(places.waiting()).removeRecursively();
+}
+
+UpdateProblem unpackVerified(
+    const UpdatePlaces &places, const ExpectedUpdate &expected, const QString &into, QString *bundle)
+{
+    const InstalledBundle installed(places.bundle());
+    if (installed.publicKey.isEmpty())
+        return {Kind::NoKey, QStringLiteral("%1 names no key for updates").arg(installed.path)};
+    const SealedFile archive = SealedFile::copyOf(places.archive(), largestUpdateArchive);
+    if (!archive)
+        return {Kind::Storage, archive.problem()};
+    const bool isGenuine = archive.bytes().size() == expected.length
+        && isSignedBy(installed.publicKey, archive.bytes(), expected.signature);
+    if (!isGenuine)
+        return {Kind::Signature, QStringLiteral("the archive is not the one that was signed")};
+    const ArchiveListing listing = listUpdateArchive(archive.bytes());
+    if (!listing)
+        return {Kind::Archive, listing.error};
+    // There is nothing wrong with the archive, so it is the disk.
+    const QString notUnpacked = unpackUpdateArchive(archive.bytes(), into);
+    if (!notUnpacked.isEmpty())
+        return {Kind::Storage, notUnpacked};
+    *bundle = into + u'/' + listing.bundle;
+    return problemOfBundle(
+        *bundle, {installed.identifier, expected.version, installed.version, expected.platformVersion});
+}

@@ -1,0 +1,63 @@
+// Installs the update that waits for a bundle, and removes what earlier updates have left beside it:
+//   installer BUNDLE
+//   installer --after-input BUNDLE
+// With the option it first waits for the end of its standard input, a pipe whose other end the settings application
+// holds for as long as it lives. Exit status: 0 done or nothing to do, 1 not installed (the log tells why), 2 the
+// command line makes no sense.
+
+#include "platform/foundation/system/NSLog.h"
+#include "updater/core/Installation.h"
+#include "updater/core/UpdateRecord.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <cstdio>
+
+namespace {
+
+enum ExitStatus { Done = 0, NotDone = 1, NotUnderstood = 2 };
+
+/// False where it cannot be read: then nobody knows whether the settings have ended.
+bool waitForEndOfInput()
+{
+    QFile input;
+    if (!input.open(stdin, QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return false;
+    char ignored[256];
+    qint64 size = 0;
+    while ((size = input.read(ignored, sizeof ignored)) > 0) { }
+    return size == 0;
+}
+
+int install(const QString &bundle)
+{
+    const Installation installation = installWaitingUpdate(bundle);
+    removeWhatIsOver(bundle);
+    if (installation.version.isEmpty())
+        return Done;
+    UpdateRecord().noteInstallation(installation.problem.detail);
+    if (installation.problem.isNone())
+        NSLog(QStringLiteral("lumaroo: installer: version %1 is installed").arg(installation.version));
+    else
+        NSLog(QStringLiteral("lumaroo: installer: version %1 stays: %2")
+                  .arg(installation.version, installation.problem.detail));
+    return installation.problem.isNone() ? Done : NotDone;
+}
+
+} // namespace
+
+int main(int argumentCount, char **argumentVector)
+{
+    const QCoreApplication application(argumentCount, argumentVector);
+    QStringList arguments = QCoreApplication::arguments().mid(1);
+    const bool waits = arguments.removeOne(QStringLiteral("--after-input"));
+    if (arguments.size() != 1 || arguments.first().startsWith(u'-')) {
+        std::fputs("usage: installer [--after-input] BUNDLE\n", stderr);
+        return NotUnderstood;
+    }
+    if (waits && !waitForEndOfInput()) {
+        NSLog(QStringLiteral("lumaroo: installer: cannot read its input; nothing is installed"));
+        return NotDone;
+    }
+    return install(arguments.first());
+}
