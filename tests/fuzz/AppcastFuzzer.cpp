@@ -18,7 +18,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t size)
         if (!isBundleVersion(item.version) || (!isInstallable && !isInformationalFor(item, QStringLiteral("5"))))
             std::abort();
     }
-    const UpdateChoice choice = chooseUpdate(reading.items, {.installedVersion = QStringLiteral("5")});
+    UpdateCircumstances circumstances;
+    circumstances.installedVersion = QStringLiteral("5");
+    const UpdateChoice choice = chooseUpdate(reading.items, circumstances);
     if (choice.item && !isNewer(choice.item->version, QStringLiteral("5")))
         std::abort();
     return 0;
