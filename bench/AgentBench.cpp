@@ -93,7 +93,7 @@ void storeEverything()
 
 bool storeChange(int number)
 {
-    CFPreferencesSetAppValue(KTXInitialDelay, float(number), KTXLMAppID);
+    CFPreferencesSetAppValue(KTXInitialDelay, float(number) / 1024, KTXLMAppID);
     return CFPreferencesAppSynchronize(KTXLMAppID);
 }
 
