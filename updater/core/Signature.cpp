@@ -37,7 +37,8 @@ QByteArray bytesOfBase64(const QByteArray &text, qsizetype size)
 {
     const auto decoding = QByteArray::fromBase64Encoding(text, QByteArray::AbortOnBase64DecodingErrors);
     // Written again it is the same text: no blank, nothing after the padding, one way to write it.
-    return decoding && decoding.decoded.size() == size && decoding.decoded.toBase64() == text ? decoding.decoded : QByteArray();
+    return decoding && decoding.decoded.size() == size && decoding.decoded.toBase64() == text ? decoding.decoded
+                                                                                              : QByteArray();
 }
 
 bool isSignedBy(const QByteArray &publicKey, const QByteArray &bytes, const QByteArray &signature)
