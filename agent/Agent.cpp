@@ -1,7 +1,6 @@
 #include "agent/Agent.h"
 
 #include "KTXConstants.h"
-#include "agent/AgentSettings.h"
 #include "agent/NewerAgent.h"
 #include "agent/linux/AgentName.h"
 #include "agent/linux/ProgramReplacement.h"
@@ -64,8 +63,8 @@ void Agent::readSettings()
     // Its keys are another agent's already.
     if (hasEnded_)
         return;
-    settings_ = effectiveSettings(NSUserDefaults::standardUserDefaults()->persistentDomainForName(KTXLMAppID));
-    hotKeys_.apply(settings_);
+    settings_.follow(NSUserDefaults::standardUserDefaults()->persistentDomainForName(KTXLMAppID));
+    hotKeys_.apply(settings());
     ++readings_;
     Q_EMIT settingsRead();
 }
@@ -81,7 +80,7 @@ void Agent::readChange()
 void Agent::markFirstLaunch()
 {
     // A mark that could not be stored is seen by us alone, and tried again.
-    if (settings_.value(KTXFirstLaunch).isValid() && !markIsPending_)
+    if (settings().value(KTXFirstLaunch).isValid() && !markIsPending_)
         return;
     CFPreferencesSetAppValue(KTXFirstLaunch, true, KTXLMAppID);
     markIsPending_ = !CFPreferencesAppSynchronize(KTXLMAppID);
@@ -156,7 +155,7 @@ void Agent::goOn(const QString &program, const QString &error)
               .arg(program, error)
               .arg(version_));
     if (name_.takeAtOnce()) {
-        hotKeys_.apply(settings_);
+        hotKeys_.apply(settings());
         announceLaunch();
         return;
     }

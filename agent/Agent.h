@@ -1,6 +1,7 @@
 #pragma once
 
 #include "agent/AgentHotKeys.h"
+#include "agent/AgentSettings.h"
 
 #include <QObject>
 #include <QVariantMap>
@@ -18,7 +19,7 @@ public:
 
     int version() const { return version_; }
     /// Each key of the domain with the value to go by, as of the last reading.
-    const QVariantMap &settings() const { return settings_; }
+    const QVariantMap &settings() const { return settings_.values(); }
     qint64 readings() const { return readings_; }
     /// The keys of its actions, and whether they work.
     const AgentHotKeys &hotKeys() const { return hotKeys_; }
@@ -54,7 +55,7 @@ private:
     AgentName &name_;
     const QString bundlePath_;
     const int version_;
-    QVariantMap settings_;
+    EffectiveSettings settings_;
     AgentHotKeys hotKeys_;
     qint64 readings_ = 0;
     bool hasEnded_ = false;

@@ -7,6 +7,7 @@
 #include "platform/foundation/colors/NSArchiver.h"
 #include "platform/foundation/propertylists/CFTypeID.h"
 #include "platform/foundation/propertylists/NSNumber.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 #include <algorithm>
 
@@ -61,6 +62,12 @@ QVariant accepted(const KTXSetting &setting, const QVariant &value)
     return value;
 }
 
+QVariant effectiveValue(const KTXSetting &setting, const QVariant &stored)
+{
+    const QVariant value = stored.isValid() ? accepted(setting, stored) : QVariant();
+    return value.isValid() ? value : setting.defaultValue;
+}
+
 /// In the order of a dictionary, which is then filled at its end without a search.
 QList<KTXSetting> sortedSettings()
 {
@@ -70,16 +77,53 @@ QList<KTXSetting> sortedSettings()
     return settings;
 }
 
+const QList<KTXSetting> &settingsInOrder()
+{
+    static const QList<KTXSetting> settings = sortedSettings();
+    return settings;
+}
+
+/// Null for a key that nobody agreed on.
+const KTXSetting *settingOf(const QString &key)
+{
+    const auto found = std::lower_bound(settingsInOrder().cbegin(), settingsInOrder().cend(), key,
+        [](const KTXSetting &setting, const QString &wanted) { return setting.key < wanted; });
+    return found != settingsInOrder().cend() && found->key == key ? &*found : nullptr;
+}
+
+/// By one walk through both: mostly one key of some forty differs.
+QStringList differingKeys(const QVariantMap &left, const QVariantMap &right)
+{
+    QStringList keys;
+    auto one = left.cbegin();
+    auto other = right.cbegin();
+    while (one != left.cend() || other != right.cend()) {
+        const int order = one == left.cend() ? 1 : other == right.cend() ? -1 : one.key().compare(other.key());
+        if (order != 0 || !isEqualPropertyList(*one, *other))
+            keys.append(order <= 0 ? one.key() : other.key());
+        if (order <= 0)
+            ++one;
+        if (order >= 0)
+            ++other;
+    }
+    return keys;
+}
+
 } // namespace
 
 QVariantMap effectiveSettings(const QVariantMap &stored)
 {
-    static const QList<KTXSetting> settings = sortedSettings();
     QVariantMap effective;
-    for (const KTXSetting &setting : settings) {
-        const auto found = stored.constFind(setting.key);
-        const QVariant value = found == stored.cend() ? QVariant() : accepted(setting, *found);
-        effective.insert(effective.cend(), setting.key, value.isValid() ? value : setting.defaultValue);
-    }
+    for (const KTXSetting &setting : settingsInOrder())
+        effective.insert(effective.cend(), setting.key, effectiveValue(setting, stored.value(setting.key)));
     return effective;
+}
+
+void EffectiveSettings::follow(const QVariantMap &stored)
+{
+    for (const QString &key : differingKeys(stored_, stored)) {
+        if (const KTXSetting *setting = settingOf(key))
+            values_.insert(key, effectiveValue(*setting, stored.value(key)));
+    }
+    stored_ = stored;
 }

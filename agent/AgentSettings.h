@@ -6,3 +6,15 @@
 /// default either. For whatever is stored that is what the settings window shows. Keys that nobody agreed on are left
 /// out.
 QVariantMap effectiveSettings(const QVariantMap &stored);
+
+/// The same from change to change: only what differs from before is worked out anew.
+class EffectiveSettings
+{
+public:
+    void follow(const QVariantMap &stored);
+    const QVariantMap &values() const { return values_; }
+
+private:
+    QVariantMap stored_;
+    QVariantMap values_ = effectiveSettings({});
+};

@@ -69,6 +69,26 @@ TEST(AgentSettings, ofAnEmptyDomainAreTheDefaultsThatThePaneWrites)
     EXPECT_FALSE(settings.value(KTXFirstLaunch).isValid());
 }
 
+TEST(AgentSettings, areTheSameFromChangeToChangeAsWorkedOutAtOnce)
+{
+    const QVariantList values{true, qlonglong(1), false, qlonglong(0), 1.0F, 1.0, "YES", "Center", QVariant(),
+        QVariantMap{{KTXKeycode, "13"}}, QVariantMap{{KTXKeycode, "14"}}, QVariantMap(), colorSample("S001"),
+        systemColorArchive(), QByteArray("no colour")};
+    EffectiveSettings settings;
+    EXPECT_TRUE(isEqualPropertyList(settings.values(), effectiveSettings({})));
+    QVariantMap stored;
+    for (const KTXSetting &setting : KTXSettings()) {
+        for (const QVariant &value : values) {
+            stored.insert(setting.key, value);
+            settings.follow(stored);
+            EXPECT_TRUE(isEqualPropertyList(settings.values(), effectiveSettings(stored)))
+                << setting.key.toStdString() << ": " << value.typeName();
+        }
+    }
+    settings.follow({});
+    EXPECT_TRUE(isEqualPropertyList(settings.values(), effectiveSettings({}))) << "all removed";
+}
+
 TEST(AgentSettings, areWhatIsStoredWhereItIsOfTheRightType)
 {
     const QVariantMap stored{{KTXShouldDebug, true}, {KTXFirstLaunch, "long ago"}, {KTXModifierMask, qlonglong(0x100)},

@@ -38,12 +38,14 @@ bool readAll(int descriptor, qint64 expectedSize, QByteArray *bytes)
     qint64 portion = std::min(expectedSize + 1, limit);
     while (bytes->size() < limit) {
         const qint64 size = bytes->size();
-        bytes->resize(std::min(size + portion, limit));
-        const ssize_t count = uninterrupted(
-            [&] { return systemCalls().pread(descriptor, bytes->data() + size, size_t(bytes->size() - size), size); });
+        const qint64 asked = std::min(portion, limit - size);
+        bytes->resize(size + asked);
+        const ssize_t count =
+            uninterrupted([&] { return systemCalls().pread(descriptor, bytes->data() + size, size_t(asked), size); });
         bytes->resize(size + std::max(ssize_t(0), count));
-        if (count <= 0)
-            return count == 0;
+        const bool endsAsExpected = count < asked && bytes->size() == expectedSize;
+        if (count <= 0 || endsAsExpected)
+            return count >= 0;
         portion = laterPortion;
     }
     return true;
