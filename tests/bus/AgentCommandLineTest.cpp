@@ -112,8 +112,7 @@ TEST_F(TheCommandLine, announcesAChangeOnTheAgentsSide)
 TEST_F(TheCommandLine, hasTheRunningAgentReadAChangeBeforeItIsAnnounced)
 {
     AgentProgram agent;
-    ASSERT_TRUE(agent.waitForLaunch());
-    recorder.clear();
+    ASSERT_TRUE(waitForLaunchOf(agent));
     EXPECT_EQ(runAgent({"--set", KTXHSort, "Center"}).status, 0);
     EXPECT_EQ(runningAgentsSetting(KTXHSort).toString(), "Center");
     EXPECT_EQ(runningAgent().value("readings").toInt(), 2);

@@ -16,11 +16,7 @@ namespace {
 class RunningAgent : public AgentSessionAfterFirstLaunch
 {
 protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(agent.waitForLaunch());
-        recorder.clear();
-    }
+    void SetUp() override { ASSERT_TRUE(waitForLaunchOf(agent)); }
 
     /// As a pane that is opening, and then finds no mark of a first launch in its store.
     void askAsOnAFirstRun()
@@ -110,7 +106,7 @@ TEST_F(AgentSessionAfterFirstLaunch, anAgentThatCannotStartAnewGoesOn)
 {
     const AgentBundle bundle(120);
     AgentProgram agent({"--foreground"}, bundle.executable());
-    ASSERT_TRUE(agent.waitForLaunch());
+    ASSERT_TRUE(waitForLaunchOf(agent));
     ASSERT_TRUE(QFile::remove(settingsPath()));
     ASSERT_TRUE(QFile::remove(bundle.executable()));
     paneAnnounces(KTXLMPrefPaneLaunched);
@@ -139,7 +135,7 @@ TEST_F(RunningAgent, announcesItsEndWhenASignalEndsIt)
         std::optional<AgentProgram> another;
         if (!agent.isRunning()) {
             another.emplace();
-            ASSERT_TRUE(another->waitForLaunch());
+            ASSERT_TRUE(waitForLaunchOf(*another));
             current = &*another;
         }
         recorder.clear();

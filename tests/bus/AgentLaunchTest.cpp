@@ -141,8 +141,7 @@ TEST_F(AgentForTheFirstTime, marksItAtTheNextChangeWhenNothingCouldBeWrittenBefo
 TEST_F(Agent, aSecondOneEndsWithALineAndWithoutAWordToThePane)
 {
     AgentProgram first;
-    ASSERT_TRUE(first.waitForLaunch());
-    recorder.clear();
+    ASSERT_TRUE(waitForLaunchOf(first));
     for (const QStringList &arguments : {QStringList(), QStringList("--foreground")}) {
         const ProgramResult second = runAgent(arguments);
         EXPECT_EQ(second.status, 0);
@@ -171,10 +170,9 @@ TEST_F(Agent, ofSeveralStartedAtOnceOneRuns)
 TEST_F(Agent, startsAtOnceAfterOneThatWasKilled)
 {
     AgentProgram first;
-    ASSERT_TRUE(first.waitForLaunch());
+    ASSERT_TRUE(waitForLaunchOf(first));
     first.signal(SIGKILL);
     EXPECT_EQ(first.exitStatus(), -1);
-    recorder.clear();
     const AgentProgram second;
     EXPECT_TRUE(announces({launched()}));
 }

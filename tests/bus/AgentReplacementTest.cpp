@@ -13,11 +13,7 @@ namespace {
 class AgentWhoseBundleChanges : public AgentSessionAfterFirstLaunch
 {
 protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(agent.waitForLaunch());
-        recorder.clear();
-    }
+    void SetUp() override { ASSERT_TRUE(waitForLaunchOf(agent)); }
 
     /// The pane is opened, and the agent has had the time to do whatever it does then.
     void openPane()

@@ -53,6 +53,14 @@ testing::AssertionResult AgentSession::announces(const QList<BusNotification> &e
     return testing::AssertionFailure() << "announced: " << recorder.names().join(", ").toStdString();
 }
 
+bool AgentSession::waitForLaunchOf(AgentProgram &agent)
+{
+    const bool isLaunched =
+        agent.waitForLaunch() && waitUntil([this] { return recorder.names().contains(KTXLMAgentLaunched); });
+    recorder.clear();
+    return isLaunched;
+}
+
 void AgentSession::paneAnnounces(const QString &name)
 {
     recorder.post(name, KTXLMAppID);

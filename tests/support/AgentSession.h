@@ -21,6 +21,8 @@ public:
 
     /// Waits until exactly these notifications have been seen since the last clear().
     testing::AssertionResult announces(const QList<BusNotification> &expected);
+    /// Waits until an agent runs and the bus has carried what it announced at its start; from then on is recorded.
+    bool waitForLaunchOf(AgentProgram &agent);
     /// As the pane announces something.
     void paneAnnounces(const QString &name);
 
