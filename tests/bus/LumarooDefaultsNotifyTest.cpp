@@ -8,12 +8,12 @@
 
 namespace {
 
-const QString Changed = "Lumaroo Preferences Changed";
-const QString Domain = "com.quorvane.Lumaroo";
+const QString changed = "Lumaroo Preferences Changed";
+const QString domainOfAgent = "com.quorvane.Lumaroo";
 
 QList<BusNotification> bothSides(const QString &domain)
 {
-    return {{Changed, "com.quorvane.LumarooAgent", {}, true}, {Changed, domain, {}, true}};
+    return {{changed, "com.quorvane.LumarooAgent", {}, true}, {changed, domain, {}, true}};
 }
 
 } // namespace
@@ -22,11 +22,11 @@ TEST(LumarooDefaultsNotify, aChangeIsAnnouncedToTheWindowThenToTheAgent)
 {
     BusRecorder recorder;
     EXPECT_EQ(runDefaults({"--notify", "write", "Debug", "-bool", "yes"}).status, 0);
-    EXPECT_EQ(recorder.notifications(), bothSides(Domain));
-    EXPECT_TRUE(CFPreferencesGetAppBooleanValue("Debug", Domain));
+    EXPECT_EQ(recorder.notifications(), bothSides(domainOfAgent));
+    EXPECT_TRUE(CFPreferencesGetAppBooleanValue("Debug", domainOfAgent));
     recorder.clear();
     EXPECT_EQ(runDefaults({"delete", "Debug", "--notify"}).status, 0);
-    EXPECT_EQ(recorder.notifications(), bothSides(Domain));
+    EXPECT_EQ(recorder.notifications(), bothSides(domainOfAgent));
 }
 
 TEST(LumarooDefaultsNotify, aChangeOfAnotherDomainCarriesItsName)

@@ -10,8 +10,8 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(qEnvironmentVariableIsSet("LUMAROO_SMALL_DISK"));
-        CFPreferencesSetAppValue("key", "old", Domain);
-        ASSERT_TRUE(CFPreferencesAppSynchronize(Domain));
+        CFPreferencesSetAppValue("key", "old", testDomain);
+        ASSERT_TRUE(CFPreferencesAppSynchronize(testDomain));
     }
 
     void fillTheDisk()
@@ -30,16 +30,16 @@ TEST_F(SettingsOnAFullDisk, theOldFileStaysWholeAndTheChangesWaitUntilThereIsRoo
 {
     fillTheDisk();
     const QByteArray before = contentOf(path());
-    CFPreferencesSetAppValue("key", "new", Domain);
-    EXPECT_FALSE(CFPreferencesAppSynchronize(Domain));
-    EXPECT_FALSE(CFPreferencesAppSynchronize(Domain));
+    CFPreferencesSetAppValue("key", "new", testDomain);
+    EXPECT_FALSE(CFPreferencesAppSynchronize(testDomain));
+    EXPECT_FALSE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_EQ(log.linesContaining("No space left on device").size(), 1);
     EXPECT_EQ(log.lines().size(), 1);
     log.clear();
     EXPECT_EQ(contentOf(path()), before);
-    EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain), QVariant("new"));
+    EXPECT_EQ(CFPreferencesCopyAppValue("key", testDomain), QVariant("new"));
     clearTheDisk();
-    EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
+    EXPECT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_EQ(stored(), (QVariantMap{{"key", "new"}}));
 }
 
@@ -52,17 +52,17 @@ TEST_F(SettingsOnAFullDisk, aReplacementOfTheDomainWaitsUntilThereIsRoom)
     EXPECT_EQ(stored(), (QVariantMap{{"key", "old"}}));
     EXPECT_EQ(wholeDomain(), (QVariantMap{{"other", "new"}}));
     clearTheDisk();
-    EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
+    EXPECT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_EQ(stored(), (QVariantMap{{"other", "new"}}));
 }
 
 TEST_F(SettingsOnAFullDisk, settingsLargerThanTheDiskStayPending)
 {
-    CFPreferencesSetAppValue("large", QByteArray(300 * 1024, 'x'), Domain);
-    EXPECT_FALSE(CFPreferencesAppSynchronize(Domain));
+    CFPreferencesSetAppValue("large", QByteArray(300 * 1024, 'x'), testDomain);
+    EXPECT_FALSE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_EQ(log.lines().size(), 1);
     log.clear();
     EXPECT_EQ(stored(), (QVariantMap{{"key", "old"}}));
-    CFPreferencesSetAppValue("large", QVariant(), Domain);
-    EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
+    CFPreferencesSetAppValue("large", QVariant(), testDomain);
+    EXPECT_TRUE(CFPreferencesAppSynchronize(testDomain));
 }

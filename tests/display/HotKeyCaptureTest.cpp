@@ -11,8 +11,6 @@
 
 namespace {
 
-enum Row { Up, Right, Down, Left, Under, OpenPrefPane, Screenshot, CloseWindow, Preview, Cancel, Snap, RowCount };
-
 class HotKeyCapture : public PaneOnHotKeyPage
 {
 protected:

@@ -11,8 +11,6 @@
 
 namespace {
 
-enum Row { Up, Right, Down, Left, Under };
-
 constexpr int agentPage = 0;
 constexpr int hotKeyPage = 1;
 

@@ -17,7 +17,6 @@
 
 namespace {
 
-constexpr int screenshot = 6;
 constexpr int lastKeycode = 255;
 
 enum class Outcome { TakenAsTyped, TakenAsCommand, FocusMoved, Nothing };
@@ -29,14 +28,14 @@ protected:
     Outcome outcomeOf(int evdevCode, int code)
     {
         giveItNoKey();
-        focus(screenshot);
+        focus(Screenshot);
         pane().commands.clear();
         press(evdevCode);
         if (isLock(evdevCode))
             press(evdevCode);
-        if (focusedRow() != screenshot)
+        if (focusedRow() != Screenshot)
             return Outcome::FocusMoved;
-        if (keyCode(screenshot) != code)
+        if (keyCode(Screenshot) != code)
             return Outcome::Nothing;
         return pane().commands.isEmpty() ? Outcome::TakenAsTyped : Outcome::TakenAsCommand;
     }
@@ -131,9 +130,9 @@ TEST_F(HotKeyFieldGets, everyKeyThatAFieldTakesIsStoredUnderItsCode)
     for (const SendableKey &key : sendableKeys()) {
         if (!taken().count(key.row.code))
             continue;
-        pressIn(screenshot, key.evdev);
-        expectTaken(screenshot, key.row.code, labelOf(key.row));
-        EXPECT_EQ(focusedRow(), screenshot) << key.row.code;
+        pressIn(Screenshot, key.evdev);
+        expectTaken(Screenshot, key.row.code, labelOf(key.row));
+        EXPECT_EQ(focusedRow(), Screenshot) << key.row.code;
         giveItNoKey(); // some codes are those of two keys
     }
 }
@@ -150,8 +149,8 @@ TEST_F(HotKeyFieldGets, theKeyOfItsNameOnAKeyboardThatNumbersKeysOtherwise)
         if (!taken().count(row.code) || !keycode)
             continue;
         moved += *keycode != row.evdev + evdevToX11;
-        pressIn(screenshot, *keycode - evdevToX11);
-        expectTaken(screenshot, row.code, labelOf(row));
+        pressIn(Screenshot, *keycode - evdevToX11);
+        expectTaken(Screenshot, row.code, labelOf(row));
     }
     EXPECT_GE(moved, 6) << "the arrows, Enter and the divide sign of the keypad";
 }
@@ -159,21 +158,21 @@ TEST_F(HotKeyFieldGets, theKeyOfItsNameOnAKeyboardThatNumbersKeysOtherwise)
 TEST_F(HotKeyFieldGets, everyOtherKeyLeavesTheFieldAsItWas)
 {
     storeNoKeys();
-    storeKey(screenshot, 0);
+    storeKey(Screenshot, 0);
     showPage();
     for (const SendableKey &key : sendableKeys()) {
         const int code = key.row.code;
         if (!doingNothing.count(code))
             continue;
-        focus(screenshot);
-        const QPalette colors = field(screenshot)->palette();
+        focus(Screenshot);
+        const QPalette colors = field(Screenshot)->palette();
         press(key.evdev);
         if (isLock(key.evdev))
             press(key.evdev);
-        EXPECT_EQ(focusedRow(), screenshot) << code;
-        EXPECT_EQ(shown(screenshot), "A") << code;
-        EXPECT_EQ(field(screenshot)->palette(), colors) << code;
-        EXPECT_EQ(keyCode(screenshot), 0) << code;
+        EXPECT_EQ(focusedRow(), Screenshot) << code;
+        EXPECT_EQ(shown(Screenshot), "A") << code;
+        EXPECT_EQ(field(Screenshot)->palette(), colors) << code;
+        EXPECT_EQ(keyCode(Screenshot), 0) << code;
         expectNothingStored();
     }
 }
@@ -185,13 +184,13 @@ TEST_F(HotKeyFieldGets, keysWithoutAVirtualKeyCodeChangeNothing)
         known.insert(row.evdev);
         known.insert(row.aliases.cbegin(), row.aliases.cend());
     }
-    storeKey(screenshot, 0);
+    storeKey(Screenshot, 0);
     showPage();
     for (int evdev = 1; evdev + evdevToX11 <= lastKeycode; ++evdev) {
         if (known.count(evdev))
             continue;
-        pressIn(screenshot, evdev);
-        EXPECT_EQ(shown(screenshot), "A") << evdev;
+        pressIn(Screenshot, evdev);
+        EXPECT_EQ(shown(Screenshot), "A") << evdev;
     }
     expectNothingStored();
 }

@@ -14,8 +14,6 @@
 
 namespace {
 
-enum Row { Up, Right, Down, Left, Under, OpenPrefPane, Screenshot, CloseWindow, Preview, Cancel, Snap, RowCount };
-
 class OwnField : public QLineEdit
 {
     Q_OBJECT

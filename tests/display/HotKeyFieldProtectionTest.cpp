@@ -17,8 +17,6 @@
 
 namespace {
 
-enum Row { Up, Right, Down, Left, Under, OpenPrefPane, Screenshot, CloseWindow, Preview, Cancel, Snap };
-
 class HotKeyFieldProtection : public PaneOnHotKeyPage
 {
 protected:

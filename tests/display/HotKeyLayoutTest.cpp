@@ -14,8 +14,6 @@
 
 namespace {
 
-enum Row { Up, Right, Down, Left, Under, OpenPrefPane, Screenshot, CloseWindow, Preview, Cancel, Snap };
-
 constexpr int codeOfNoKey = 1000;
 
 struct Key

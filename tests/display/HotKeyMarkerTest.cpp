@@ -9,8 +9,6 @@
 
 namespace {
 
-enum Row { Up, Right, Down, Left, Under, OpenPrefPane, Screenshot, CloseWindow, Preview, Cancel, Snap, RowCount };
-
 constexpr int upArrow = 126;
 const QString usedTwice = QStringLiteral("This key is used more than once.");
 const QString usual = QStringLiteral("Press a key");

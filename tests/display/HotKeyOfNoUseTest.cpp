@@ -10,23 +10,6 @@
 
 namespace {
 
-constexpr int screenshot = 6;
-
-/// Counts what arrives of a key that is held: its repeats are releases too.
-class ReleaseCounter : public QObject
-{
-public:
-    ReleaseCounter() { qApp->installEventFilter(this); }
-    int count = 0;
-
-protected:
-    bool eventFilter(QObject *object, QEvent *event) override
-    {
-        count += object->isWindowType() && event->type() == QEvent::KeyRelease;
-        return false;
-    }
-};
-
 class HotKeyOfNoUse : public PaneOnHotKeyPage
 {
 protected:
@@ -46,14 +29,14 @@ TEST_F(HotKeyOfNoUse, isToldByABeepAndALineAtTheField)
     int beeps = 0;
     for (const int key :
         {KEY_F12, KEY_INSERT, KEY_DELETE, KEY_BACKSPACE, KEY_HOME, KEY_PAGEDOWN, KEY_ESC, KEY_COMPOSE}) {
-        pressIn(screenshot, key);
+        pressIn(Screenshot, key);
         EXPECT_EQ(bell.rings(), ++beeps) << key;
         EXPECT_TRUE(QToolTip::isVisible()) << key;
         EXPECT_TRUE(QToolTip::text().startsWith("This key cannot be used.")) << key;
         press(KEY_LEFTSHIFT);
         EXPECT_TRUE(lineGoes()) << key;
     }
-    EXPECT_EQ(shown(screenshot), "S");
+    EXPECT_EQ(shown(Screenshot), "S");
     expectNothingStored();
     EXPECT_FALSE(openAlert());
 }
@@ -61,10 +44,10 @@ TEST_F(HotKeyOfNoUse, isToldByABeepAndALineAtTheField)
 TEST_F(HotKeyOfNoUse, isForgottenWhenAKeyIsTaken)
 {
     showPage();
-    pressIn(screenshot, KEY_F12);
+    pressIn(Screenshot, KEY_F12);
     EXPECT_TRUE(QToolTip::isVisible());
     press(KEY_B);
-    expectTaken(screenshot, 11, "B");
+    expectTaken(Screenshot, 11, "B");
     EXPECT_TRUE(lineGoes());
     EXPECT_EQ(bell.rings(), 1);
 }
@@ -74,7 +57,7 @@ TEST_F(HotKeyOfNoUse, isNoModifierNoLockAndNothingThatMovesTheFocus)
     showPage();
     for (const int key : {KEY_LEFTSHIFT, KEY_RIGHTCTRL, KEY_LEFTALT, KEY_LEFTMETA, KEY_CAPSLOCK, KEY_CAPSLOCK,
              KEY_NUMLOCK, KEY_NUMLOCK, KEY_TAB, KEY_ENTER})
-        pressIn(screenshot, key);
+        pressIn(Screenshot, key);
     EXPECT_EQ(bell.rings(), 0);
     EXPECT_FALSE(QToolTip::isVisible());
     expectNothingStored();
@@ -83,10 +66,10 @@ TEST_F(HotKeyOfNoUse, isNoModifierNoLockAndNothingThatMovesTheFocus)
 TEST_F(HotKeyOfNoUse, isToldOfOnceWhileItStaysDown)
 {
     showPage();
-    focus(screenshot);
-    ReleaseCounter releases;
+    focus(Screenshot);
+    const KeyReleases releases;
     keyDown(KEY_F12);
-    EXPECT_TRUE(waitUntil([&] { return releases.count >= 3; })) << "it repeats";
+    EXPECT_TRUE(waitUntil([&] { return releases.withRepeats() >= 3; })) << "it repeats";
     keyUp(KEY_F12);
     runPendingEvents();
     EXPECT_EQ(bell.rings(), 1);

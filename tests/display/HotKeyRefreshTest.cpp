@@ -10,8 +10,6 @@
 
 namespace {
 
-enum Row { Up, Right, Down, Left, Under, OpenPrefPane, Screenshot, CloseWindow, Preview, Cancel, Snap };
-
 const QString conflictMessage = QStringLiteral("There are conflicts with the marked keys.");
 const QString conflictInformation = QStringLiteral(
     "The marked keys have multiple actions assigned to them. Please change them to remove the conflicts.");

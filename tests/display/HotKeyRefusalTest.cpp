@@ -14,23 +14,6 @@
 
 namespace {
 
-/// Counts what arrives of a key that is held: its repeats are releases too.
-class ReleaseCounter : public QObject
-{
-public:
-    ReleaseCounter() { qApp->installEventFilter(this); }
-    int count = 0;
-
-protected:
-    bool eventFilter(QObject *object, QEvent *event) override
-    {
-        count += object->isWindowType() && event->type() == QEvent::KeyRelease;
-        return false;
-    }
-};
-
-enum Row { Up, Right, Down, Left, Under, OpenPrefPane, Screenshot, CloseWindow, Preview, Cancel, Snap };
-
 class HotKeyRefusal : public PaneOnHotKeyPage
 {
 protected:
@@ -168,12 +151,11 @@ TEST_F(HotKeyRefusal, aRefusedKeyThatStaysDownRaisesOneAlertAndPressesNothingInI
     showPage();
     for (const int key : {KEY_SPACE, KEY_KPENTER}) {
         focus(Up);
-        ReleaseCounter releases;
         keyDown(key);
         ASSERT_TRUE(alertComesUp());
         const QPointer<QDialog> alert = openAlert();
-        releases.count = 0;
-        EXPECT_TRUE(waitUntil([&] { return releases.count >= 3; })) << "it repeats";
+        const KeyReleases releases;
+        EXPECT_TRUE(waitUntil([&] { return releases.withRepeats() >= 3; })) << "it repeats";
         keyUp(key);
         runPendingEvents();
         EXPECT_TRUE(alert && alert->isVisible()) << key;

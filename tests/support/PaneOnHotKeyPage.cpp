@@ -13,26 +13,21 @@ constexpr int hotKeyPage = 1;
 constexpr int movementKeys = 5;
 constexpr int codeOfNoKey = 1000;
 
-/// Counts the releases of keys that the application gets, whatever becomes of them.
-class ReleaseCounter : public QObject
-{
-public:
-    ReleaseCounter() { qApp->installEventFilter(this); }
-    int releases() const { return releases_; }
-
-protected:
-    bool eventFilter(QObject *object, QEvent *event) override
-    {
-        if (object->isWindowType() && event->type() == QEvent::KeyRelease)
-            releases_ += static_cast<QKeyEvent *>(event)->isAutoRepeat() ? 0 : 1;
-        return false;
-    }
-
-private:
-    int releases_ = 0;
-};
-
 } // namespace
+
+KeyReleases::KeyReleases()
+{
+    qApp->installEventFilter(this);
+}
+
+bool KeyReleases::eventFilter(QObject *object, QEvent *event)
+{
+    if (object->isWindowType() && event->type() == QEvent::KeyRelease) {
+        ++withRepeats_;
+        atLast_ += static_cast<QKeyEvent *>(event)->isAutoRepeat() ? 0 : 1;
+    }
+    return false;
+}
 
 PaneOnHotKeyPage::~PaneOnHotKeyPage()
 {
@@ -82,10 +77,10 @@ QList<int> PaneOnHotKeyPage::markedRows()
 
 void PaneOnHotKeyPage::press(int evdevCode, const QList<int> &held)
 {
-    const ReleaseCounter counter;
+    const KeyReleases releases;
     pressKey(evdevCode, held);
-    EXPECT_TRUE(waitUntil([&] { return counter.releases() == held.size() + 1; }))
-        << evdevCode << ": " << counter.releases() << " releases";
+    EXPECT_TRUE(waitUntil([&] { return releases.atLast() == held.size() + 1; }))
+        << evdevCode << ": " << releases.atLast() << " releases";
 }
 
 void PaneOnHotKeyPage::pressIn(int row, int evdevCode, const QList<int> &held)

@@ -5,6 +5,27 @@
 
 #include <QLineEdit>
 
+/// The rows of the page.
+enum Row { Up, Right, Down, Left, Under, OpenPrefPane, Screenshot, CloseWindow, Preview, Cancel, Snap, RowCount };
+
+/// Counts the releases of keys that the application gets from now on, whatever becomes of them.
+class KeyReleases : public QObject
+{
+public:
+    KeyReleases();
+    /// A key that is held repeats: each time it is released and pressed again, as programs see it.
+    int withRepeats() const { return withRepeats_; }
+    /// When a key is let go.
+    int atLast() const { return atLast_; }
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+private:
+    int withRepeats_ = 0;
+    int atLast_ = 0;
+};
+
 /// The hot key page on screen, with keys that a test gives it; what a key press changes is compared as a whole.
 class PaneOnHotKeyPage : public PaneOnRealStore
 {

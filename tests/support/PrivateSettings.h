@@ -16,7 +16,7 @@
 class PrivateSettings : public testing::Test
 {
 public:
-    static inline const QString Domain = QStringLiteral("com.example.test");
+    static inline const QString testDomain = QStringLiteral("com.example.test");
 
     explicit PrivateSettings(const QString &parent = QDir::tempPath())
         : temporary_(parent + QStringLiteral("/settings-XXXXXX"))
@@ -31,7 +31,7 @@ public:
     }
 
     QString folder() const { return temporary_.filePath("config/lumaroo"); }
-    QString path() const { return folder() + u'/' + Domain + QStringLiteral(".plist"); }
+    QString path() const { return folder() + u'/' + testDomain + QStringLiteral(".plist"); }
     QString makeFolder(const QString &name) const
     {
         QDir().mkpath(temporary_.filePath(name));
@@ -61,10 +61,13 @@ public:
     QVariantMap stored() const { return readPropertyList(contentOf(path())).value.toMap(); }
     void store(const QVariantMap &values) const { putFile(writeBinaryPropertyList(values)); }
 
-    static QVariantMap wholeDomain() { return NSUserDefaults::standardUserDefaults()->persistentDomainForName(Domain); }
+    static QVariantMap wholeDomain()
+    {
+        return NSUserDefaults::standardUserDefaults()->persistentDomainForName(testDomain);
+    }
     static void replaceDomain(const QVariantMap &values)
     {
-        NSUserDefaults::standardUserDefaults()->setPersistentDomainForName(values, Domain);
+        NSUserDefaults::standardUserDefaults()->setPersistentDomainForName(values, testDomain);
     }
 
     CapturedLog log;

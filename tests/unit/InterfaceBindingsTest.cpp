@@ -67,9 +67,9 @@ protected:
     void storeOutside(const QVariant &value) const
     {
         store(value.isValid() ? QVariantMap{{"key", value}} : QVariantMap());
-        CFPreferencesCopyAppValue("key", Domain);
+        CFPreferencesCopyAppValue("key", testDomain);
     }
-    static void set(const QVariant &value) { CFPreferencesSetAppValue("key", value, Domain); }
+    static void set(const QVariant &value) { CFPreferencesSetAppValue("key", value, testDomain); }
     int boxState() const { return state(interface.find("box")); }
     QString shownItem() const { return interface.find<QComboBox>("popUp")->currentText(); }
     int shownCell() const { return tag(interface.find<NSMatrix>("matrix")->selectedCell()); }
@@ -95,7 +95,7 @@ TEST_F(InterfaceBindings, aCheckBoxFollowsWhatIsSetHereAndElsewhere)
     EXPECT_EQ(boxState(), NSOnState);
     set(false);
     EXPECT_EQ(boxState(), NSOffState);
-    CFPreferencesAppSynchronize(Domain);
+    CFPreferencesAppSynchronize(testDomain);
     storeOutside(true);
     EXPECT_EQ(boxState(), NSOnState);
 }

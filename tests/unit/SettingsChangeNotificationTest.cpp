@@ -10,15 +10,16 @@ protected:
     SettingsChangeNotification()
     {
         NSNotificationCenter::defaultCenter()->addObserverSelectorNameObject(
-            &observer_, [this](const NSNotification &) { seen += CFPreferencesCopyAppValue("key", Domain).toString(); },
-            NSUserDefaultsDidChangeNotification, Domain);
+            &observer_,
+            [this](const NSNotification &) { seen += CFPreferencesCopyAppValue("key", testDomain).toString(); },
+            NSUserDefaultsDidChangeNotification, testDomain);
     }
 
     /// The key's values as each notification's observer found them, since the last call.
     QStringList told() { return std::exchange(seen, {}); }
-    static void set(const QVariant &value) { CFPreferencesSetAppValue("key", value, Domain); }
-    static QVariant read() { return CFPreferencesCopyAppValue("key", Domain); }
-    static bool flush() { return CFPreferencesAppSynchronize(Domain); }
+    static void set(const QVariant &value) { CFPreferencesSetAppValue("key", value, testDomain); }
+    static QVariant read() { return CFPreferencesCopyAppValue("key", testDomain); }
+    static bool flush() { return CFPreferencesAppSynchronize(testDomain); }
 
     QStringList seen;
 
@@ -91,7 +92,7 @@ TEST_F(SettingsChangeNotification, comesOnceWhenAReadingFindsWhatOthersWrote)
 TEST_F(SettingsChangeNotification, comesWhenAFlushFindsWhatOthersWrote)
 {
     read();
-    CFPreferencesSetAppValue("ours", true, Domain);
+    CFPreferencesSetAppValue("ours", true, testDomain);
     told();
     store({{"key", "theirs"}});
     EXPECT_TRUE(flush());

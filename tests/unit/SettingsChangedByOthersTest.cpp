@@ -26,11 +26,11 @@ protected:
 TEST_F(SettingsChangedByOthers, whatAnotherProcessWroteIsReadWithoutAFlush)
 {
     store({{"key", 1}});
-    EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), 1);
+    EXPECT_EQ(CFPreferencesCopyAppValue("key", testDomain).toInt(), 1);
     store({{"key", 2}});
-    EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), 2);
+    EXPECT_EQ(CFPreferencesCopyAppValue("key", testDomain).toInt(), 2);
     ASSERT_TRUE(QFile::remove(path()));
-    EXPECT_FALSE(CFPreferencesCopyAppValue("key", Domain).isValid());
+    EXPECT_FALSE(CFPreferencesCopyAppValue("key", testDomain).isValid());
 }
 
 TEST_F(SettingsChangedByOthers, aChangeOfEqualSizeWithinTheSameInstantIsSeen)
@@ -38,7 +38,7 @@ TEST_F(SettingsChangedByOthers, aChangeOfEqualSizeWithinTheSameInstantIsSeen)
     cutFileTimes([](struct stat *status) { status->st_mtim.tv_nsec = status->st_ctim.tv_nsec = 0; });
     for (int value = 0; value < 200; ++value) {
         putFile(writeBinaryPropertyList(QVariantMap{{"key", value}}));
-        ASSERT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), value);
+        ASSERT_EQ(CFPreferencesCopyAppValue("key", testDomain).toInt(), value);
         ASSERT_EQ(wholeDomain().value("key").toInt(), value);
     }
 }
@@ -51,7 +51,7 @@ TEST_F(SettingsChangedByOthers, aChangeInPlaceRightAfterAReadIsSeen)
     QFile file(path());
     ASSERT_TRUE(file.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
     for (int value = 2; value < 20; ++value) {
-        ASSERT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), value - 1);
+        ASSERT_EQ(CFPreferencesCopyAppValue("key", testDomain).toInt(), value - 1);
         ASSERT_TRUE(file.seek(0));
         const QByteArray bytes = writeBinaryPropertyList(QVariantMap{{"key", value}});
         ASSERT_EQ(bytes.size(), file.size());
@@ -62,14 +62,14 @@ TEST_F(SettingsChangedByOthers, aChangeInPlaceRightAfterAReadIsSeen)
 TEST_F(SettingsChangedByOthers, aFileThatChangedAMomentAgoIsComparedWithOneReadForEachKey)
 {
     store({{"key", 1}});
-    EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), 1);
+    EXPECT_EQ(CFPreferencesCopyAppValue("key", testDomain).toInt(), 1);
     int read = 0;
     int opened = 0;
     observe(&SystemCalls::pread, [&read] { ++read; });
     observe(&SystemCalls::open, [&opened] { ++opened; });
     systemCalls().realTime = [this] { return std::chrono::seconds(statusOf(path()).st_mtim.tv_sec + 1); };
     for (int round = 0; round < 10; ++round)
-        EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), 1);
+        EXPECT_EQ(CFPreferencesCopyAppValue("key", testDomain).toInt(), 1);
     EXPECT_EQ(read, 10);
     EXPECT_EQ(opened, 0);
 }
@@ -78,15 +78,15 @@ TEST_F(SettingsChangedByOthers, aFileThatHasNotChangedForAWhileIsNotReadAgain)
 {
     store({{"key", 1}});
     systemCalls().realTime = [original = systemCalls().realTime] { return original() + std::chrono::seconds(10); };
-    EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), 1);
+    EXPECT_EQ(CFPreferencesCopyAppValue("key", testDomain).toInt(), 1);
     int opened = 0;
     int read = 0;
     observe(&SystemCalls::open, [&opened] { ++opened; });
     observe(&SystemCalls::pread, [&read] { ++read; });
     for (int round = 0; round < 10; ++round)
-        EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), 1);
+        EXPECT_EQ(CFPreferencesCopyAppValue("key", testDomain).toInt(), 1);
     EXPECT_EQ(opened + read, 0);
     store({{"key", 2}});
-    EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), 2);
+    EXPECT_EQ(CFPreferencesCopyAppValue("key", testDomain).toInt(), 2);
     EXPECT_EQ(opened, 1);
 }

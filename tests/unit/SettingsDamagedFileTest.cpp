@@ -8,7 +8,7 @@ class SettingsDamagedFile : public PrivateSettings
 protected:
     void expectKeptAside(const QByteArray &content, int number, const QString &reason)
     {
-        const QString file = Domain + ".plist";
+        const QString file = testDomain + ".plist";
         const QString line = QStringLiteral("lumaroo: settings: %1 does not parse (%2); kept as %1~%3, starting empty");
         EXPECT_EQ(log.lines().join('\n').toStdString(), line.arg(file, reason).arg(number).toStdString());
         log.clear();
@@ -20,16 +20,16 @@ protected:
 TEST_F(SettingsDamagedFile, aFileOfGarbageIsKeptAsideAndLoggedOnce)
 {
     putFile("garbage");
-    EXPECT_FALSE(CFPreferencesCopyAppValue("key", Domain).isValid());
+    EXPECT_FALSE(CFPreferencesCopyAppValue("key", testDomain).isValid());
     EXPECT_TRUE(wholeDomain().isEmpty());
-    EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
+    EXPECT_TRUE(CFPreferencesAppSynchronize(testDomain));
     expectKeptAside("garbage", 1, "byte 1");
 }
 
 TEST_F(SettingsDamagedFile, anEmptyFileIsKeptAside)
 {
     putFile("");
-    EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
+    EXPECT_TRUE(CFPreferencesAppSynchronize(testDomain));
     expectKeptAside("", 1, "byte 0");
 }
 
@@ -74,9 +74,9 @@ TEST_F(SettingsDamagedFile, noFileKeptAsideIsEverOverwritten)
 
 TEST_F(SettingsDamagedFile, whatIsPendingIsWrittenToANewFileBesideIt)
 {
-    CFPreferencesSetAppValue("key", 1, Domain);
+    CFPreferencesSetAppValue("key", 1, testDomain);
     putFile("garbage");
-    EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
+    EXPECT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_EQ(log.lines().size(), 1);
     log.clear();
     EXPECT_EQ(contentOf(path() + "~1"), "garbage");
@@ -100,7 +100,7 @@ TEST_F(SettingsDamagedFile, aFileThatIsPutInOrderBeforeTheLockIsReadAgain)
         store({{"key", 1}});
         return original(descriptor, operation);
     };
-    EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), 1);
+    EXPECT_EQ(CFPreferencesCopyAppValue("key", testDomain).toInt(), 1);
     EXPECT_FALSE(QFileInfo::exists(path() + "~1"));
 }
 
@@ -109,15 +109,15 @@ TEST_F(SettingsDamagedFile, oneThatCannotBeMovedAsideIsNotOverwritten)
     putFile("garbage");
     const auto everything = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
     ASSERT_TRUE(QFile::setPermissions(folder(), QFile::ReadOwner | QFile::ExeOwner));
-    CFPreferencesSetAppValue("key", 1, Domain);
+    CFPreferencesSetAppValue("key", 1, testDomain);
     EXPECT_TRUE(isEqualPropertyList(wholeDomain(), QVariantMap{{"key", 1}}));
-    EXPECT_FALSE(CFPreferencesAppSynchronize(Domain));
+    EXPECT_FALSE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_EQ(log.linesContaining("cannot be moved aside").size(), 1);
     EXPECT_EQ(log.lines().size(), 1);
     log.clear();
     ASSERT_TRUE(QFile::setPermissions(folder(), everything));
     EXPECT_EQ(contentOf(path()), "garbage");
-    EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
+    EXPECT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_EQ(contentOf(path() + "~1"), "garbage");
     EXPECT_TRUE(isEqualPropertyList(stored(), QVariantMap{{"key", 1}}));
     log.clear();
@@ -139,8 +139,8 @@ TEST_F(SettingsDamagedFile, behindALinkTheFileIsKeptAsideAndTheLinkStays)
     putFile("garbage");
     ASSERT_TRUE(QFile::rename(path(), elsewhere + "/settings"));
     ASSERT_TRUE(QFile::link(elsewhere + "/settings", path()));
-    CFPreferencesSetAppValue("key", 1, Domain);
-    EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
+    CFPreferencesSetAppValue("key", 1, testDomain);
+    EXPECT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_EQ(log.lines().size(), 1);
     log.clear();
     EXPECT_EQ(contentOf(elsewhere + "/settings~1"), "garbage");

@@ -14,24 +14,24 @@ protected:
     void SetUp() override
     {
         store(old);
-        CFPreferencesSetAppValue("key", "new", Domain);
+        CFPreferencesSetAppValue("key", "new", testDomain);
     }
 
     void expectRefused()
     {
-        EXPECT_FALSE(CFPreferencesAppSynchronize(Domain));
+        EXPECT_FALSE(CFPreferencesAppSynchronize(testDomain));
         EXPECT_EQ(log.lines().size(), 1) << log.lines().join('\n').toStdString();
-        EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain), QVariant("new"));
+        EXPECT_EQ(CFPreferencesCopyAppValue("key", testDomain), QVariant("new"));
         log.clear();
     }
     void expectOldFile() { EXPECT_TRUE(isEqualPropertyList(stored(), old)); }
     void expectSaved()
     {
-        EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
+        EXPECT_TRUE(CFPreferencesAppSynchronize(testDomain));
         EXPECT_TRUE(isEqualPropertyList(stored(), changed));
         EXPECT_EQ(log.lines(), QStringList());
         EXPECT_EQ(QDir(folder()).entryList(QDir::Files), QStringList(QFileInfo(path()).fileName()));
-        EXPECT_FALSE(QFileInfo::exists(folder() + "/." + Domain + ".plist.new"));
+        EXPECT_FALSE(QFileInfo::exists(folder() + "/." + testDomain + ".plist.new"));
     }
     void expectRefusedThenSaved()
     {
@@ -100,9 +100,9 @@ TEST_F(SettingsFaults, aFailureOfAnySingleCallLosesNothing)
     for (int occurrence = 1; occurrence <= 8; ++occurrence) {
         for (const std::function<void()> &inject : failures(occurrence)) {
             store(old);
-            CFPreferencesSetAppValue("key", "new", Domain);
+            CFPreferencesSetAppValue("key", "new", testDomain);
             inject();
-            const bool saved = CFPreferencesAppSynchronize(Domain);
+            const bool saved = CFPreferencesAppSynchronize(testDomain);
             systemCalls() = intact;
             EXPECT_TRUE(isEqualPropertyList(stored(), changed) || (!saved && isEqualPropertyList(stored(), old)));
             EXPECT_EQ(log.lines().size(), saved ? 0 : 1);
@@ -161,7 +161,7 @@ TEST_F(SettingsFaults, aFileWithoutPermissionIsNeitherReadNorReplaced)
 {
     ASSERT_TRUE(QFile::setPermissions(path(), QFile::Permissions()));
     expectRefused();
-    EXPECT_FALSE(CFPreferencesCopyAppValue("theirs", Domain).isValid());
+    EXPECT_FALSE(CFPreferencesCopyAppValue("theirs", testDomain).isValid());
     ASSERT_TRUE(QFile::setPermissions(path(), QFile::ReadOwner | QFile::WriteOwner));
     expectOldFile();
     expectSaved();
@@ -213,8 +213,8 @@ TEST_F(SettingsFaults, theSameProblemIsLoggedOnceUntilSomethingSucceeds)
 {
     const SystemCalls intact = systemCalls();
     systemCalls().rename = [](const char *, const char *) { return errno = EROFS, -1; };
-    EXPECT_FALSE(CFPreferencesAppSynchronize(Domain));
-    EXPECT_FALSE(CFPreferencesAppSynchronize(Domain));
+    EXPECT_FALSE(CFPreferencesAppSynchronize(testDomain));
+    EXPECT_FALSE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_EQ(log.lines(),
         QStringList("lumaroo: settings: com.example.test.plist cannot be written (rename: Read-only file system); "
                     "changes wait for the "
@@ -222,9 +222,9 @@ TEST_F(SettingsFaults, theSameProblemIsLoggedOnceUntilSomethingSucceeds)
     log.clear();
     systemCalls() = intact;
     expectSaved();
-    CFPreferencesSetAppValue("key", "newer", Domain);
+    CFPreferencesSetAppValue("key", "newer", testDomain);
     systemCalls().rename = [](const char *, const char *) { return errno = EROFS, -1; };
-    EXPECT_FALSE(CFPreferencesAppSynchronize(Domain));
+    EXPECT_FALSE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_EQ(log.lines().size(), 1);
     log.clear();
 }
@@ -237,22 +237,22 @@ TEST_F(SettingsFaults, aReplacementThatFailsStaysPendingAsAWhole)
     log.clear();
     expectOldFile();
     EXPECT_TRUE(isEqualPropertyList(wholeDomain(), QVariantMap{{"only", 1}}));
-    EXPECT_FALSE(CFPreferencesCopyAppValue("key", Domain).isValid());
-    CFPreferencesSetAppValue("later", 2, Domain);
+    EXPECT_FALSE(CFPreferencesCopyAppValue("key", testDomain).isValid());
+    CFPreferencesSetAppValue("later", 2, testDomain);
     store({{"theirs", 3}});
-    EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
+    EXPECT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_TRUE(isEqualPropertyList(stored(), QVariantMap{{"only", 1}, {"later", 2}}));
 }
 
 TEST_F(SettingsFaults, aLockThatIsNeverReleasedIsWaitedForTwoSecondsAndReported)
 {
-    const QByteArray lockPath = QFile::encodeName(folder() + "/." + Domain + ".plist.lock");
+    const QByteArray lockPath = QFile::encodeName(folder() + "/." + testDomain + ".plist.lock");
     const int held = open(lockPath.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
     ASSERT_EQ(flock(held, LOCK_EX), 0);
     std::chrono::nanoseconds now{};
     systemCalls().monotonicTime = [&now] { return now; };
     systemCalls().sleep = [&now](std::chrono::nanoseconds duration) { now += duration; };
-    EXPECT_FALSE(CFPreferencesAppSynchronize(Domain));
+    EXPECT_FALSE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_GE(now, std::chrono::seconds(2));
     EXPECT_LT(now, std::chrono::milliseconds(2100));
     EXPECT_EQ(log.linesContaining("another process keeps it locked").size(), 1);
@@ -266,14 +266,14 @@ TEST_F(SettingsFaults, aFlushWithNothingChangedMakesNoCallThatWrites)
 {
     expectSaved();
     const auto writingCalls = countWritingCalls();
-    EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
-    CFPreferencesSetAppValue("key", "new", Domain);
-    EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
+    EXPECT_TRUE(CFPreferencesAppSynchronize(testDomain));
+    CFPreferencesSetAppValue("key", "new", testDomain);
+    EXPECT_TRUE(CFPreferencesAppSynchronize(testDomain));
     replaceDomain(changed);
     EXPECT_EQ(wholeDomain(), stored());
     EXPECT_EQ(*writingCalls, 0);
-    CFPreferencesSetAppValue("key", "newer", Domain);
-    EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
+    CFPreferencesSetAppValue("key", "newer", testDomain);
+    EXPECT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_GT(*writingCalls, 0);
 }
 

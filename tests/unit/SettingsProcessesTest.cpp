@@ -28,9 +28,9 @@ protected:
 
     static bool writeGeneration(int generation)
     {
-        CFPreferencesSetAppValue("generation", generation, Domain);
-        CFPreferencesSetAppValue("filler", QString(generation % 5000, u'x'), Domain);
-        return CFPreferencesAppSynchronize(Domain);
+        CFPreferencesSetAppValue("generation", generation, testDomain);
+        CFPreferencesSetAppValue("filler", QString(generation % 5000, u'x'), testDomain);
+        return CFPreferencesAppSynchronize(testDomain);
     }
     /// The generation that the file holds, whole; -1 where it is not.
     int storedGeneration() const
@@ -49,13 +49,13 @@ TEST_F(SettingsProcesses, twoWriteTwoThousandKeysEachAndNoneIsLost)
     const auto writer = [](const QString &prefix) {
         return [prefix] {
             for (int number = 0; number < keys; ++number) {
-                CFPreferencesSetAppValue(prefix + QString::number(number), number, Domain);
+                CFPreferencesSetAppValue(prefix + QString::number(number), number, testDomain);
                 // One that finds no turn in time keeps its keys for the next flush.
                 if (number % keysInAFlush == 0)
-                    CFPreferencesAppSynchronize(Domain);
+                    CFPreferencesAppSynchronize(testDomain);
             }
             int attempts = 0;
-            while (!CFPreferencesAppSynchronize(Domain) && attempts < mostAttempts)
+            while (!CFPreferencesAppSynchronize(testDomain) && attempts < mostAttempts)
                 ++attempts;
             return attempts < mostAttempts;
         };
@@ -101,7 +101,7 @@ TEST_F(SettingsProcesses, oneKilledAtAnySystemCallLeavesTheOldOrTheNewFileWhole)
             << "after call " << killings;
         killings += status != 0;
         ASSERT_TRUE(writeGeneration(generation + 1));
-        ASSERT_FALSE(QFileInfo::exists(folder() + "/." + Domain + ".plist.new"));
+        ASSERT_FALSE(QFileInfo::exists(folder() + "/." + testDomain + ".plist.new"));
     }
     EXPECT_GT(killings, 12);
 }

@@ -12,44 +12,44 @@ class SettingsStore : public PrivateSettings
 
 TEST_F(SettingsStore, aDomainThatWasNeverWrittenIsEmpty)
 {
-    EXPECT_FALSE(CFPreferencesCopyAppValue("key", Domain).isValid());
+    EXPECT_FALSE(CFPreferencesCopyAppValue("key", testDomain).isValid());
     EXPECT_TRUE(wholeDomain().isEmpty());
     EXPECT_FALSE(QFileInfo::exists(path()));
 }
 
 TEST_F(SettingsStore, aWriteIsSeenAtOnceByThisProcessAndInTheFileAfterTheFlush)
 {
-    CFPreferencesSetAppValue("key", "value", Domain);
-    EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain), QVariant("value"));
+    CFPreferencesSetAppValue("key", "value", testDomain);
+    EXPECT_EQ(CFPreferencesCopyAppValue("key", testDomain), QVariant("value"));
     EXPECT_EQ(wholeDomain(), (QVariantMap{{"key", "value"}}));
     EXPECT_FALSE(QFileInfo::exists(path()));
-    EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
+    EXPECT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_EQ(stored(), (QVariantMap{{"key", "value"}}));
 }
 
 TEST_F(SettingsStore, aRemovalIsSeenAtOnceAndInTheFileAfterTheFlush)
 {
     store({{"key", 1}, {"other", 2}});
-    CFPreferencesSetAppValue("key", QVariant(), Domain);
-    EXPECT_FALSE(CFPreferencesCopyAppValue("key", Domain).isValid());
+    CFPreferencesSetAppValue("key", QVariant(), testDomain);
+    EXPECT_FALSE(CFPreferencesCopyAppValue("key", testDomain).isValid());
     EXPECT_FALSE(wholeDomain().contains("key"));
     EXPECT_TRUE(stored().contains("key"));
-    EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
+    EXPECT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_EQ(stored().keys(), QStringList("other"));
 }
 
 TEST_F(SettingsStore, fileAndFoldersBelongToTheUserAlone)
 {
-    CFPreferencesSetAppValue("key", 1, Domain);
-    ASSERT_TRUE(CFPreferencesAppSynchronize(Domain));
+    CFPreferencesSetAppValue("key", 1, testDomain);
+    ASSERT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_EQ(statusOf(path()).st_mode & 07777, 0600u);
     EXPECT_EQ(statusOf(folder()).st_mode & 07777, 0700u);
 }
 
 TEST_F(SettingsStore, theFileIsABinaryPropertyListAndNothingButSideFilesStandBesideIt)
 {
-    CFPreferencesSetAppValue("key", 1, Domain);
-    ASSERT_TRUE(CFPreferencesAppSynchronize(Domain));
+    CFPreferencesSetAppValue("key", 1, testDomain);
+    ASSERT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_TRUE(contentOf(path()).startsWith("bplist00"));
     EXPECT_EQ(QDir(folder()).entryList(QDir::Files), QStringList(QFileInfo(path()).fileName()));
 }
@@ -57,19 +57,19 @@ TEST_F(SettingsStore, theFileIsABinaryPropertyListAndNothingButSideFilesStandBes
 TEST_F(SettingsStore, anXMLFileIsReadAndBecomesBinaryWithTheFirstChange)
 {
     putFile(writeXMLPropertyList(QVariantMap{{"key", 1}}));
-    EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), 1);
-    CFPreferencesSetAppValue("other", 2, Domain);
-    ASSERT_TRUE(CFPreferencesAppSynchronize(Domain));
+    EXPECT_EQ(CFPreferencesCopyAppValue("key", testDomain).toInt(), 1);
+    CFPreferencesSetAppValue("other", 2, testDomain);
+    ASSERT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_TRUE(contentOf(path()).startsWith("bplist00"));
     EXPECT_TRUE(isEqualPropertyList(stored(), QVariantMap{{"key", 1}, {"other", 2}}));
 }
 
 TEST_F(SettingsStore, anUnflushedWriteStandsAboveWhatAnotherProcessWrites)
 {
-    CFPreferencesSetAppValue("mine", 1, Domain);
+    CFPreferencesSetAppValue("mine", 1, testDomain);
     store({{"mine", 7}, {"theirs", 8}});
     EXPECT_TRUE(isEqualPropertyList(wholeDomain(), QVariantMap{{"mine", 1}, {"theirs", 8}}));
-    ASSERT_TRUE(CFPreferencesAppSynchronize(Domain));
+    ASSERT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_TRUE(isEqualPropertyList(stored(), QVariantMap{{"mine", 1}, {"theirs", 8}}));
 }
 
@@ -77,30 +77,30 @@ TEST_F(SettingsStore, aFlushAppliesOnlyWhatThisProcessChanged)
 {
     store({{"a", 1}, {"b", 1}});
     EXPECT_EQ(wholeDomain().size(), 2);
-    CFPreferencesSetAppValue("a", 2, Domain);
+    CFPreferencesSetAppValue("a", 2, testDomain);
     store({{"b", 3}, {"c", 3}});
-    ASSERT_TRUE(CFPreferencesAppSynchronize(Domain));
+    ASSERT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_TRUE(isEqualPropertyList(stored(), QVariantMap{{"a", 2}, {"b", 3}, {"c", 3}}));
 }
 
 TEST_F(SettingsStore, aFlushedWriteIsNotAppliedAgain)
 {
-    CFPreferencesSetAppValue("key", 1, Domain);
-    ASSERT_TRUE(CFPreferencesAppSynchronize(Domain));
+    CFPreferencesSetAppValue("key", 1, testDomain);
+    ASSERT_TRUE(CFPreferencesAppSynchronize(testDomain));
     store({{"key", 2}});
-    ASSERT_TRUE(CFPreferencesAppSynchronize(Domain));
+    ASSERT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_EQ(stored().value("key").toInt(), 2);
 }
 
 TEST_F(SettingsStore, replacingTheDomainDropsWhatIsNotInTheNewOne)
 {
     store({{"theirs", 1}, {"both", 1}});
-    CFPreferencesSetAppValue("pending", 1, Domain);
-    CFPreferencesSetAppValue("both", 5, Domain);
+    CFPreferencesSetAppValue("pending", 1, testDomain);
+    CFPreferencesSetAppValue("both", 5, testDomain);
     replaceDomain({{"both", 2}});
     EXPECT_TRUE(isEqualPropertyList(stored(), QVariantMap{{"both", 2}}));
     EXPECT_TRUE(isEqualPropertyList(wholeDomain(), QVariantMap{{"both", 2}}));
-    ASSERT_TRUE(CFPreferencesAppSynchronize(Domain));
+    ASSERT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_TRUE(isEqualPropertyList(stored(), QVariantMap{{"both", 2}}));
 }
 
@@ -115,7 +115,7 @@ TEST_F(SettingsStore, aDomainCanBeReplacedByAnEmptyOne)
 TEST_F(SettingsStore, aWriteAfterAReplacementComesOnTopOfIt)
 {
     replaceDomain({{"a", 1}});
-    CFPreferencesSetAppValue("b", 2, Domain);
+    CFPreferencesSetAppValue("b", 2, testDomain);
     EXPECT_TRUE(isEqualPropertyList(wholeDomain(), QVariantMap{{"a", 1}, {"b", 2}}));
 }
 
@@ -123,10 +123,10 @@ TEST_F(SettingsStore, anEqualValueDoesNotTouchTheFile)
 {
     store({{"key", 1}, {"list", QVariantList{1.5, "x"}}});
     const struct stat before = statusOf(path());
-    CFPreferencesSetAppValue("key", 1, Domain);
-    CFPreferencesSetAppValue("list", QVariantList{1.5, "x"}, Domain);
-    CFPreferencesSetAppValue("absent", QVariant(), Domain);
-    EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
+    CFPreferencesSetAppValue("key", 1, testDomain);
+    CFPreferencesSetAppValue("list", QVariantList{1.5, "x"}, testDomain);
+    CFPreferencesSetAppValue("absent", QVariant(), testDomain);
+    EXPECT_TRUE(CFPreferencesAppSynchronize(testDomain));
     replaceDomain(stored());
     EXPECT_EQ(statusOf(path()).st_ino, before.st_ino);
     EXPECT_EQ(statusOf(path()).st_mtim.tv_nsec, before.st_mtim.tv_nsec);
@@ -135,24 +135,24 @@ TEST_F(SettingsStore, anEqualValueDoesNotTouchTheFile)
 TEST_F(SettingsStore, anotherTypeIsAChange)
 {
     store({{"key", 1}});
-    CFPreferencesSetAppValue("key", true, Domain);
-    EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
+    CFPreferencesSetAppValue("key", true, testDomain);
+    EXPECT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_TRUE(isEqualPropertyList(stored().value("key"), true));
-    CFPreferencesSetAppValue("key", 1.0f, Domain);
-    EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
+    CFPreferencesSetAppValue("key", 1.0f, testDomain);
+    EXPECT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_TRUE(isEqualPropertyList(stored().value("key"), 1.0f));
-    CFPreferencesSetAppValue("key", 1.0, Domain);
-    EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
+    CFPreferencesSetAppValue("key", 1.0, testDomain);
+    EXPECT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_TRUE(isEqualPropertyList(stored().value("key"), 1.0));
 }
 
 TEST_F(SettingsStore, aFloatIsStoredInFourBytesAndKeepsItsExactValue)
 {
-    CFPreferencesSetAppValue("key", 0.1f, Domain);
-    ASSERT_TRUE(CFPreferencesAppSynchronize(Domain));
+    CFPreferencesSetAppValue("key", 0.1f, testDomain);
+    ASSERT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_TRUE(contentOf(path()).contains(QByteArray::fromHex("223dcccccd")));
-    EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).typeId(), QMetaType::Float);
-    EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toFloat(), 0.1f);
+    EXPECT_EQ(CFPreferencesCopyAppValue("key", testDomain).typeId(), QMetaType::Float);
+    EXPECT_EQ(CFPreferencesCopyAppValue("key", testDomain).toFloat(), 0.1f);
 }
 
 TEST_F(SettingsStore, aSymbolicLinkAtThePathIsFollowedAndKept)
@@ -161,12 +161,12 @@ TEST_F(SettingsStore, aSymbolicLinkAtThePathIsFollowedAndKept)
     QDir().mkpath(folder());
     ASSERT_TRUE(QFile::link("../../elsewhere/settings", folder() + "/second"));
     ASSERT_TRUE(QFile::link("second", path()));
-    CFPreferencesSetAppValue("key", 1, Domain);
-    ASSERT_TRUE(CFPreferencesAppSynchronize(Domain));
+    CFPreferencesSetAppValue("key", 1, testDomain);
+    ASSERT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_TRUE(QFileInfo(path()).isSymLink());
     EXPECT_FALSE(QFileInfo(elsewhere + "/settings").isSymLink());
     EXPECT_TRUE(readPropertyList(contentOf(elsewhere + "/settings")));
-    EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), 1);
+    EXPECT_EQ(CFPreferencesCopyAppValue("key", testDomain).toInt(), 1);
 }
 
 TEST_F(SettingsStore, aRelativeConfigurationFolderCountsAsNone)
@@ -181,12 +181,12 @@ TEST_F(SettingsStore, aRelativeConfigurationFolderCountsAsNone)
 TEST_F(SettingsStore, theConfigurationFolderOfThisMomentCounts)
 {
     const QByteArray before = qgetenv("XDG_CONFIG_HOME");
-    CFPreferencesSetAppValue("key", 1, Domain);
-    ASSERT_TRUE(CFPreferencesAppSynchronize(Domain));
+    CFPreferencesSetAppValue("key", 1, testDomain);
+    ASSERT_TRUE(CFPreferencesAppSynchronize(testDomain));
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(makeFolder("another")));
-    EXPECT_FALSE(CFPreferencesCopyAppValue("key", Domain).isValid());
+    EXPECT_FALSE(CFPreferencesCopyAppValue("key", testDomain).isValid());
     qputenv("XDG_CONFIG_HOME", before);
-    EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), 1);
+    EXPECT_EQ(CFPreferencesCopyAppValue("key", testDomain).toInt(), 1);
 }
 
 TEST_F(SettingsStore, aNameThatWouldLeaveTheFolderIsRefused)
@@ -208,8 +208,8 @@ TEST_F(SettingsStore, aNameThatWouldLeaveTheFolderIsRefused)
 TEST_F(SettingsStore, whatIsNoPropertyListValueIsLoggedAndChangesNothing)
 {
     store({{"key", 1}});
-    CFPreferencesSetAppValue("key", QRect(0, 0, 1, 1), Domain);
-    EXPECT_EQ(CFPreferencesCopyAppValue("key", Domain).toInt(), 1);
+    CFPreferencesSetAppValue("key", QRect(0, 0, 1, 1), testDomain);
+    EXPECT_EQ(CFPreferencesCopyAppValue("key", testDomain).toInt(), 1);
     replaceDomain({{"key", QVariant()}});
     EXPECT_EQ(log.linesContaining("no property").size(), 2);
     EXPECT_TRUE(isEqualPropertyList(stored(), QVariantMap{{"key", 1}}));
@@ -227,8 +227,8 @@ TEST_F(SettingsStore, filesThatWereReplacedAreNotKeptOpen)
     runPendingEvents();
     const qsizetype before = deletedFiles();
     for (int round = 0; round < 10; ++round) {
-        CFPreferencesSetAppValue("key", round, Domain);
-        ASSERT_TRUE(CFPreferencesAppSynchronize(Domain));
+        CFPreferencesSetAppValue("key", round, testDomain);
+        ASSERT_TRUE(CFPreferencesAppSynchronize(testDomain));
     }
     EXPECT_LE(deletedFiles(), before + 1) << "one waits for the run loop";
     runPendingEvents();

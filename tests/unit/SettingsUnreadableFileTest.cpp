@@ -23,7 +23,7 @@ protected:
         log.clear();
         makeReadable(true);
         EXPECT_TRUE(isEqualPropertyList(wholeDomain(), expected)) << "before the flush";
-        EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
+        EXPECT_TRUE(CFPreferencesAppSynchronize(testDomain));
         EXPECT_TRUE(isEqualPropertyList(stored(), expected)) << stored().keys().join(' ').toStdString();
         const QStringList lines = kept.isEmpty()
             ? QStringList()
@@ -36,39 +36,39 @@ protected:
 TEST_F(SettingsUnreadableFile, keepsWhatIsStoredFromWhoSawNothingThere)
 {
     EXPECT_TRUE(wholeDomain().isEmpty());
-    CFPreferencesSetAppValue("mine", 7, Domain);
-    CFPreferencesSetAppValue("theirs", QVariant(), Domain);
-    EXPECT_FALSE(CFPreferencesAppSynchronize(Domain));
-    EXPECT_EQ(CFPreferencesCopyAppValue("mine", Domain), QVariant(7)) << "meanwhile it is seen as it was set";
+    CFPreferencesSetAppValue("mine", 7, testDomain);
+    CFPreferencesSetAppValue("theirs", QVariant(), testDomain);
+    EXPECT_FALSE(CFPreferencesAppSynchronize(testDomain));
+    EXPECT_EQ(CFPreferencesCopyAppValue("mine", testDomain), QVariant(7)) << "meanwhile it is seen as it was set";
     expectStoredAfterFlush({{"mine", 1}, {"theirs", 2}}, "mine, theirs");
-    EXPECT_EQ(CFPreferencesCopyAppValue("mine", Domain), QVariant(1));
+    EXPECT_EQ(CFPreferencesCopyAppValue("mine", testDomain), QVariant(1));
 }
 
 TEST_F(SettingsUnreadableFile, takesWhatWasSetWithoutALook)
 {
-    CFPreferencesSetAppValue("mine", 7, Domain);
-    EXPECT_FALSE(CFPreferencesAppSynchronize(Domain));
+    CFPreferencesSetAppValue("mine", 7, testDomain);
+    EXPECT_FALSE(CFPreferencesAppSynchronize(testDomain));
     expectStoredAfterFlush({{"mine", 7}, {"theirs", 2}}, {});
 }
 
 TEST_F(SettingsUnreadableFile, takesWhatTheFileLacks)
 {
     EXPECT_TRUE(wholeDomain().isEmpty());
-    CFPreferencesSetAppValue("added", true, Domain);
-    EXPECT_FALSE(CFPreferencesAppSynchronize(Domain));
+    CFPreferencesSetAppValue("added", true, testDomain);
+    EXPECT_FALSE(CFPreferencesAppSynchronize(testDomain));
     expectStoredAfterFlush({{"mine", 1}, {"theirs", 2}, {"added", true}}, {});
 }
 
 TEST_F(SettingsUnreadableFile, takesWhatIsSetAgainOnceItCanBeRead)
 {
     EXPECT_TRUE(wholeDomain().isEmpty());
-    CFPreferencesSetAppValue("mine", 7, Domain);
-    EXPECT_FALSE(CFPreferencesAppSynchronize(Domain));
+    CFPreferencesSetAppValue("mine", 7, testDomain);
+    EXPECT_FALSE(CFPreferencesAppSynchronize(testDomain));
     log.clear();
     makeReadable(true);
     EXPECT_EQ(wholeDomain().size(), 2);
-    CFPreferencesSetAppValue("mine", 8, Domain);
-    EXPECT_TRUE(CFPreferencesAppSynchronize(Domain));
+    CFPreferencesSetAppValue("mine", 8, testDomain);
+    EXPECT_TRUE(CFPreferencesAppSynchronize(testDomain));
     EXPECT_TRUE(isEqualPropertyList(stored(), QVariantMap{{"mine", 8}, {"theirs", 2}}));
 }
 
@@ -84,7 +84,7 @@ TEST_F(SettingsUnreadableFile, keepsTheKeysThatAReplacementOfTheDomainDoesNotHav
 
 TEST_F(SettingsUnreadableFile, losesNoKeyThatAReplacementTakesBack)
 {
-    CFPreferencesSetAppValue("added", true, Domain);
+    CFPreferencesSetAppValue("added", true, testDomain);
     replaceDomain({{"more", 1.5}});
     EXPECT_TRUE(isEqualPropertyList(wholeDomain(), QVariantMap{{"more", 1.5}}));
     expectStoredAfterFlush({{"mine", 1}, {"theirs", 2}, {"more", 1.5}}, {});

@@ -23,16 +23,16 @@ protected:
 
     Boolean asBoolean(const QVariant &value)
     {
-        CFPreferencesSetAppValue("key", value, Domain);
+        CFPreferencesSetAppValue("key", value, testDomain);
         Boolean result{true, true};
-        result.value = CFPreferencesGetAppBooleanValue("key", Domain, &result.valid);
+        result.value = CFPreferencesGetAppBooleanValue("key", testDomain, &result.valid);
         return result;
     }
     Integer asInteger(const QVariant &value)
     {
-        CFPreferencesSetAppValue("key", value, Domain);
+        CFPreferencesSetAppValue("key", value, testDomain);
         Integer result{-7, true};
-        result.value = CFPreferencesGetAppIntegerValue("key", Domain, &result.valid);
+        result.value = CFPreferencesGetAppIntegerValue("key", testDomain, &result.valid);
         return result;
     }
 };
@@ -73,18 +73,18 @@ TEST_F(SettingsValues, aRealCountsAsTheIntegerBeforeItsPoint)
 
 TEST_F(SettingsValues, theFlagsAreOptional)
 {
-    EXPECT_FALSE(CFPreferencesGetAppBooleanValue("absent", Domain));
-    EXPECT_EQ(CFPreferencesGetAppIntegerValue("absent", Domain), 0);
+    EXPECT_FALSE(CFPreferencesGetAppBooleanValue("absent", testDomain));
+    EXPECT_EQ(CFPreferencesGetAppIntegerValue("absent", testDomain), 0);
 }
 
 TEST_F(SettingsValues, theRulesHoldForWhatIsStoredToo)
 {
     store({{"boolean", true}, {"one", 1}, {"wide", 1LL << 40}});
-    EXPECT_TRUE(CFPreferencesGetAppBooleanValue("boolean", Domain));
+    EXPECT_TRUE(CFPreferencesGetAppBooleanValue("boolean", testDomain));
     bool valid = true;
-    EXPECT_FALSE(CFPreferencesGetAppBooleanValue("one", Domain, &valid));
+    EXPECT_FALSE(CFPreferencesGetAppBooleanValue("one", testDomain, &valid));
     EXPECT_FALSE(valid);
-    EXPECT_EQ(CFPreferencesGetAppIntegerValue("wide", Domain, &valid), 0);
+    EXPECT_EQ(CFPreferencesGetAppIntegerValue("wide", testDomain, &valid), 0);
     EXPECT_FALSE(valid);
 }
 
@@ -93,9 +93,9 @@ TEST_F(SettingsValues, aValueReadsTheSameBeforeAndAfterTheFlush)
     const QVariantMap values{{"int", 7}, {"unsigned", 7u}, {"float", 0.1f}, {"texts", QStringList{"a", "b"}},
         {"local date", QDateTime(QDate(2024, 1, 1), QTime(1, 2, 3), Qt::OffsetFromUTC, 3600)}};
     for (auto value = values.begin(); value != values.end(); ++value)
-        CFPreferencesSetAppValue(value.key(), value.value(), Domain);
+        CFPreferencesSetAppValue(value.key(), value.value(), testDomain);
     const QVariantMap before = wholeDomain();
-    ASSERT_TRUE(CFPreferencesAppSynchronize(Domain));
+    ASSERT_TRUE(CFPreferencesAppSynchronize(testDomain));
     for (auto value = before.begin(); value != before.end(); ++value) {
         EXPECT_EQ(stored()[value.key()].typeId(), value->typeId()) << value.key().toStdString();
         EXPECT_EQ(stored()[value.key()], *value);
