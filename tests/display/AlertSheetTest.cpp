@@ -2,6 +2,7 @@
 
 #include "AlertSheetOnWindow.h"
 #include "DesktopWindows.h"
+#include "KeyPress.h"
 #include "TestBundle.h"
 #include "platform/appkit/help/NSHelpManager.h"
 #include "platform/foundation/bundles/NSBundle.h"
@@ -35,7 +36,7 @@ TEST_F(AnAlertSheet, staysOnTheScreenWhenItsWindowIsAtTheEdge)
     window->show();
     ASSERT_TRUE(waitUntil([&] { return window->isExposed() && window->x() < -100; }));
     begin(alert("First"));
-    ASSERT_TRUE(waitUntil([] { return openAlert() && openAlert()->isActiveWindow(); }));
+    ASSERT_TRUE(waitUntil([] { return openAlert() && hasKeyboard(openAlert()); }));
     EXPECT_GE(openAlert()->frameGeometry().left(), 0);
     EXPECT_GE(openAlert()->frameGeometry().top(), 0);
 }

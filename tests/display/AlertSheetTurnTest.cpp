@@ -3,6 +3,7 @@
 #include "AlertSheetOnWindow.h"
 #include "CapturedLog.h"
 #include "DesktopWindows.h"
+#include "KeyPress.h"
 
 #include <QTimer>
 
@@ -119,7 +120,7 @@ TEST_F(AnAlertSheet, goesUnansweredWithWhoeverWantedTheAnswer)
     begin(alert("Second"));
     delegate = std::make_unique<QObject>();
     EXPECT_FALSE(openAlert());
-    ASSERT_TRUE(waitUntil([&] { return window->isActiveWindow(); }));
+    ASSERT_TRUE(waitUntil([&] { return hasKeyboard(window); }));
     clickOn(window->box);
     EXPECT_TRUE(waitUntil([&] { return window->box->isChecked(); })) << "the window takes input again";
     EXPECT_TRUE(answers.isEmpty());

@@ -2,6 +2,7 @@
 
 #include "AlertSheetOnWindow.h"
 #include "DesktopWindows.h"
+#include "KeyPress.h"
 
 namespace {
 
@@ -108,7 +109,7 @@ TEST_F(ASheetOfAView, goesUnansweredWithTheViewAndTheWindowTakesInputAgain)
     beginOn(first, "Of the first");
     ASSERT_TRUE(alertComesUp());
     delete first;
-    ASSERT_TRUE(waitUntil([&] { return window->isActiveWindow(); }));
+    ASSERT_TRUE(waitUntil([&] { return hasKeyboard(window); }));
     expectWindowTakesInput();
     EXPECT_TRUE(answers.isEmpty());
 }

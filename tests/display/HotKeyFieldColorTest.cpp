@@ -77,7 +77,7 @@ TEST_F(HotKeyFieldColor, anotherWindowInFrontOnlyInterruptsTheEditing)
     QWidget other;
     other.show();
     other.activateWindow();
-    ASSERT_TRUE(waitUntil([&] { return other.isActiveWindow(); }));
+    ASSERT_TRUE(waitUntil([&] { return hasKeyboard(&other); }));
     EXPECT_EQ(editor()->delegate(), field(Up));
     window()->activateWindow();
     ASSERT_TRUE(waitUntil([&] { return hasKeyboard(window()); }));

@@ -68,7 +68,7 @@ TEST_F(AnAlert, bearsTheTitleOfTheWindowItAsksFor)
     QWidget asking;
     asking.setWindowTitle("Some settings");
     asking.show();
-    ASSERT_TRUE(waitUntil([&] { return asking.isActiveWindow(); }));
+    ASSERT_TRUE(waitUntil([&] { return hasKeyboard(&asking); }));
     run([] {
         EXPECT_EQ(window()->windowTitle(), "Some settings");
         pressKey(keyEscape);

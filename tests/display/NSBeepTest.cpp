@@ -1,5 +1,6 @@
 #include "platform/appkit/NSBeep.h"
 #include "BellListener.h"
+#include "KeyPress.h"
 #include "Wait.h"
 
 #include <QWidget>
@@ -23,7 +24,7 @@ TEST(TheBeep, tellsADesktopThatFlashesWhichWindow)
     EXPECT_EQ(listener.lastWindow(), xcb_window_t(XCB_NONE));
     QWidget window;
     window.show();
-    ASSERT_TRUE(waitUntil([&] { return window.isActiveWindow(); }));
+    ASSERT_TRUE(waitUntil([&] { return hasKeyboard(&window); }));
     NSBeep();
     EXPECT_EQ(listener.rings(), 2);
     EXPECT_EQ(listener.lastWindow(), xcb_window_t(window.winId()));

@@ -277,13 +277,13 @@ TEST_F(PaneAlert, goesWithThePaneFromTheWindowOfTheHost)
     auto *layout = new QVBoxLayout(&host);
     layout->addWidget(pane().mainView());
     host.show();
-    ASSERT_TRUE(waitUntil([&] { return host.isActiveWindow(); }));
+    ASSERT_TRUE(waitUntil([&] { return hasKeyboard(&host); }));
     display(KTXSuppressModAlert);
     ASSERT_TRUE(alertComesUp());
     EXPECT_EQ(openAlert()->parentWidget(), &host);
     destroyPane();
     EXPECT_FALSE(openAlert());
-    EXPECT_TRUE(waitUntil([&] { return host.isActiveWindow(); }));
+    EXPECT_TRUE(waitUntil([&] { return hasKeyboard(&host); }));
     expectStored({});
 }
 

@@ -1,6 +1,7 @@
 #include "host/linux/WindowActivation.h"
 #include "Wait.h"
 #include "platform/appkit/linux/WindowManagerMessage.h"
+#include "platform/foundation/system/X11.h"
 
 #include <QScopeGuard>
 #include <QWidget>
@@ -10,8 +11,6 @@
 #include <xcb/xcb.h>
 
 namespace {
-
-constexpr quint8 eventTypeMask = 0x7f;
 
 /// Hears the times in whose name the window manager is asked to make a window the active one.
 class ActivationListener

@@ -1,6 +1,7 @@
 #include "AttentionListener.h"
 
 #include "platform/appkit/linux/WindowManagerMessage.h"
+#include "platform/foundation/system/X11.h"
 
 #include <cstdlib>
 #include <gtest/gtest.h>
@@ -8,7 +9,6 @@
 
 namespace {
 
-constexpr quint8 eventTypeMask = 0x7f;
 constexpr char stateName[] = "_NET_WM_STATE";
 constexpr char attentionName[] = "_NET_WM_STATE_DEMANDS_ATTENTION";
 constexpr quint32 addState = 1;

@@ -1,15 +1,13 @@
 #include "platform/appkit/linux/WindowManagerMessage.h"
 
+#include "platform/foundation/system/X11.h"
+
 #include <algorithm>
-#include <cstdlib>
-#include <memory>
-#include <xcb/xcb.h>
 
 quint32 displayAtom(xcb_connection_t *connection, const char *name)
 {
-    const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> reply(
-        xcb_intern_atom_reply(connection, xcb_intern_atom(connection, 0, quint16(qstrlen(name)), name), nullptr),
-        &std::free);
+    const auto reply = fromServer(
+        xcb_intern_atom_reply(connection, xcb_intern_atom(connection, 0, quint16(qstrlen(name)), name), nullptr));
     return reply ? reply->atom : quint32(XCB_ATOM_NONE);
 }
 
