@@ -7,6 +7,8 @@ set(LUMAROO_INSTALL_PANES ${LUMAROO_INSTALL_DIR}/PreferencePanes)
 
 # The platform libraries stand beside the bundles in the build tree, and in lib/lumaroo when installed.
 set(LUMAROO_LIBRARY_DIR ${CMAKE_BINARY_DIR}/lib)
+# First of all: the agent's copy of one of them lies in the pane's bundle, beside the updater that others link.
+set(CMAKE_BUILD_RPATH ${LUMAROO_LIBRARY_DIR})
 
 # lumaroo_bundle_file(<target> <bundle> <source file> <path inside the bundle>): copies a file into a bundle at build time.
 function(lumaroo_bundle_file target bundle source inside)

@@ -1,5 +1,6 @@
 #include "UpdatableBundle.h"
 #include "updater/core/InstalledBundle.h"
+#include "updater/core/UpdatePermission.h"
 #include "updater/core/linux/BundleExchange.h"
 #include "updater/core/linux/SealedFile.h"
 

@@ -1,6 +1,7 @@
 #include "updater/core/Installation.h"
 
 #include "updater/core/InstalledBundle.h"
+#include "updater/core/UpdatePermission.h"
 #include "updater/core/WaitingUpdate.h"
 #include "updater/core/linux/BundleExchange.h"
 #include "updater/core/linux/MappedFiles.h"

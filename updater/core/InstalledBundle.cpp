@@ -3,7 +3,6 @@
 #include "platform/foundation/bundles/NSBundle.h"
 #include "updater/core/Signature.h"
 #include "updater/core/Versions.h"
-#include "updater/core/linux/Permission.h"
 
 #include <QFileInfo>
 
@@ -59,20 +58,4 @@ UpdateProblem problemOfBundle(const QString &bundlePath, const ExpectedBundle &e
                             .arg(expected.platformVersion));
     const QString code = NSBundle::executablePathNamedBy(info, bundlePath);
     return QFileInfo(code).isFile() ? UpdateProblem{} : contents(QStringLiteral("it holds no code"));
-}
-
-UpdateProblem problemOfUpdating(const QString &bundlePath)
-{
-    return problemOfUpdating(bundlePath, effectiveUser());
-}
-
-UpdateProblem problemOfUpdating(const QString &bundlePath, unsigned user)
-{
-    if (user == superuser)
-        return {UpdateProblem::Kind::Superuser, QStringLiteral("updates are not installed as root")};
-    const QString path = QFileInfo(bundlePath).canonicalFilePath();
-    const bool isWritable = !path.isEmpty() && mayWriteFolder(path) && mayWriteFolder(QFileInfo(path).path());
-    return isWritable ? UpdateProblem{}
-                      : UpdateProblem{UpdateProblem::Kind::NotWritable,
-                          QStringLiteral("%1 is not this user's to change").arg(bundlePath)};
 }

@@ -3,6 +3,7 @@
 #include "platform/foundation/system/NSLog.h"
 #include "updater/core/Appcast.h"
 #include "updater/core/InstalledBundle.h"
+#include "updater/core/UpdatePermission.h"
 #include "updater/core/WaitingUpdate.h"
 
 namespace {

@@ -1,0 +1,3 @@
+#include "updater/UpdateEngine.h"
+
+UpdateEngine::~UpdateEngine() = default;
