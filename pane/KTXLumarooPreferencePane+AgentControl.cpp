@@ -1,7 +1,7 @@
 #include "pane/KTXLumarooPreferencePane.h"
 
 #include "KTXConstants.h"
-#include "platform/appkit/NSApplication.h"
+#include "platform/appkit/Relaunch.h"
 #include "platform/foundation/Boundary.h"
 #include "platform/foundation/NSException.h"
 #include "platform/foundation/bundles/NSBundle.h"
@@ -9,7 +9,6 @@
 #include "platform/foundation/notifications/NSNotificationCenter.h"
 #include "platform/foundation/preferences/CFPreferences.h"
 #include "platform/foundation/processes/LaunchServices.h"
-#include "platform/foundation/processes/NSTask.h"
 #include "platform/foundation/processes/Processes.h"
 #include "platform/foundation/propertylists/Description.h"
 #include "platform/foundation/system/NSLog.h"
@@ -114,10 +113,5 @@ void KTXLumarooPreferencePane::relaunch()
         return;
     }
     log(QStringLiteral("relaunch -- path found"));
-    NSTask task;
-    task.setLaunchPath(launcher);
-    task.setArguments({bundle()->bundlePath(), isDebugging ? QStringLiteral("Yes") : QStringLiteral("No")});
-    task.setStandardInput(NSPipe::pipe());
-    task.launch();
-    NSApplication::sharedApplication()->terminate(this);
+    relaunchWithPane(bundle()->bundlePath(), launcher, isDebugging ? LauncherLog::Verbose : LauncherLog::Quiet);
 }

@@ -1,5 +1,6 @@
 #include "ProgramResult.h"
 #include "UpdatableBundle.h"
+#include "updater/core/Installation.h"
 #include "updater/core/UpdateRecord.h"
 
 #include "platform/foundation/preferences/CFPreferences.h"
@@ -7,6 +8,8 @@
 #include <QProcess>
 
 // The program that installs a waiting update when nobody else does.
+
+using Kind = UpdateProblem::Kind;
 
 namespace {
 
@@ -17,6 +20,7 @@ protected:
     {
         return qEnvironmentVariable("LUMAROO_BUILD") + "/Lumaroo.prefPane/Contents/Resources/installer";
     }
+    static int statusOf(Kind kind) { return firstInstallationFailure + int(kind); }
     QString recordedProblem() const
     {
         CFPreferencesAppSynchronize(updaterDomain);
@@ -67,7 +71,7 @@ TEST_F(Installer, remembersWhyNothingWasInstalledUntilSomethingIs)
     prepare(101);
     write(places().archive(), "something else");
     const ProgramResult result = run();
-    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.status, statusOf(Kind::Signature));
     EXPECT_EQ(result.errors, "lumaroo: installer: version 100 stays: the archive is not the one that was signed\n");
     EXPECT_EQ(recordedProblem(), "the archive is not the one that was signed");
     expectOldBundleAlone();
@@ -80,7 +84,7 @@ TEST_F(Installer, installsNothingAsRoot)
 {
     prepare(101);
     const ProgramResult result = runProgram("unshare", {"--user", "--map-root-user", program(), bundle()});
-    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.status, statusOf(Kind::Superuser));
     EXPECT_EQ(result.errors, "lumaroo: installer: version 100 stays: updates are not installed as root\n");
     EXPECT_EQ(wholeVersion(), 100);
     EXPECT_TRUE(waitingUpdate(places()));

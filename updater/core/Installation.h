@@ -3,6 +3,9 @@
 #include "updater/core/UpdatePlaces.h"
 #include "updater/core/UpdateProblem.h"
 
+/// The installer's exit status where it has not installed what waits is this and the problem's kind.
+inline constexpr int firstInstallationFailure = 16;
+
 /// What came of installing a waiting update.
 struct Installation
 {

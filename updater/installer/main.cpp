@@ -2,8 +2,8 @@
 //   installer BUNDLE
 //   installer --after-input BUNDLE
 // With the option it first waits for the end of its standard input, a pipe whose other end the settings application
-// holds for as long as it lives. Exit status: 0 done or nothing to do, 1 not installed (the log tells why), 2 the
-// command line makes no sense.
+// holds for as long as it lives. Exit status: 0 done or nothing to do, 1 its input cannot be read, 2 the command line
+// makes no sense; from 16 on not installed, and why, as a kind of problem (the log tells more).
 
 #include "platform/foundation/system/NSLog.h"
 #include "updater/core/Installation.h"
@@ -41,7 +41,7 @@ int install(const QString &bundle)
     else
         NSLog(QStringLiteral("lumaroo: installer: version %1 stays: %2")
                   .arg(installation.version, installation.problem.detail));
-    return installation.problem.isNone() ? Done : NotDone;
+    return installation.problem.isNone() ? Done : firstInstallationFailure + int(installation.problem.kind);
 }
 
 } // namespace
