@@ -62,6 +62,17 @@ QStringList paneFolders()
     return {userDataFolder() + QStringLiteral("/PreferencePanes"), beside + QStringLiteral("/PreferencePanes"), beside};
 }
 
+QStringList paneBundles(const QStringList &folders, const QString &request)
+{
+    QStringList bundles;
+    for (const QString &folder : folders)
+        bundles += bundlesIn(folder);
+    if (request.contains(u'/'))
+        bundles += realPath(request);
+    bundles.removeDuplicates();
+    return bundles;
+}
+
 QList<InstalledPane> installedPanes(const QStringList &folders)
 {
     QList<InstalledPane> panes;

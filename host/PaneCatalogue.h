@@ -20,6 +20,9 @@ struct InstalledPane
 /// holds the host's bundle.
 QStringList paneFolders();
 
+/// The bundles in these folders and the one that a request means by its path, as paths alone: nothing of them is read.
+QStringList paneBundles(const QStringList &folders, const QString &request);
+
 /// The panes of these folders by name; of several with one identifier the first found. Damaged bundles are listed too,
 /// under their file name.
 QList<InstalledPane> installedPanes(const QStringList &folders);

@@ -1,5 +1,7 @@
 #include "host/SettingsApplication.h"
 
+#include "host/WaitingUpdates.h"
+
 #include <QApplication>
 #include <QThread>
 #include <QTimer>
@@ -26,6 +28,8 @@ SettingsApplication::~SettingsApplication()
 
 void SettingsApplication::start(const QString &request)
 {
+    // Before anything of a bundle is read: what is known of one stays, as does code.
+    finishUpdates(paneBundles(folders_, request));
     go(request.isEmpty() ? Destination{Destination::Kind::Overview, {}}
                          : Destination{Destination::Kind::Pane, request});
     window_.show();

@@ -14,20 +14,23 @@
 #include <QDir>
 #include <QSaveFile>
 
-namespace {
-
-void setVersion(const QString &bundle, int version)
+void changeInfo(const QString &bundle, const QVariantMap &changes)
 {
     QVariantMap info = NSBundle::infoDictionaryOnDisk(bundle);
     ASSERT_FALSE(info.isEmpty());
-    info.insert(QStringLiteral("CFBundleVersion"), QString::number(version));
+    info.insert(changes);
     QSaveFile file(bundle + QStringLiteral("/Contents/Info.plist"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(writeXMLPropertyList(info));
     ASSERT_TRUE(file.commit());
 }
 
-} // namespace
+void changeVersion(const QString &paneBundle, int version)
+{
+    const QVariantMap change{{QStringLiteral("CFBundleVersion"), QString::number(version)}};
+    changeInfo(paneBundle + QStringLiteral("/Contents/Resources/LumarooAgent.app"), change);
+    changeInfo(paneBundle, change);
+}
 
 InstalledProduct::InstalledProduct()
 {
@@ -55,8 +58,7 @@ QString InstalledProduct::agentProgram() const
 
 void InstalledProduct::install(int version) const
 {
-    setVersion(pane_ + QStringLiteral("/Contents/Resources/LumarooAgent.app"), version);
-    setVersion(pane_, version);
+    changeVersion(pane_, version);
 }
 
 int InstalledProduct::installedVersion() const

@@ -9,6 +9,11 @@
 #include <memory>
 #include <sys/types.h>
 
+/// Adds entries to a bundle's Info dictionary on disk, or replaces them.
+void changeInfo(const QString &bundle, const QVariantMap &changes);
+/// Makes a pane bundle, with the agent in it, one of another version.
+void changeVersion(const QString &paneBundle, int version);
+
 /// The whole product as a user has it: a copy of the built pane bundle among the user's own panes, with settings of its
 /// own; the settings application and the agent are real, and whatever of them runs is killed with the object.
 class InstalledProduct : public testing::Test

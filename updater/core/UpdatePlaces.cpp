@@ -1,16 +1,15 @@
 #include "updater/core/UpdatePlaces.h"
 
+#include "platform/foundation/bundles/BesideBundle.h"
+
 #include <QDir>
 #include <QFileInfo>
 
-UpdatePlaces::UpdatePlaces(const QString &bundle)
-    : bundle_(bundle), folder_(QFileInfo(bundle).path()), name_(QFileInfo(bundle).fileName())
-{
-}
+UpdatePlaces::UpdatePlaces(const QString &bundle) : bundle_(bundle), folder_(QFileInfo(bundle).path()) { }
 
 QString UpdatePlaces::hidden(const QString &what) const
 {
-    return folder_ + QStringLiteral("/.%1.%2").arg(name_, what);
+    return pathBesideBundle(bundle_, what);
 }
 
 QStringList UpdatePlaces::aside() const

@@ -30,5 +30,5 @@ public:
 private:
     QString hidden(const QString &what) const;
 
-    QString bundle_, folder_, name_;
+    QString bundle_, folder_;
 };
