@@ -40,6 +40,8 @@ inline const QString KTXUnichar = QStringLiteral("unichar");
 inline const QString KTXRepeat = QStringLiteral("repeatedKey");
 
 inline const QString SUEnableAutomaticChecks = QStringLiteral("SUEnableAutomaticChecks");
+/// Followed by the number of the build whose notes are hidden.
+inline const QString KTXHideBetaNotes = QStringLiteral("hideBetaNotes");
 inline const QString KTXAutoRepeat = QStringLiteral("autoRepeat");
 inline const QString KTXRepeatRate = QStringLiteral("repeatRate");
 inline const QString KTXInitialDelay = QStringLiteral("initialDelay");

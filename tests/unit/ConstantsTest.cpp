@@ -42,6 +42,7 @@ const std::vector<AgreedText> &agreedTexts()
         {"KTXUnichar", KTXUnichar, "unichar"},
         {"KTXRepeat", KTXRepeat, "repeatedKey"},
         {"SUEnableAutomaticChecks", SUEnableAutomaticChecks, "SUEnableAutomaticChecks"},
+        {"KTXHideBetaNotes", KTXHideBetaNotes, "hideBetaNotes"},
         {"KTXAutoRepeat", KTXAutoRepeat, "autoRepeat"},
         {"KTXRepeatRate", KTXRepeatRate, "repeatRate"},
         {"KTXInitialDelay", KTXInitialDelay, "initialDelay"},

@@ -1,0 +1,154 @@
+// What the pane tells its updater, and what its controls about updates do. The updater is the real one; what it was
+// told shows in what it asks a server on loopback for.
+
+#include "PaneOnRealStore.h"
+
+#include "KTXConstants.h"
+#include "platform/appkit/controls/FloatSlider.h"
+#include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/preferences/CFPreferences.h"
+#include "platform/foundation/preferences/NSUserDefaults.h"
+#include "updater/SUUpdater.h"
+#include "updater/core/UpdateRecord.h"
+
+#include <QTest>
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+
+namespace {
+
+const BusNotification changed{"Lumaroo Preferences Changed", "com.quorvane.Lumaroo", {}, true};
+
+class PaneUpdates : public PaneOnRealStore
+{
+protected:
+    PaneUpdates()
+    {
+        store().set(KTXFirstLaunch, QVariant(true));
+        NSUserDefaults::standardUserDefaults()->setPersistentDomainForName({}, updaterDomain);
+    }
+
+    SUUpdater *updater() { return SUUpdater::updaterForBundle(NSBundle::bundleWithPath(bundle().path())); }
+    QString feedAfterSetUp(const QVariant &feedOfBundle)
+    {
+        changeInfo({{"SUFeedURL", feedOfBundle}});
+        paneWithoutView();
+        return updater()->feedURL().toString(QUrl::FullyEncoded);
+    }
+    void click(const char *name) { QTest::mouseClick(control(name), Qt::LeftButton, {}, {8, 8}); }
+};
+
+} // namespace
+
+TEST_F(PaneUpdates, followTheReleasesWhereTheBundleNamesTheBetaFeed)
+{
+    EXPECT_EQ(feedAfterSetUp("https://lumaroo.example/appcast_beta.xml"), "https://lumaroo.example/appcast.xml");
+}
+
+TEST_F(PaneUpdates, ofTheBuiltBundleComeFromItsReleaseFeed)
+{
+    paneWithoutView();
+    EXPECT_EQ(updater()->feedURL().toString(), "https://lumaroo.example/appcast.xml");
+}
+
+TEST_F(PaneUpdates, loseTheBetaMarkerWhereverItStandsInTheAddress)
+{
+    EXPECT_EQ(feedAfterSetUp("https://web_beta.lumaroo.example/feeds_beta/appcast_beta.xml?of=_beta#_beta"),
+        "https://web.lumaroo.example/feeds/appcast.xml?of=#");
+}
+
+TEST_F(PaneUpdates, keepWhatIsNotQuiteTheBetaMarker)
+{
+    const QString address = "https://lumaroo.example/appcast_BETA.xml?and=_Beta&or=beta&or=_bet";
+    EXPECT_EQ(feedAfterSetUp(address), address);
+}
+
+TEST_F(PaneUpdates, keepAnAddressWithoutTheMarker)
+{
+    const QString address = "https://lumaroo.example/a%20feed/appcast.xml?a=%26";
+    EXPECT_EQ(feedAfterSetUp(address), address);
+}
+
+TEST_F(PaneUpdates, haveNoFeedWhereTheBundleNamesNone)
+{
+    EXPECT_EQ(feedAfterSetUp({}), "");
+}
+
+TEST_F(PaneUpdates, areSetUpOnceForEachPaneAndBeforeItIsAnnounced)
+{
+    changeInfo({{"SUFeedURL", "https://lumaroo.example/appcast_beta.xml"}});
+    paneWithoutView();
+    EXPECT_EQ(bus().names(), QStringList{KTXLMPrefPaneLaunched});
+    updater()->setFeedURL(QUrl("https://other.example/other_beta.xml"));
+    pane();
+    showPane();
+    EXPECT_EQ(updater()->feedURL().toString(), "https://other.example/other_beta.xml") << "at creation alone";
+    destroyPane();
+    paneWithoutView();
+    EXPECT_EQ(updater()->feedURL().toString(), "https://other.example/other.xml") << "what the updater uses currently";
+}
+
+TEST_F(PaneUpdates, thatAreAutomaticAreStoredAndAnnounced)
+{
+    showPane();
+    bus().clear();
+    for (const bool isOn : {true, false}) {
+        click("autoUpdateButton");
+        EXPECT_EQ(store().value(SUEnableAutomaticChecks), QVariant(isOn));
+        EXPECT_EQ(store().value(SUEnableAutomaticChecks).typeId(), QMetaType::Bool);
+        EXPECT_THAT(bus().notifications(), ElementsAre(changed));
+        bus().clear();
+    }
+}
+
+TEST_F(PaneUpdates, hidingTheNotesWritesTheBuildsKeyAndNeitherFlushesNorTells)
+{
+    changeInfo({{"CFBundleVersion", "57"}});
+    showPane();
+    bus().clear();
+    const QVariantMap before = store().domain();
+    performClick(control("hideBetaNotesButton"));
+    EXPECT_EQ(CFPreferencesCopyAppValue("hideBetaNotes57", KTXLMAppID), QVariant(true));
+    EXPECT_EQ(store().domain(), before);
+    EXPECT_EQ(bus().names(), QStringList());
+    performClick(control("hideBetaNotesButton"));
+    EXPECT_EQ(CFPreferencesCopyAppValue("hideBetaNotes57", KTXLMAppID), QVariant(false));
+    EXPECT_EQ(store().domain(), before);
+}
+
+TEST_F(PaneUpdates, hiddenNotesReachTheDiskWithASlidersWholeDomain)
+{
+    changeInfo({{"CFBundleVersion", "57"}});
+    showPane();
+    performClick(control("hideBetaNotesButton"));
+    bus().clear();
+    control<FloatSlider>("repeatDelaySlider")->chooseValue(1.25);
+    EXPECT_EQ(store().value("hideBetaNotes57"), QVariant(true));
+    EXPECT_EQ(store().value(KTXInitialDelay), QVariant(1.25f));
+    EXPECT_EQ(bus().names(), QStringList()) << "a slider tells nobody";
+}
+
+TEST_F(PaneUpdates, hiddenNotesReachTheDiskWithTheNextFlush)
+{
+    changeInfo({{"CFBundleVersion", "57"}});
+    showPane();
+    performClick(control("hideBetaNotesButton"));
+    pane().didUnselect();
+    EXPECT_EQ(store().value("hideBetaNotes57"), QVariant(true));
+}
+
+TEST_F(PaneUpdates, theBuildsKeyGoesByTheVersionsLeadingDigits)
+{
+    const QList<std::pair<QString, QString>> keys{
+        {"12b", "hideBetaNotes12"}, {"b12", "hideBetaNotes0"}, {"1.2.3", "hideBetaNotes1"}, {"", "hideBetaNotes0"}};
+    for (const auto &[version, key] : keys) {
+        store().clear();
+        TestBundle other("Lumaroo.prefPane");
+        other.writeInfo({{"CFBundleVersion", version}});
+        RecordingPane hiding(&calls);
+        ASSERT_TRUE(hiding.initWithBundle(NSBundle::bundleWithPath(other.path())));
+        hiding.hideBetaNotes(control("hideBetaNotesButton"));
+        EXPECT_EQ(CFPreferencesCopyAppValue(key, KTXLMAppID), QVariant(false)) << qPrintable(version);
+    }
+}
