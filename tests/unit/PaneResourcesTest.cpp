@@ -118,6 +118,23 @@ TEST(PaneResources, theIconHasAPictureForEachCommonSize)
     EXPECT_EQ(widths, QList<int>({16, 32, 64, 128, 256, 512}));
 }
 
+TEST(PaneResources, theInterfaceFileNamesHeadersThatExist)
+{
+    const QDir resources(builtPath() + "/Contents/Resources");
+    static const QRegularExpression header("<header>([^<]*)</header>");
+    int headers = 0;
+    for (const QString &name : resources.entryList({"*.ui"}, QDir::Files)) {
+        QFile file(resources.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        for (const QRegularExpressionMatch &match : header.globalMatch(QString::fromUtf8(file.readAll()))) {
+            EXPECT_TRUE(QFile::exists(qEnvironmentVariable("LUMAROO_SOURCE") + '/' + match.captured(1)))
+                << name.toStdString() << ": " << match.captured(1).toStdString();
+            ++headers;
+        }
+    }
+    EXPECT_GT(headers, 0);
+}
+
 TEST_P(PagesOfALanguage, areThereInEachLanguage)
 {
     EXPECT_EQ(names(), QStringList({"AtAGlance.html", "FirstSteps.html"}));
