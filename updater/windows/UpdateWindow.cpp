@@ -74,6 +74,8 @@ void UpdateWindow::setPage(const UpdatePage &page)
     defaultButton_ = page.defaultButton;
     body_ = makeBody(page);
     layout()->addWidget(body_);
+    // Hidden, it would take no room.
+    body_->show();
     setAccessibleDescription(page.heading + u'\n' + page.text);
     fit(page);
     focusDefault();
@@ -161,8 +163,8 @@ void UpdateWindow::fit(const UpdatePage &page)
     setMinimumSize(0, 0);
     setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     layout()->activate();
-    const QSize hint = sizeHint();
-    const QSize wanted(hint.width(), body_->hasHeightForWidth() ? body_->heightForWidth(hint.width()) : hint.height());
+    const QSize hint = layout()->totalSizeHint();
+    const QSize wanted(hint.width(), qMax(hint.height(), layout()->totalHeightForWidth(hint.width())));
     resize(grows ? wanted.expandedTo(largestSize) : wanted);
     setMinimumSize(wanted);
 }

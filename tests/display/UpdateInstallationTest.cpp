@@ -1,0 +1,222 @@
+// From the offer to the restart, as its user sees it.
+
+#include "KeyPress.h"
+#include "RunningPrograms.h"
+#include "UpdaterOnScreen.h"
+#include "Wait.h"
+
+#include "platform/appkit/NSApplication.h"
+#include "updater/core/linux/BundleExchange.h"
+
+#include <QProgressBar>
+#include <linux/input-event-codes.h>
+
+using Kind = UpdateProblem::Kind;
+
+namespace {
+
+class UpdateInstallation : public UpdaterOnScreen
+{
+protected:
+    UpdateInstallation()
+    {
+        NSApplication::sharedApplication()->setTerminationHandler([this] { ++terminations; });
+    }
+    ~UpdateInstallation() override { NSApplication::sharedApplication()->setTerminationHandler({}); }
+
+    void offer(const AppcastItem &item)
+    {
+        tell({item});
+        checkForUser();
+        ASSERT_TRUE(shows("offer"));
+    }
+    void expectFailure(const QString &heading)
+    {
+        ASSERT_TRUE(shows("failure"));
+        EXPECT_EQ(text("heading"), heading);
+        EXPECT_FALSE(text("detail").isEmpty());
+        expectOldBundleAlone();
+        pressWithKeyboard(KEY_ENTER);
+        EXPECT_TRUE(closes());
+    }
+    QByteArray archiveWithLauncher() const
+    {
+        QList<TarEntry> entries = entriesOf(101, keyInInfo());
+        entries += {"Sample.prefPane/Contents/Resources/launcher", TarEntry::File,
+            "#!/bin/sh\nprintf '%s\\n' \"$@\" >\"$0.new\"\nmv \"$0.new\" \"$0.done\"\n", {}, 0755};
+        return tarFile(entries);
+    }
+    /// Large enough to take its time.
+    QByteArray largeArchive() const
+    {
+        QList<TarEntry> entries = entriesOf(101, keyInInfo());
+        entries += {"Sample.prefPane/Contents/Resources/large", TarEntry::File, QByteArray(64 << 20, '.')};
+        return tarFile(entries);
+    }
+    QList<pid_t> waitingInstallers() const
+    {
+        return processesOf(
+            QFileInfo(qEnvironmentVariable("LUMAROO_BUILD") + "/Lumaroo.prefPane/Contents/Resources/installer")
+                .canonicalFilePath());
+    }
+
+    int terminations = 0;
+};
+
+} // namespace
+
+TEST_F(UpdateInstallation, downloadsWhatIsOfferedAndInstallsItWhenTheSettingsEnd)
+{
+    putInstaller();
+    offer(publish(101));
+    const qsizetype before = waitingInstallers().size();
+    pressWithKeyboard(KEY_ENTER);
+    ASSERT_TRUE(shows("ready"));
+    EXPECT_EQ(text("heading"), "Lumaroo 101 is ready");
+    EXPECT_TRUE(waitingUpdate(places()));
+    EXPECT_TRUE(waitUntil([&] { return waitingInstallers().size() == before + 1; }));
+    pressWithKeyboard(KEY_ESC);
+    EXPECT_TRUE(closes());
+    EXPECT_EQ(wholeVersion(), 100);
+    EXPECT_EQ(terminations, 0);
+    // Its input ends with the settings only; ended otherwise, it has done nothing.
+    killProcess(waitingInstallers().last());
+}
+
+TEST_F(UpdateInstallation, installsAndRestarts)
+{
+    putInstaller();
+    offer(publish(101, archiveWithLauncher()));
+    press("install");
+    ASSERT_TRUE(shows("ready"));
+    pressWithKeyboard(KEY_ENTER);
+    EXPECT_TRUE(waitUntil([this] { return terminations == 1; }));
+    EXPECT_EQ(wholeVersion(), 101);
+    EXPECT_EQ(window(), nullptr);
+    const QString report = bundle() + "/Contents/Resources/launcher.done";
+    EXPECT_TRUE(waitUntil([&] { return QFile::exists(report); }));
+    EXPECT_EQ(contentOf(report), bundle().toUtf8() + "\nNo\n");
+}
+
+TEST_F(UpdateInstallation, saysWhatToDoWhereNothingBringsTheSettingsBack)
+{
+    putInstaller();
+    offer(publish(101));
+    press("install");
+    ASSERT_TRUE(shows("ready"));
+    press("installAndRestart");
+    ASSERT_TRUE(shows("installed"));
+    EXPECT_EQ(wholeVersion(), 101);
+    EXPECT_EQ(terminations, 0);
+}
+
+TEST_F(UpdateInstallation, offersWhatWaitsAlreadyAtOnce)
+{
+    prepare(101);
+    tell({publish(101)});
+    checkForUser();
+    EXPECT_TRUE(shows("ready"));
+    EXPECT_EQ(server.requests(), QStringList("GET /appcast.xml"));
+}
+
+TEST_F(UpdateInstallation, isCancelledWhileItDownloads)
+{
+    AppcastItem item = publish(101);
+    item.archive = server.url("/hanging");
+    offer(item);
+    press("install");
+    EXPECT_TRUE(wasAsked("GET /hanging"));
+    EXPECT_EQ(page(), "download");
+    pressWithKeyboard(KEY_ESC);
+    EXPECT_TRUE(closes());
+    expectOldBundleAlone();
+}
+
+TEST_F(UpdateInstallation, tellsHowMuchHasCome)
+{
+    AppcastItem item = publish(101);
+    item.archive = server.url("/endless");
+    item.length = 200'000'000;
+    offer(item);
+    press("install");
+    EXPECT_TRUE(waitUntil([] { return text("text").endsWith(" of 200.0 MB"); })) << text("text").toStdString();
+    const auto *bar = window()->findChild<QProgressBar *>("progress");
+    EXPECT_EQ(bar->maximum(), 1000);
+    press("cancel");
+    expectOldBundleAlone();
+}
+
+TEST_F(UpdateInstallation, isCancelledWhileItIsPrepared)
+{
+    offer(publish(101, largeArchive()));
+    press("install");
+    ASSERT_TRUE(shows("preparing"));
+    press("cancel");
+    EXPECT_EQ(window(), nullptr);
+    expectOldBundleAlone();
+}
+
+TEST_F(UpdateInstallation, tellsThatWhatCameIsNotGenuine)
+{
+    AppcastItem item = publish(101);
+    item.signature = SigningKey::generated().signatureOf(archiveOf(101));
+    offer(item);
+    press("install");
+    expectFailure("The update is not genuine");
+}
+
+TEST_F(UpdateInstallation, tellsThatWhatCameIsDamaged)
+{
+    offer(publish(101, "no archive"));
+    press("install");
+    expectFailure("The update is damaged");
+}
+
+TEST_F(UpdateInstallation, tellsThatWhatCameIsAnotherVersion)
+{
+    AppcastItem item = publish(99);
+    item.version = "101";
+    offer(item);
+    press("install");
+    expectFailure("The update is not what was announced");
+}
+
+TEST_F(UpdateInstallation, tellsThatNothingCame)
+{
+    AppcastItem item = publish(101);
+    item.archive = server.url("/404");
+    offer(item);
+    press("install");
+    expectFailure("The update cannot be downloaded");
+}
+
+TEST_F(UpdateInstallation, tellsThatAnotherProcessIsAtIt)
+{
+    offer(publish(101));
+    const FolderLock lock(folder());
+    press("install");
+    expectFailure("Lumaroo is being updated already");
+}
+
+TEST_F(UpdateInstallation, tellsThatWhatWaitedHasBeenChangedSince)
+{
+    putInstaller();
+    offer(publish(101));
+    press("install");
+    ASSERT_TRUE(shows("ready"));
+    write(places().archive(), "something else");
+    press("installAndRestart");
+    expectFailure("The update is not genuine");
+    EXPECT_EQ(terminations, 0);
+}
+
+TEST_F(UpdateInstallation, tellsThatThereIsNoInstaller)
+{
+    offer(publish(101));
+    press("install");
+    ASSERT_TRUE(shows("ready"));
+    press("installAndRestart");
+    ASSERT_TRUE(shows("failure"));
+    EXPECT_EQ(text("heading"), "The update cannot take the old version's place");
+    EXPECT_EQ(wholeVersion(), 100);
+}

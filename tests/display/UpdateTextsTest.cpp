@@ -1,0 +1,130 @@
+// The window's texts: each kind of problem has its own words, in English and German, and every page has its keys.
+
+#include "TestBundle.h"
+#include "Wait.h"
+
+#include "platform/foundation/bundles/NSBundle.h"
+#include "updater/windows/UpdatePages.h"
+#include "updater/windows/UpdateWindow.h"
+
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QSet>
+#include <gtest/gtest.h>
+
+namespace {
+
+/// The product speaks the user's language, here German; a bundle without tables speaks English.
+const NSBundle *german()
+{
+    return NSBundle::bundleWithPath(qEnvironmentVariable("LUMAROO_BUILD") + "/Lumaroo.prefPane");
+}
+const NSBundle *english()
+{
+    static const TestBundle untranslated("Untranslated.prefPane");
+    return NSBundle::bundleWithPath(untranslated.path());
+}
+
+QList<UpdateProblem> problems()
+{
+    QList<UpdateProblem> all;
+    for (int kind = int(UpdateProblem::Kind::Feed); kind <= int(UpdateProblem::Kind::Exchange); ++kind)
+        all += UpdateProblem{UpdateProblem::Kind(kind), {}};
+    return all;
+}
+
+QList<UpdatePage> allPages(const NSBundle *bundle)
+{
+    const UpdatePages pages(bundle);
+    AppcastItem item;
+    item.displayVersion = item.version = "101";
+    item.link = QUrl("http://127.0.0.1/");
+    AppcastItem critical = item;
+    critical.isCritical = true;
+    AppcastItem informational = item;
+    informational.isInformational = true;
+    QList<UpdatePage> all{pages.checking(), pages.upToDate("1.0"), pages.offer(item, "100"),
+        pages.offer(critical, "100"), pages.offer(informational, "100"), pages.download("1.1"), pages.preparing("1.1"),
+        pages.ready("1.1"), pages.installing("1.1"), pages.installed("1.1")};
+    for (const UpdateProblem &problem : problems())
+        all += pages.failure(problem);
+    return all;
+}
+
+QStringList textsOf(const UpdatePage &page)
+{
+    QStringList texts{page.heading, page.text};
+    for (const UpdateButton &button : page.buttons)
+        texts += button.text;
+    texts.removeAll({});
+    return texts;
+}
+
+bool everythingFits(const UpdateWindow &window)
+{
+    const auto labels = window.findChildren<QLabel *>();
+    const auto buttons = window.findChildren<QPushButton *>();
+    return std::all_of(labels.begin(), labels.end(), [](const QLabel *label) {
+        return label->height() >= label->heightForWidth(label->width());
+    }) && std::all_of(buttons.begin(), buttons.end(), [](const QPushButton *button) {
+        return button->width() >= button->sizeHint().width();
+    });
+}
+
+class UpdateTexts : public testing::Test
+{
+protected:
+    UpdateTexts() { QLocale::setDefault(QLocale("de_DE")); }
+    ~UpdateTexts() override { QLocale::setDefault(QLocale::system()); }
+};
+
+} // namespace
+
+TEST_F(UpdateTexts, haveWordsOfTheirOwnForEachProblem)
+{
+    QSet<QString> headings;
+    for (const UpdateProblem &problem : problems())
+        headings += UpdatePages(english()).failure(problem).heading;
+    EXPECT_EQ(headings.size(), problems().size());
+    EXPECT_FALSE(headings.contains(UpdatePages(english()).failure({}).heading));
+}
+
+TEST_F(UpdateTexts, areAllGermanForAGermanUser)
+{
+    const QList<UpdatePage> before = allPages(english());
+    const QList<UpdatePage> after = allPages(german());
+    for (qsizetype i = 0; i < before.size(); ++i) {
+        const QStringList texts = textsOf(before[i]);
+        ASSERT_EQ(texts.size(), textsOf(after[i]).size());
+        for (const QString &text : texts)
+            EXPECT_FALSE(textsOf(after[i]).contains(text)) << text.toStdString();
+    }
+    EXPECT_EQ(UpdatePages(german()).progressText(1'200'000, 3'400'000), "1,2 MB von 3,4 MB");
+    EXPECT_NE(UpdatePages(german()).windowTitle(), UpdatePages(english()).windowTitle());
+    EXPECT_NE(UpdatePages(german()).notesAreMissing(), UpdatePages(english()).notesAreMissing());
+}
+
+TEST_F(UpdateTexts, giveEveryButtonOfAPageAKeyOfItsOwn)
+{
+    for (const UpdatePage &page : allPages(english()) + allPages(german())) {
+        QSet<QString> keys;
+        for (const UpdateButton &button : page.buttons)
+            keys += QKeySequence::mnemonic(button.text).toString();
+        EXPECT_EQ(keys.size(), page.buttons.size()) << page.heading.toStdString();
+        EXPECT_FALSE(keys.contains(QString())) << page.heading.toStdString();
+    }
+}
+
+TEST_F(UpdateTexts, fitIntoTheWindow)
+{
+    UpdateWindow window("Update", {});
+    for (const UpdatePage &page : allPages(english()) + allPages(german())) {
+        window.setPage(page);
+        window.comeToFront();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+        EXPECT_LE(window.width(), 720) << page.heading.toStdString();
+        // The window manager may grant the size before this one first.
+        EXPECT_TRUE(waitUntil([&] { return everythingFits(window); })) << page.heading.toStdString();
+    }
+}
