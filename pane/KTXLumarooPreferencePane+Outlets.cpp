@@ -1,5 +1,7 @@
 #include "pane/KTXLumarooPreferencePane.h"
 
+#include "updater/InterfaceClasses.h"
+
 InterfaceOwner KTXLumarooPreferencePane::interfaceOwner()
 {
     InterfaceOwner owner = NSPreferencePane::interfaceOwner();
@@ -9,6 +11,7 @@ InterfaceOwner KTXLumarooPreferencePane::interfaceOwner()
     owner.textDelegate = this;
     owner.windowDelegate = this;
     owner.frameLoadDelegate = this;
+    owner.classes = updaterInterfaceClasses();
     return owner;
 }
 

@@ -100,7 +100,7 @@ const ExpectedOutlet outlets[] = {
     {"tabbedView", "QTabWidget"},
     {"enabledState", "QLabel"},
     {"copyrightField", "QLabel"},
-    {"betaWindow", "QDialog"},
+    {"betaWindow", "BuildNotesWindow"},
 };
 
 std::vector<int> itemTags(const LoadedWindow &window, const char *popUp)

@@ -2,6 +2,7 @@
 
 #include "ProgramResult.h"
 #include "RunningPrograms.h"
+#include "SeenNotes.h"
 #include "Wait.h"
 
 #include "KTXConstants.h"
@@ -41,6 +42,7 @@ InstalledProduct::InstalledProduct()
     pane_ = QDir(panes).canonicalPath() + QStringLiteral("/Lumaroo.prefPane");
     QFile::remove(settingsFile());
     NSUserDefaults::standardUserDefaults()->setPersistentDomainForName({}, KTXLMAppID);
+    letNotesBeSeen();
 }
 
 InstalledProduct::~InstalledProduct()

@@ -5,6 +5,7 @@
 #include "Wait.h"
 #include "platform/appkit/interface/InterfaceFile.h"
 #include "platform/foundation/bundles/NSBundle.h"
+#include "updater/InterfaceClasses.h"
 
 #include <QDir>
 #include <QFile>
@@ -29,7 +30,8 @@ void copyResources(const TestBundle &bundle)
     const QString inside = QStringLiteral("Contents/Resources/");
     const QString built = qEnvironmentVariable("LUMAROO_BUILD") + QStringLiteral("/Lumaroo.prefPane/") + inside;
     for (const QString &file : {nibName + QStringLiteral(".ui"), QStringLiteral("de.lproj/LumarooPref.qm"),
-             QStringLiteral("Pages/AtAGlance.html"), QStringLiteral("de.lproj/Pages/AtAGlance.html")})
+             QStringLiteral("Pages/AtAGlance.html"), QStringLiteral("de.lproj/Pages/AtAGlance.html"),
+             QStringLiteral("Pages/ReleaseNotes.html"), QStringLiteral("de.lproj/Pages/ReleaseNotes.html")})
         bundle.writeFile(inside + file, contentOf(built + file));
 }
 
@@ -55,6 +57,7 @@ LoadedWindow::LoadedWindow(const QString &language) : bundle_(QStringLiteral("Wi
     owner.tabViewDelegate = this;
     owner.textDelegate = this;
     owner.frameLoadDelegate = this;
+    owner.classes = updaterInterfaceClasses();
     for (const QString &selector : actionsOfThePane())
         owner.actions += {selector, [this, selector](QObject *sender) {
                               performedActions_ += PerformedAction{selector, sender};

@@ -1,6 +1,7 @@
 #include "PaneOnRealStore.h"
 
 #include "KeyPress.h"
+#include "SeenNotes.h"
 #include "Wait.h"
 
 #include "KTXConstants.h"
@@ -146,6 +147,7 @@ QVariantMap StoreOnDisk::domain() const
 PaneOnRealStore::PaneOnRealStore() : bundle_(QStringLiteral("Lumaroo.prefPane"))
 {
     store_.clear();
+    letNotesBeSeen();
     bundle_.writeFile(
         QStringLiteral("Contents/Info.plist"), contentOf(productBundle() + QStringLiteral("/Contents/Info.plist")));
     copyIntoBundle(bundle_, QStringLiteral("Contents/Resources"));

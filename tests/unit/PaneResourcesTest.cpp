@@ -137,7 +137,7 @@ TEST(PaneResources, theInterfaceFileNamesHeadersThatExist)
 
 TEST_P(PagesOfALanguage, areThereInEachLanguage)
 {
-    EXPECT_EQ(names(), QStringList({"AtAGlance.html", "FirstSteps.html"}));
+    EXPECT_EQ(names(), QStringList({"AtAGlance.html", "FirstSteps.html", "ReleaseNotes.html"}));
 }
 
 TEST_P(PagesOfALanguage, leadToEachOtherAndToTheProductPageOnly)

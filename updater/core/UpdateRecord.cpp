@@ -1,6 +1,7 @@
 #include "updater/core/UpdateRecord.h"
 
 #include "platform/foundation/preferences/CFPreferences.h"
+#include "platform/foundation/propertylists/NSNumber.h"
 #include "platform/foundation/system/SystemCalls.h"
 #include "updater/core/Versions.h"
 
@@ -11,6 +12,7 @@ const QString lastSuccessKey = QStringLiteral("LastSuccessfulCheck");
 const QString failingSinceKey = QStringLiteral("FailingSince");
 const QString highestVersionKey = QStringLiteral("HighestVersionSeen");
 const QString skippedVersionKey = QStringLiteral("SkippedVersion");
+const QString buildOfNotesKey = QStringLiteral("BuildOfNotes");
 const QString installationProblemKey = QStringLiteral("InstallationProblem");
 
 constexpr int daysUntilLost = 30;
@@ -110,6 +112,19 @@ QString UpdateRecord::skippedVersion() const
 void UpdateRecord::skip(const QString &version)
 {
     setText(skippedVersionKey, version);
+    save();
+}
+
+std::optional<int> UpdateRecord::buildOfNotes() const
+{
+    return integerWithin32Bits(stored(buildOfNotesKey));
+}
+
+void UpdateRecord::noteBuildOfNotes(int build)
+{
+    if (build <= buildOfNotes().value_or(-1))
+        return;
+    set(buildOfNotesKey, qlonglong(build));
     save();
 }
 

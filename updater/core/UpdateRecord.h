@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <QString>
+#include <optional>
 
 inline const QString updaterDomain = QStringLiteral("com.quorvane.Lumaroo.Updater");
 
@@ -29,6 +30,10 @@ public:
     /// The version of which the user wants to hear no more; empty: none.
     QString skippedVersion() const;
     void skip(const QString &version);
+
+    /// The build whose notes were shown, or would have been, last; none on a first installation. Never goes down.
+    std::optional<int> buildOfNotes() const;
+    void noteBuildOfNotes(int build);
 
     /// Why the last installation failed, in English for the log; empty where it did not.
     QString installationProblem() const;

@@ -1,6 +1,5 @@
 #include "updater/core/WaitingUpdate.h"
 
-#include "platform/foundation/propertylists/PropertyList.h"
 #include "updater/core/Appcast.h"
 #include "updater/core/InstalledBundle.h"
 #include "updater/core/Signature.h"
@@ -16,14 +15,6 @@ namespace {
 
 using Kind = UpdateProblem::Kind;
 
-constexpr qint64 largestRecord = qint64(64) * 1024;
-
-const QString versionKey = QStringLiteral("Version");
-const QString displayVersionKey = QStringLiteral("DisplayVersion");
-const QString signatureKey = QStringLiteral("Signature");
-const QString lengthKey = QStringLiteral("Length");
-const QString platformVersionKey = QStringLiteral("PlatformVersion");
-
 UpdateProblem problem(Kind kind, const QString &detail)
 {
     return detail.isEmpty() ? UpdateProblem{} : UpdateProblem{kind, detail};
@@ -31,15 +22,12 @@ UpdateProblem problem(Kind kind, const QString &detail)
 
 UpdateProblem writeRecord(const UpdatePlaces &places, const ExpectedUpdate &expected)
 {
-    const QVariantMap values{{versionKey, expected.version}, {displayVersionKey, expected.displayVersion},
-        {signatureKey, expected.signature}, {lengthKey, expected.length},
-        {platformVersionKey, qlonglong(expected.platformVersion)}};
     // The record makes the rest count: that has to be on the disk before it.
     const QString unsecured = secureFileSystem(places.waiting());
     if (!unsecured.isEmpty())
         return {Kind::Storage, unsecured};
     QSaveFile file(places.record());
-    const QByteArray bytes = writeBinaryPropertyList(values);
+    const QByteArray bytes = recordOfWaitingUpdate(expected);
     const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
     return problem(Kind::Storage, isWritten ? QString() : file.errorString());
 }
@@ -68,18 +56,6 @@ UpdateProblem completeWaitingUpdate(const UpdatePlaces &places, const ExpectedUp
     if (!unusable.isNone())
         removeWaitingUpdate(places);
     return unusable;
-}
-
-std::optional<ExpectedUpdate> waitingUpdate(const UpdatePlaces &places)
-{
-    QFile file(places.record());
-    if (!file.open(QIODevice::ReadOnly) || file.size() > largestRecord)
-        return std::nullopt;
-    const QVariantMap values = readPropertyList(file.readAll()).value.toMap();
-    const ExpectedUpdate expected{values.value(versionKey).toString(), values.value(displayVersionKey).toString(),
-        values.value(signatureKey).toByteArray(), values.value(lengthKey).toLongLong(),
-        values.value(platformVersionKey).toInt()};
-    return expected.version.isEmpty() ? std::nullopt : std::optional(expected);
 }
 
 void removeWaitingUpdate(const UpdatePlaces &places)

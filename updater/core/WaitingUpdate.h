@@ -2,19 +2,7 @@
 
 #include "updater/core/UpdatePlaces.h"
 #include "updater/core/UpdateProblem.h"
-
-#include <QByteArray>
-#include <optional>
-
-/// What an update has to be, as the feed told it when it was offered.
-struct ExpectedUpdate
-{
-    QString version;
-    QString displayVersion;
-    QByteArray signature;
-    qint64 length = 0;
-    int platformVersion = 0; ///< of the libraries that will load the bundle
-};
+#include "updater/core/WaitingUpdateRecord.h"
 
 /// Makes the folder for an update, in place of one that waits; the archive goes into it. The caller holds the folder's
 /// lock in this and the next.
@@ -23,9 +11,6 @@ UpdateProblem beginWaitingUpdate(const UpdatePlaces &places);
 /// Checks the archive's signature, unpacks it, checks the bundle that came out, and writes the record: from then on the
 /// update waits to be installed. Whatever is wrong, nothing of it stays. Any thread.
 UpdateProblem completeWaitingUpdate(const UpdatePlaces &places, const ExpectedUpdate &expected);
-
-/// What waits to be installed, as its record tells; nothing where there is none or it does not read.
-std::optional<ExpectedUpdate> waitingUpdate(const UpdatePlaces &places);
 
 /// Removes what waits, also something incomplete.
 void removeWaitingUpdate(const UpdatePlaces &places);

@@ -29,7 +29,7 @@ QWidget *loadInterfaceFile(const NSBundle *bundle, const QString &nibName, const
     const QByteArray xml = file.readAll();
     QString toolkitsReason;
     QWidget *root = InterfaceLoader::loadInterface(
-        translatedInterface(xml, bundle, nibName), name, bundle->resourcePath(), &toolkitsReason);
+        translatedInterface(xml, bundle, nibName), name, bundle, owner.classes, &toolkitsReason);
     if (!root) {
         const QString problem = problemIn(xml);
         return refuse(file.fileName(), problem.isEmpty() ? toolkitsReason : problem);

@@ -6,6 +6,7 @@
 #include <QString>
 #include <functional>
 
+class NSBundle;
 class NSTabViewDelegate;
 class NSControlTextEditingDelegate;
 class NSWindowDelegate;
@@ -26,6 +27,14 @@ struct ActionEntry
     std::function<void(QObject *sender)> perform;
 };
 
+/// A class of widgets that an interface file may use beside the toolkit's and this library's, and how one is made for
+/// the bundle that the file is in.
+struct InterfaceClass
+{
+    QString name;
+    std::function<QWidget *(QWidget *parent, const NSBundle *bundle)> make;
+};
+
 /// What an interface file can reach in its owner.
 struct InterfaceOwner
 {
@@ -37,6 +46,7 @@ struct InterfaceOwner
     NSControlTextEditingDelegate *textDelegate = nullptr;
     NSWindowDelegate *windowDelegate = nullptr;
     WebFrameLoadDelegate *frameLoadDelegate = nullptr;
+    QList<InterfaceClass> classes = {};
 };
 
 template <typename T>

@@ -404,6 +404,30 @@
         <translation>&amp;Jetzt suchen</translation>
     </message>
     <message>
+        <source>State of updates</source>
+        <translation>Stand der Aktualisierung</translation>
+    </message>
+    <message>
+        <source>Last successful check: %1</source>
+        <translation>Letzte erfolgreiche Suche: %1</translation>
+    </message>
+    <message>
+        <source>Last successful check: never</source>
+        <translation>Letzte erfolgreiche Suche: noch keine</translation>
+    </message>
+    <message>
+        <source>Version %1 is ready. It is installed when you close the settings.</source>
+        <translation>Version %1 liegt bereit. Sie wird installiert, wenn Sie die Einstellungen schließen.</translation>
+    </message>
+    <message>
+        <source>No new version is waiting to be installed.</source>
+        <translation>Es wartet keine neue Version auf ihre Installation.</translation>
+    </message>
+    <message>
+        <source>⚠ For 30 days Lumaroo could not find out about new versions. Check the connection to the Internet, or look on the web site.</source>
+        <translation>⚠ Seit 30 Tagen konnte Lumaroo nicht erfahren, ob es neue Versionen gibt. Prüfen Sie die Verbindung zum Internet, oder sehen Sie auf der Webseite nach.</translation>
+    </message>
+    <message>
         <source>Help about updates</source>
         <translation>Hilfe zur Aktualisierung</translation>
     </message>
@@ -444,16 +468,12 @@
         <translation>Weitere Hilfe</translation>
     </message>
     <message>
-        <source>Lumaroo beta</source>
-        <translation>Lumaroo Beta</translation>
+        <source>What is new in Lumaroo</source>
+        <translation>Neues in Lumaroo</translation>
     </message>
     <message>
-        <source>This is a beta version of Lumaroo</source>
-        <translation>Dies ist eine Betaversion von Lumaroo</translation>
-    </message>
-    <message>
-        <source>It may have faults that the finished version will not have. Please tell us what you find: choose “Send feedback” on the page “Help”.</source>
-        <translation>Sie kann Fehler haben, die es in der fertigen Version nicht mehr gibt. Bitte sagen Sie uns, was Sie finden: Wählen Sie „Rückmeldung senden“ auf der Seite „Hilfe“.</translation>
+        <source>What is new</source>
+        <translation>Neues</translation>
     </message>
     <message>
         <source>&amp;Do not show this again for this version</source>

@@ -8,6 +8,7 @@
 #include "platform/appkit/controls/StyledLabel.h"
 #include "platform/appkit/interface/internal/InterfaceText.h"
 #include "platform/appkit/web/WebView.h"
+#include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/system/NSLog.h"
 
 #include <QBuffer>
@@ -112,22 +113,26 @@ QtMessageHandler ToolkitWarnings::previous_ = nullptr;
 
 } // namespace
 
-InterfaceLoader::InterfaceLoader(const QString &file, const QByteArray &xml) : file_(file), xml_(xml)
+InterfaceLoader::InterfaceLoader(
+    const QString &file, const QByteArray &xml, const NSBundle *bundle, const QList<InterfaceClass> &classes)
+    : file_(file), xml_(xml), bundle_(bundle)
 {
+    for (const InterfaceClass &ownersClass : classes)
+        ownersClasses_.insert(ownersClass.name, ownersClass);
     const QStringList available = availableWidgets();
     toolkitClasses_ = QSet<QString>(available.cbegin(), available.cend());
     toolkitClasses_ += {QStringLiteral("Line"), QStringLiteral("QLayoutWidget")};
 }
 
-QWidget *InterfaceLoader::loadInterface(
-    const QByteArray &xml, const QString &file, const QString &folder, QString *reason)
+QWidget *InterfaceLoader::loadInterface(const QByteArray &xml, const QString &file, const NSBundle *bundle,
+    const QList<InterfaceClass> &classes, QString *reason)
 {
     const NoPlugIns noPlugIns;
     ToolkitWarnings warnings(file);
-    InterfaceLoader loader(file, xml);
+    InterfaceLoader loader(file, xml, bundle, classes);
     // The texts are in the user's language already.
     loader.setTranslationEnabled(false);
-    loader.setWorkingDirectory(folder);
+    loader.setWorkingDirectory(bundle->resourcePath());
     QBuffer buffer;
     buffer.setData(xml);
     buffer.open(QIODevice::ReadOnly);
@@ -142,7 +147,7 @@ QWidget *InterfaceLoader::loadInterface(
 
 bool InterfaceLoader::isKnown(const QString &className) const
 {
-    return ownClass(className) || toolkitClasses_.contains(className);
+    return ownClass(className) || ownersClasses_.contains(className) || toolkitClasses_.contains(className);
 }
 
 QString InterfaceLoader::classToUse(const QString &className, const QString &name) const
@@ -160,11 +165,20 @@ QString InterfaceLoader::classToUse(const QString &className, const QString &nam
     return known;
 }
 
+QWidget *InterfaceLoader::makeOwn(const QString &className, QWidget *parent) const
+{
+    if (const WidgetMaker maker = ownClass(className))
+        return maker(parent);
+    const auto ownersClass = ownersClasses_.constFind(className);
+    return ownersClass == ownersClasses_.cend() ? nullptr : ownersClass->make(parent, bundle_);
+}
+
 QWidget *InterfaceLoader::createWidget(const QString &className, QWidget *parent, const QString &name)
 {
     const QString known = classToUse(className, name);
-    const WidgetMaker maker = ownClass(known);
-    QWidget *widget = maker ? maker(parent) : QUiLoader::createWidget(known, parent, name);
+    QWidget *widget = makeOwn(known, parent);
+    if (!widget)
+        widget = QUiLoader::createWidget(known, parent, name);
     if (widget)
         widget->setObjectName(name);
     return widget;

@@ -1,0 +1,140 @@
+// What the page about updates says of their state, while it is open.
+
+#include "PaneOnRealStore.h"
+#include "Wait.h"
+
+#include "KTXConstants.h"
+#include "platform/foundation/preferences/CFPreferences.h"
+#include "platform/foundation/preferences/NSUserDefaults.h"
+#include "platform/foundation/system/SystemCalls.h"
+#include "updater/core/UpdateRecord.h"
+#include "updater/core/WaitingUpdate.h"
+
+#include <QAccessible>
+#include <QDir>
+#include <QFile>
+
+namespace {
+
+constexpr int updatesPage = 3;
+const QString nothingWaits = "No new version is waiting to be installed.";
+
+class UpdateStatus : public PaneOnRealStore
+{
+protected:
+    UpdateStatus()
+    {
+        store().set(KTXFirstLaunch, QVariant(true));
+        NSUserDefaults::standardUserDefaults()->setPersistentDomainForName({}, updaterDomain);
+        UpdateRecord().noteBuildOfNotes(1000000);
+    }
+    ~UpdateStatus() override { systemCalls() = original_; }
+
+    static void letItBe(const QDateTime &time)
+    {
+        systemCalls().realTime = [seconds = std::chrono::seconds(time.toSecsSinceEpoch())] { return seconds; };
+    }
+    static void letItBeDaysLater(int days) { letItBe(QDateTime({2026, 3, 1}, {9, 5}).addDays(days)); }
+    void showPage()
+    {
+        showPane();
+        selectTabViewItemAtIndex(control("tabbedView"), updatesPage);
+        runPendingEvents();
+    }
+    UpdatePlaces places() { return UpdatePlaces(QFileInfo(bundle().path()).canonicalFilePath()); }
+    /// The record of an update is all that the page looks at.
+    void letUpdateWait(const QString &version, const QString &displayVersion)
+    {
+        EXPECT_TRUE(QDir().exists(places().waiting()) || QDir().mkdir(places().waiting()));
+        QFile file(places().record());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(recordOfWaitingUpdate({version, displayVersion, {}, 0, 1}));
+    }
+    bool comesToSay(const char *name, const QString &said)
+    {
+        return waitUntil([&] { return text(name) == said; });
+    }
+
+private:
+    SystemCalls original_ = systemCalls();
+};
+
+} // namespace
+
+TEST_F(UpdateStatus, saysThatThereWasNoCheckYet)
+{
+    showPage();
+    EXPECT_EQ(text("lastSuccessLabel"), "Last successful check: never");
+    EXPECT_EQ(text("waitingVersionLabel"), nothingWaits);
+    EXPECT_EQ(text("lostFeedLabel"), "");
+}
+
+TEST_F(UpdateStatus, saysWhenTheLastCheckSucceededInTheUsersForm)
+{
+    letItBeDaysLater(0);
+    UpdateRecord().noteSuccess();
+    letItBeDaysLater(1);
+    UpdateRecord().noteFailure();
+    showPage();
+    const QDateTime then({2026, 3, 1}, {9, 5});
+    EXPECT_EQ(text("lastSuccessLabel"),
+        "Last successful check: " + QLocale().toString(then.date(), QLocale::LongFormat) + ", "
+            + QLocale().toString(then.time(), QLocale::ShortFormat));
+    EXPECT_EQ(text("lostFeedLabel"), "");
+}
+
+TEST_F(UpdateStatus, followsAnOpenPage)
+{
+    letItBeDaysLater(0);
+    showPage();
+    UpdateRecord().noteSuccess();
+    EXPECT_TRUE(waitUntil([this] { return text("lastSuccessLabel").contains("2026"); }));
+    letUpdateWait("101", "1.1");
+    EXPECT_TRUE(
+        comesToSay("waitingVersionLabel", "Version 1.1 is ready. It is installed when you close the settings."));
+    removeWaitingUpdate(places());
+    EXPECT_TRUE(comesToSay("waitingVersionLabel", nothingWaits));
+    letUpdateWait("102", "");
+    EXPECT_TRUE(
+        comesToSay("waitingVersionLabel", "Version 102 is ready. It is installed when you close the settings."));
+    EXPECT_TRUE(QDir(places().waiting()).removeRecursively());
+}
+
+TEST_F(UpdateStatus, catchesUpWhenItsPageIsTurnedTo)
+{
+    letItBeDaysLater(0);
+    showPage();
+    selectTabViewItemAtIndex(control("tabbedView"), 0);
+    UpdateRecord().noteSuccess();
+    letUpdateWait("101", "1.1");
+    selectTabViewItemAtIndex(control("tabbedView"), updatesPage);
+    EXPECT_TRUE(text("lastSuccessLabel").contains("2026"));
+    EXPECT_TRUE(text("waitingVersionLabel").contains("1.1"));
+    EXPECT_TRUE(QDir(places().waiting()).removeRecursively());
+}
+
+TEST_F(UpdateStatus, saysThatTheFeedCouldNotBeReadForThirtyDays)
+{
+    showPage();
+    for (const int day : {0, 29}) {
+        letItBeDaysLater(day);
+        UpdateRecord().noteFailure();
+        runPendingEvents();
+        EXPECT_EQ(text("lostFeedLabel"), "") << day;
+    }
+    letItBeDaysLater(30);
+    UpdateRecord().noteFailure();
+    EXPECT_TRUE(waitUntil([this] { return text("lostFeedLabel").contains("For 30 days"); }));
+    UpdateRecord().noteSuccess();
+    EXPECT_TRUE(comesToSay("lostFeedLabel", ""));
+}
+
+TEST_F(UpdateStatus, isWhatAScreenReaderReads)
+{
+    showPage();
+    for (const char *name : {"lastSuccessLabel", "waitingVersionLabel"}) {
+        QAccessibleInterface *told = QAccessible::queryAccessibleInterface(control(name));
+        EXPECT_EQ(told->role(), QAccessible::StaticText);
+        EXPECT_EQ(told->text(QAccessible::Name), text(name));
+    }
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/appkit/controls/StyledLabel.h"
+#include "updater/core/UpdatePlaces.h"
+
+class NSBundle;
+class QFileSystemWatcher;
+
+/// A line about the updates of a bundle, which follows them for as long as it is on screen.
+///
+/// Its property `status` says what the line is about; `format` is its text, where "%1" stands for the time or the
+/// version. A line that has nothing to say has the text `otherwise`, and keeps its place.
+class UpdateStatusLabel : public StyledLabel
+{
+    Q_OBJECT
+    Q_PROPERTY(Status status MEMBER status_)
+    Q_PROPERTY(QString format MEMBER format_)
+    Q_PROPERTY(QString otherwise MEMBER otherwise_)
+
+public:
+    enum Status {
+        LastSuccess, ///< when a feed was last read
+        WaitingVersion, ///< which version is installed next
+        LostFeed, ///< that no feed could be read for a long time
+    };
+    Q_ENUM(Status)
+
+    UpdateStatusLabel(QWidget *parent, const NSBundle *bundle);
+    ~UpdateStatusLabel() override;
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
+private:
+    void follow();
+    void tell();
+    QString statement() const;
+
+    UpdatePlaces places_;
+    Status status_ = LastSuccess;
+    QString format_;
+    QString otherwise_;
+    std::unique_ptr<QFileSystemWatcher> watcher_; ///< while on screen
+};
