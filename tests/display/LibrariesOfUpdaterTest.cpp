@@ -34,10 +34,11 @@ QDialog *updateWindow()
 
 TEST(LibrariesOfUpdater, areLoadedAtTheFirstCheck)
 {
+    // Without a key nothing is checked by schedule.
     const TestBundle bundle("Sample.prefPane");
     bundle.writeInfo({{"CFBundleVersion", "100"}, {"SUFeedURL", "https://updates.example/appcast.xml"}});
     SUUpdater *updater = SUUpdater::updaterForBundle(NSBundle::bundleWithPath(bundle.path()));
-    updater->setAutomaticallyChecksForUpdates(false);
+    updater->setAutomaticallyChecksForUpdates(true);
     updater->setUpdateCheckInterval(86400);
     updater->resetUpdateCycle();
     runPendingEvents();

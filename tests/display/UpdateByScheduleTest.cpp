@@ -19,13 +19,14 @@ class UpdateBySchedule : public UpdaterOnScreen
 protected:
     ~UpdateBySchedule() override { systemCalls().realTime = realTime_; }
 
-    /// Nothing is asked by itself: what comes next at the server is the user's check.
-    void expectNoCheckButTheUsers()
+    /// A check of the test's own comes and goes: whatever had begun by itself would have reached the server before it.
+    void expectNoCheck()
     {
         runPendingEvents();
-        checkForUser();
-        EXPECT_TRUE(waitUntil([] { return page() == "upToDate" || page() == "offer"; }));
-        EXPECT_EQ(server.requests(), QStringList("GET /appcast.xml"));
+        runPendingEvents();
+        check(server.url("/appcast.xml?own"));
+        EXPECT_EQ(server.requests(), QStringList("GET /appcast.xml?own"));
+        EXPECT_EQ(window(), nullptr);
     }
     bool waitForCheck()
     {
@@ -52,12 +53,19 @@ TEST_F(UpdateBySchedule, anUpdateIsOfferedAndTheFocusStaysWhereItIs)
     tell({publish(101)});
     const ForeignWindow other("Other");
     ASSERT_TRUE(other.takesFocus());
+    bool hadFocus = false;
+    const QObject watching;
+    QObject::connect(qApp, &QGuiApplication::focusWindowChanged, &watching,
+        [&](const QWindow *focused) { hadFocus = hadFocus || focused; });
     checkBySchedule();
     ASSERT_TRUE(shows("offer"));
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window()));
-    runPendingEvents();
     EXPECT_EQ(windowWithKeyboard(), other.id());
-    EXPECT_FALSE(window()->isActiveWindow());
+    // What the window manager does for this one comes after what it did for the offer.
+    const ForeignWindow later("Later");
+    ASSERT_TRUE(later.takesFocus());
+    runPendingEvents();
+    EXPECT_FALSE(hadFocus);
 }
 
 TEST_F(UpdateBySchedule, anOfferComesToTheFrontWhenTheUserAsks)
@@ -77,7 +85,7 @@ TEST_F(UpdateBySchedule, nothingIsCheckedUnlessItIsTurnedOn)
     tell({publish(100)});
     updater()->setUpdateCheckInterval(oneDay);
     updater()->resetUpdateCycle();
-    expectNoCheckButTheUsers();
+    expectNoCheck();
 }
 
 TEST_F(UpdateBySchedule, nothingIsCheckedOnceItIsTurnedOff)
@@ -85,7 +93,7 @@ TEST_F(UpdateBySchedule, nothingIsCheckedOnceItIsTurnedOff)
     tell({publish(100)});
     checkBySchedule();
     updater()->setAutomaticallyChecksForUpdates(false);
-    expectNoCheckButTheUsers();
+    expectNoCheck();
 }
 
 TEST_F(UpdateBySchedule, aCheckUnderWayEndsWhenItIsTurnedOff)
@@ -118,7 +126,7 @@ TEST_F(UpdateBySchedule, noCheckIsDueBeforeTheIntervalIsOver)
     tell({publish(100)});
     lastCheckWas(minutes(23 * 60));
     checkBySchedule();
-    expectNoCheckButTheUsers();
+    expectNoCheck();
 }
 
 TEST_F(UpdateBySchedule, aCheckIsDueOnceTheIntervalIsOver)
@@ -134,8 +142,7 @@ TEST_F(UpdateBySchedule, anIntervalBelowAnHourCountsAsAnHour)
     tell({publish(101)});
     lastCheckWas(minutes(59));
     checkBySchedule(1);
-    expectNoCheckButTheUsers();
-    press("later");
+    expectNoCheck();
     lastCheckWas(minutes(61));
     checkBySchedule(1);
     EXPECT_TRUE(shows("offer"));
@@ -147,8 +154,8 @@ TEST_F(UpdateBySchedule, anotherIntervalCountsFromTheReset)
     lastCheckWas(minutes(120));
     checkBySchedule();
     updater()->setUpdateCheckInterval(3600);
-    runPendingEvents();
-    EXPECT_EQ(server.requests(), QStringList());
+    expectNoCheck();
+    lastCheckWas(minutes(120));
     updater()->resetUpdateCycle();
     EXPECT_TRUE(shows("offer"));
 }
@@ -209,7 +216,6 @@ TEST_F(UpdateBySchedule, nothingIsAskedForABundleThatOthersUpdate)
     const auto owner = QFile::ReadOwner | QFile::ExeOwner;
     ASSERT_TRUE(QFile::setPermissions(folder(), owner));
     checkBySchedule();
-    runPendingEvents();
+    expectNoCheck();
     ASSERT_TRUE(QFile::setPermissions(folder(), owner | QFile::WriteOwner));
-    expectNoCheckButTheUsers();
 }

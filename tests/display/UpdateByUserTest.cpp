@@ -42,6 +42,10 @@ TEST_F(UpdateByUser, cancelsACheckWithEscape)
     EXPECT_TRUE(closes());
     EXPECT_FALSE(record.lastCheck().isValid()) << "nothing came of it";
     EXPECT_EQ(log.lines(), QStringList());
+    updater()->setFeedURL(feed());
+    tell({publish(101)});
+    checkBySchedule();
+    EXPECT_TRUE(shows("offer")) << "it holds up no other";
 }
 
 TEST_F(UpdateByUser, isOfferedANewVersionWithItsNotes)

@@ -1,11 +1,13 @@
 // From the offer to the restart, as its user sees it.
 
 #include "KeyPress.h"
+#include "ProgramResult.h"
 #include "RunningPrograms.h"
 #include "UpdaterOnScreen.h"
 #include "Wait.h"
 
 #include "platform/appkit/NSApplication.h"
+#include "platform/foundation/bundles/NSBundle.h"
 #include "updater/core/linux/BundleExchange.h"
 
 #include <QProgressBar>
@@ -74,7 +76,7 @@ TEST_F(UpdateInstallation, downloadsWhatIsOfferedAndInstallsItWhenTheSettingsEnd
     ASSERT_TRUE(shows("ready"));
     EXPECT_EQ(text("heading"), "Lumaroo 101 is ready");
     EXPECT_TRUE(waitingUpdate(places()));
-    EXPECT_TRUE(waitUntil([&] { return waitingInstallers().size() == before + 1; }));
+    ASSERT_TRUE(waitUntil([&] { return waitingInstallers().size() == before + 1; }));
     pressWithKeyboard(KEY_ESC);
     EXPECT_TRUE(closes());
     EXPECT_EQ(wholeVersion(), 100);
@@ -117,6 +119,19 @@ TEST_F(UpdateInstallation, offersWhatWaitsAlreadyAtOnce)
     checkForUser();
     EXPECT_TRUE(shows("ready"));
     EXPECT_EQ(server.requests(), QStringList("GET /appcast.xml"));
+}
+
+TEST_F(UpdateInstallation, isHadByTheNextStartWhereTheLastEndBroughtNone)
+{
+    putInstaller();
+    prepare(101);
+    // For this process it is another bundle, whose updater is new.
+    ASSERT_EQ(runProgram("cp", {"-a", folder(), path("again")}).status, 0);
+    const qsizetype before = waitingInstallers().size();
+    SUUpdater::updaterForBundle(NSBundle::bundleWithPath(path("again/Sample.prefPane")));
+    ASSERT_TRUE(waitUntil([&] { return waitingInstallers().size() == before + 1; }));
+    killProcess(waitingInstallers().last());
+    EXPECT_EQ(wholeVersion(), 100);
 }
 
 TEST_F(UpdateInstallation, isCancelledWhileItDownloads)

@@ -107,6 +107,15 @@ TEST_F(InstalledFiles, whatAsksForWebPagesLiesBesideTheLibraryThatLoadsIt)
             {QString("lib/lumaroo/liblumaroo-appkit.so.1"), QString("lib/lumaroo/liblumaroo-network.so.1")}));
 }
 
+TEST_F(InstalledFiles, theUpdaterLiesInThePanesBundle)
+{
+    const QString libraries = "lib/lumaroo/PreferencePanes/Lumaroo.prefPane/Contents/Frameworks/";
+    EXPECT_THAT(files().filter(libraries + "liblumaroo-updater"),
+        testing::IsSupersetOf({libraries + "liblumaroo-updater.so.1", libraries + "liblumaroo-updater.so.1.0",
+            libraries + "liblumaroo-updater-windows.so.100"}));
+    EXPECT_THAT(files().filter(QRegularExpression("liblumaroo-.*\\.so$")), testing::IsEmpty()) << "for who links only";
+}
+
 TEST_F(InstalledFiles, theAgentRunsFromWhereverThePrefixIsMovedTo)
 {
     const QString moved = folder.path() + "/moved";

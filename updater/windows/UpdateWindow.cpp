@@ -2,8 +2,8 @@
 
 #include "updater/windows/ReleaseNotesView.h"
 
+#include <QAccessible>
 #include <QApplication>
-#include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -79,6 +79,9 @@ void UpdateWindow::setPage(const UpdatePage &page)
     setAccessibleDescription(page.heading + u'\n' + page.text);
     fit(page);
     focusDefault();
+    // Screen readers tell it, also where the focus is elsewhere.
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 QWidget *UpdateWindow::makeBody(const UpdatePage &page)
@@ -90,6 +93,8 @@ QWidget *UpdateWindow::makeBody(const UpdatePage &page)
     row->setSpacing(18);
     auto *picture = new QLabel;
     picture->setPixmap(icon_.pixmap(QSize(iconExtent, iconExtent), devicePixelRatioF()));
+    if (icon_.isNull())
+        picture->hide();
     row->addWidget(picture, 0, Qt::AlignTop);
     row->addLayout(makeColumn(page), 1);
     return body;
@@ -105,7 +110,7 @@ QBoxLayout *UpdateWindow::makeColumn(const UpdatePage &page)
     else
         column->addStretch();
     if (page.content == UpdatePage::Content::Progress)
-        addProgress(column);
+        addProgress(column, page.heading);
     column->addSpacing(6);
     column->addLayout(makeButtons(page));
     return column;
@@ -115,17 +120,19 @@ void UpdateWindow::addTexts(QBoxLayout *column, const UpdatePage &page)
 {
     addText(column, QStringLiteral("heading"), page.heading, headingFont());
     text_ = addText(column, QStringLiteral("text"), page.text);
-    text_->setVisible(!page.text.isEmpty());
+    if (page.text.isEmpty())
+        text_->hide();
     if (page.detail.isEmpty())
         return;
     QLabel *detail = addText(column, QStringLiteral("detail"), page.detail, secondaryFont());
     detail->setTextInteractionFlags(Qt::TextSelectableByMouse);
 }
 
-void UpdateWindow::addProgress(QBoxLayout *column)
+void UpdateWindow::addProgress(QBoxLayout *column, const QString &name)
 {
     progress_ = new QProgressBar;
     progress_->setObjectName(QStringLiteral("progress"));
+    progress_->setAccessibleName(name);
     progress_->setTextVisible(false);
     progress_->setRange(0, 0);
     column->addWidget(progress_);

@@ -40,7 +40,7 @@ private:
     QWidget *makeBody(const UpdatePage &page);
     QBoxLayout *makeColumn(const UpdatePage &page);
     void addTexts(QBoxLayout *column, const UpdatePage &page);
-    void addProgress(QBoxLayout *column);
+    void addProgress(QBoxLayout *column, const QString &name);
     void addNotes(QBoxLayout *column);
     QLayout *makeButtons(const UpdatePage &page);
     void fit(const UpdatePage &page);
