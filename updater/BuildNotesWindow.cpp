@@ -9,16 +9,27 @@
 
 #include <QApplication>
 #include <QEvent>
-#include <QTimer>
+#include <QWindow>
+
+namespace {
+
+/// Its user looks at it, and would type into it.
+bool isInFront(const QWidget *view)
+{
+    const QWindow *window = view->window()->windowHandle();
+    return view->isVisible() && window && window->isExposed() && view->isActiveWindow()
+        && !QApplication::activeModalWidget();
+}
+
+} // namespace
 
 BuildNotesWindow::BuildNotesWindow(QWidget *parent, const NSBundle *bundle) : QDialog(parent), bundle_(bundle)
 {
     if (parent)
         parent->installEventFilter(this);
-    connect(qApp, &QGuiApplication::focusWindowChanged, this, [this] {
-        if (isWaiting_)
-            QTimer::singleShot(0, this, &BuildNotesWindow::openWhenNothingIsInFront);
-    });
+    soon_.setSingleShot(true);
+    soon_.callOnTimeout(this, &BuildNotesWindow::openIfDue);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, &BuildNotesWindow::openSoon);
 }
 
 int BuildNotesWindow::build() const
@@ -35,32 +46,41 @@ bool BuildNotesWindow::isHiddenByUser() const
 bool BuildNotesWindow::eventFilter(QObject *object, QEvent *event)
 {
     // What the window manager shows and hides is still the same showing.
-    if (object == parent() && !event->spontaneous()) {
-        if (event->type() == QEvent::Show)
-            QTimer::singleShot(0, this, &BuildNotesWindow::openIfDue);
-        if (event->type() == QEvent::Hide) {
-            isWaiting_ = false;
-            close();
-        }
+    const bool isOfView = object == parent() && !event->spontaneous();
+    if (isOfView && event->type() == QEvent::Show)
+        takeShowing();
+    if (isOfView && event->type() == QEvent::Hide) {
+        isDue_ = false;
+        close();
     }
+    if (event->type() == QEvent::Expose)
+        openSoon();
     return QDialog::eventFilter(object, event);
+}
+
+void BuildNotesWindow::takeShowing()
+{
+    const std::optional<int> last = UpdateRecord().buildOfNotes();
+    isDue_ = last && *last < build() && !isHiddenByUser();
+    if (!isDue_)
+        return UpdateRecord().noteBuildOfNotes(build());
+    if (QWindow *window = parentWidget()->window()->windowHandle())
+        window->installEventFilter(this);
+    openSoon();
+}
+
+void BuildNotesWindow::openSoon()
+{
+    // A sheet that waits for the same moment comes first: a timer's turn is after all that is posted.
+    if (isDue_)
+        soon_.start(0);
 }
 
 void BuildNotesWindow::openIfDue()
 {
-    const std::optional<int> last = UpdateRecord().buildOfNotes();
-    isWaiting_ = last && *last < build() && !isHiddenByUser();
-    if (isWaiting_)
-        openWhenNothingIsInFront();
-    else
-        UpdateRecord().noteBuildOfNotes(build());
-}
-
-void BuildNotesWindow::openWhenNothingIsInFront()
-{
-    if (!isWaiting_ || !parentWidget()->isVisible() || QApplication::activeModalWidget())
+    if (!isDue_ || !isInFront(parentWidget()))
         return;
-    isWaiting_ = false;
+    isDue_ = false;
     UpdateRecord().noteBuildOfNotes(build());
     show();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QTimer>
 
 class NSBundle;
 
@@ -11,8 +12,8 @@ class NSBundle;
 /// build follows the key) that is true where the user has hidden the notes of a build.
 ///
 /// It opens by itself, once, when its view is first shown after an update: when the build is above the one whose notes
-/// were due last (UpdateRecord.h). A first installation is no update. While a sheet or another modal window is up it
-/// waits. It closes with the view.
+/// were due last (UpdateRecord.h). A first installation is no update. It waits until the view has the focus and no
+/// sheet or other modal window is up, and closes with the view.
 class BuildNotesWindow : public QDialog
 {
     Q_OBJECT
@@ -29,11 +30,13 @@ protected:
 private:
     int build() const;
     bool isHiddenByUser() const;
+    void takeShowing();
+    void openSoon();
     void openIfDue();
-    void openWhenNothingIsInFront();
 
     const NSBundle *bundle_;
     QString notesFile_;
     QString hideSetting_;
-    bool isWaiting_ = false;
+    bool isDue_ = false;
+    QTimer soon_;
 };

@@ -30,19 +30,33 @@ protected:
     void letBuildBe(const QString &version) const { changeInfo({{"CFBundleVersion", version}}); }
     static void letLastNotesBeOf(int build) { UpdateRecord().noteBuildOfNotes(build); }
     QDialog *notes() { return control<QDialog>("betaWindow"); }
+    /// The pane's view comes into the host's window and shows there.
     void show()
     {
         pane().willSelect();
+        pane().mainView()->setParent(&host);
         pane().mainView()->show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(pane().mainView()));
+        host.resize(pane().mainView()->sizeHint());
+        host.show();
+        EXPECT_TRUE(waitUntil([this] { return hasKeyboard(&host) || notes()->isVisible(); }));
         pane().didSelect();
         runPendingEvents();
+    }
+    bool comeUp()
+    {
+        return waitUntil([this] { return notes()->isVisible(); });
     }
     void leave()
     {
         pane().mainView()->hide();
         runPendingEvents();
     }
+    bool isGone()
+    {
+        return waitUntil([this] { return !notes()->isVisible() && hasKeyboard(&host); });
+    }
+
+    QWidget host;
 };
 
 } // namespace
@@ -52,9 +66,10 @@ TEST_F(BuildNotes, openOnceAtTheFirstShowingAfterAnUpdate)
     letLastNotesBeOf(56);
     letBuildBe("57");
     show();
-    EXPECT_TRUE(notes()->isVisible());
+    EXPECT_TRUE(comeUp());
     EXPECT_EQ(UpdateRecord().buildOfNotes(), 57);
     notes()->close();
+    ASSERT_TRUE(isGone());
     leave();
     show();
     EXPECT_FALSE(notes()->isVisible());
@@ -67,6 +82,7 @@ TEST_F(BuildNotes, tellWhatIsNewInTheBuild)
 {
     letLastNotesBeOf(1);
     show();
+    ASSERT_TRUE(comeUp());
     auto *page = control<WebView>("betaNotesView");
     EXPECT_TRUE(page->toPlainText().startsWith("What is new in Lumaroo 1.0"));
     EXPECT_TRUE(notes()->isWindow());
@@ -110,7 +126,7 @@ TEST_F(BuildNotes, comeUpWhereThoseOfAnotherBuildAreHidden)
     store().set("hideBetaNotes56", true);
     store().set("hideBetaNotes57", false);
     show();
-    EXPECT_TRUE(notes()->isVisible());
+    EXPECT_TRUE(comeUp());
 }
 
 TEST_F(BuildNotes, areHiddenByTheirCheckBoxWithoutAFlush)
@@ -133,7 +149,7 @@ TEST_F(BuildNotes, goWithTheirButtonOrEscape)
         show();
         ASSERT_TRUE(waitUntil([this] { return hasKeyboard(notes()); }));
         pressKey(key, key == KEY_C ? QList<int>{KEY_LEFTALT} : QList<int>{});
-        EXPECT_TRUE(waitUntil([this] { return !notes()->isVisible(); }));
+        EXPECT_TRUE(isGone());
         destroyPane();
     }
 }
@@ -142,9 +158,9 @@ TEST_F(BuildNotes, goWithThePane)
 {
     letLastNotesBeOf(1);
     show();
-    ASSERT_TRUE(notes()->isVisible());
+    ASSERT_TRUE(comeUp());
     leave();
-    EXPECT_FALSE(notes()->isVisible());
+    EXPECT_TRUE(isGone());
 }
 
 TEST_F(BuildNotes, takeNoKeyFromASheet)
@@ -154,7 +170,9 @@ TEST_F(BuildNotes, takeNoKeyFromASheet)
     alert->setMessageText("First things first");
     NSAlert::beginSheetModalForWindowModalDelegateDidEndSelectorContextInfo(
         std::move(alert), pane().mainView(), &pane(), {}, {});
-    show();
+    pane().mainView()->setParent(&host);
+    host.show();
+    pane().mainView()->show();
     ASSERT_TRUE(waitUntil([] { return QApplication::activeModalWidget() != nullptr; }));
     QPointer<QWidget> sheet = QApplication::activeModalWidget();
     ASSERT_TRUE(waitUntil([&] { return hasKeyboard(sheet); }));
