@@ -2,13 +2,18 @@
 // told shows in what it asks a server on loopback for.
 
 #include "PaneOnRealStore.h"
+#include "SeenNotes.h"
+#include "Wait.h"
+#include "WebServer.h"
 
 #include "KTXConstants.h"
 #include "platform/appkit/controls/FloatSlider.h"
 #include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/preferences/CFPreferences.h"
 #include "platform/foundation/preferences/NSUserDefaults.h"
+#include "platform/foundation/system/SystemCalls.h"
 #include "updater/SUUpdater.h"
+#include "updater/core/Signature.h"
 #include "updater/core/UpdateRecord.h"
 
 #include <QTest>
@@ -37,6 +42,66 @@ protected:
         return updater()->feedURL().toString(QUrl::FullyEncoded);
     }
     void click(const char *name) { QTest::mouseClick(control(name), Qt::LeftButton, {}, {8, 8}); }
+};
+
+/// With a feed on loopback, at the address for releases, that tells of nothing new.
+class PaneAndItsFeed : public PaneUpdates
+{
+protected:
+    PaneAndItsFeed()
+    {
+        letNotesBeSeen();
+        QFile feed(folder_.filePath("appcast.xml"));
+        EXPECT_TRUE(feed.open(QIODevice::WriteOnly));
+        feed.write("<rss version=\"2.0\"><channel></channel></rss>");
+        const SigningKey key = SigningKey::generated();
+        changeInfo({{"SUFeedURL", server_.url("/appcast_beta.xml").toString()},
+            {"SUPublicEDKey", QString::fromLatin1(key.publicKey())}});
+    }
+    ~PaneAndItsFeed() override
+    {
+        systemCalls().realTime = realTime_;
+        updater()->setAutomaticallyChecksForUpdates(false);
+        closeWindowOfTheUpdater();
+    }
+
+    void letAutomaticChecksBe(bool isOn) const { store().set(SUEnableAutomaticChecks, QVariant(isOn)); }
+    /// As if the last check had been so long ago.
+    void letLastCheckBe(std::chrono::hours ago)
+    {
+        systemCalls().realTime = [this, ago] { return realTime_() - ago; };
+        UpdateRecord().noteSuccess();
+        systemCalls().realTime = realTime_;
+    }
+    bool isAskedOnce() const
+    {
+        const bool isAsked = waitUntil([this] { return !server_.requests().isEmpty(); });
+        return isAsked && server_.requests() == releasesAskedFor;
+    }
+    /// What would be asked by schedule comes first.
+    void expectNobodyAsksButTheUser()
+    {
+        showPane();
+        EXPECT_EQ(server_.requests(), QStringList());
+        click("checkForUpdatesButton");
+        EXPECT_TRUE(isAskedOnce());
+        closeWindowOfTheUpdater();
+    }
+
+    const QStringList releasesAskedFor{"GET /appcast.xml"};
+
+private:
+    static void closeWindowOfTheUpdater()
+    {
+        for (QWidget *window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == "updateWindow")
+                window->close();
+        }
+    }
+
+    QTemporaryDir folder_;
+    WebServer server_{std::nullopt, folder_.path()};
+    std::function<std::chrono::nanoseconds()> realTime_ = systemCalls().realTime;
 };
 
 } // namespace
@@ -151,4 +216,67 @@ TEST_F(PaneUpdates, theBuildsKeyGoesByTheVersionsLeadingDigits)
         hiding.hideBetaNotes(control("hideBetaNotesButton"));
         EXPECT_EQ(CFPreferencesCopyAppValue(key, KTXLMAppID), QVariant(false)) << qPrintable(version);
     }
+}
+
+TEST_F(PaneAndItsFeed, withoutAStoredChoiceNothingIsCheckedAutomatically)
+{
+    expectNobodyAsksButTheUser();
+    EXPECT_EQ(state(control("autoUpdateButton")), NSOffState);
+    EXPECT_FALSE(store().domain().contains(SUEnableAutomaticChecks));
+}
+
+TEST_F(PaneAndItsFeed, nothingIsCheckedAutomaticallyWhereThatIsTurnedOff)
+{
+    letAutomaticChecksBe(false);
+    expectNobodyAsksButTheUser();
+}
+
+TEST_F(PaneAndItsFeed, isAskedAutomaticallyWhereThatIsTurnedOnBeforeTheViewIsShown)
+{
+    letAutomaticChecksBe(true);
+    paneWithoutView();
+    EXPECT_TRUE(isAskedOnce());
+    EXPECT_EQ(state(control("autoUpdateButton")), NSOnState);
+}
+
+TEST_F(PaneAndItsFeed, isAskedAgainADayAfterTheLastCheck)
+{
+    letAutomaticChecksBe(true);
+    letLastCheckBe(std::chrono::hours(25));
+    paneWithoutView();
+    EXPECT_TRUE(isAskedOnce());
+}
+
+TEST_F(PaneAndItsFeed, isNotAskedAgainWithinADay)
+{
+    letAutomaticChecksBe(true);
+    letLastCheckBe(std::chrono::hours(23));
+    expectNobodyAsksButTheUser();
+}
+
+TEST_F(PaneAndItsFeed, isAskedAsSoonAsTheCheckBoxIsTicked)
+{
+    showPane();
+    click("autoUpdateButton");
+    EXPECT_TRUE(isAskedOnce());
+}
+
+TEST_F(PaneAndItsFeed, isNotAskedOnceTheCheckBoxIsCleared)
+{
+    letAutomaticChecksBe(true);
+    letLastCheckBe(std::chrono::hours(23));
+    showPane();
+    click("autoUpdateButton");
+    letLastCheckBe(std::chrono::hours(48));
+    updater()->resetUpdateCycle();
+    expectNobodyAsksButTheUser();
+}
+
+TEST_F(PaneAndItsFeed, isAskedByEachPaneOfABundleThroughOneUpdater)
+{
+    SUUpdater *before = updater();
+    pane();
+    destroyPane();
+    pane();
+    EXPECT_EQ(updater(), before);
 }
