@@ -2,6 +2,7 @@
 #include "UpdatableBundle.h"
 #include "updater/core/Installation.h"
 #include "updater/core/UpdateRecord.h"
+#include "updater/core/linux/BundleExchange.h"
 
 #include "platform/foundation/preferences/CFPreferences.h"
 
@@ -61,6 +62,24 @@ TEST_F(Installer, waitsForTheEndOfItsInputWhenItIsToldTo)
     EXPECT_EQ(wholeVersion(), 100) << "it reads all the while";
     EXPECT_EQ(installer.state(), QProcess::Running);
     installer.closeWriteChannel();
+    ASSERT_TRUE(installer.waitForFinished());
+    EXPECT_EQ(installer.exitCode(), 0);
+    EXPECT_EQ(wholeVersion(), 101);
+}
+
+TEST_F(Installer, waitsForAnotherOneToComeToItsEnd)
+{
+    prepare(101);
+    auto other = std::make_unique<FolderLock>(folder());
+    ASSERT_TRUE(bool(*other));
+    QProcess installer;
+    installer.setReadChannel(QProcess::StandardError);
+    installer.start(program(), {bundle()});
+    ASSERT_TRUE(installer.waitForReadyRead());
+    EXPECT_EQ(installer.readLine(),
+        QString("lumaroo: installer: another process is updating %1; waiting\n").arg(bundle()).toUtf8());
+    EXPECT_EQ(wholeVersion(), 100);
+    other.reset();
     ASSERT_TRUE(installer.waitForFinished());
     EXPECT_EQ(installer.exitCode(), 0);
     EXPECT_EQ(wholeVersion(), 101);

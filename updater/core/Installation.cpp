@@ -1,5 +1,6 @@
 #include "updater/core/Installation.h"
 
+#include "platform/foundation/system/SystemCalls.h"
 #include "updater/core/InstalledBundle.h"
 #include "updater/core/UpdatePermission.h"
 #include "updater/core/WaitingUpdate.h"
@@ -75,6 +76,18 @@ Installation installWaitingUpdate(const QString &bundlePath)
     if (problem.isNone())
         secureFileSystem(places.folder());
     return {InstalledBundle(bundlePath).version, problem};
+}
+
+bool waitForOtherUpdates(const QString &bundlePath, std::chrono::milliseconds longest)
+{
+    const QString folder = UpdatePlaces(InstalledBundle(bundlePath).path).folder();
+    const auto end = systemCalls().monotonicTime() + longest;
+    while (!FolderLock(folder)) {
+        if (systemCalls().monotonicTime() >= end)
+            return false;
+        systemCalls().sleep(std::chrono::milliseconds(20));
+    }
+    return true;
 }
 
 void removeWhatIsOver(const QString &bundlePath)

@@ -3,6 +3,8 @@
 #include "updater/core/UpdatePlaces.h"
 #include "updater/core/UpdateProblem.h"
 
+#include <chrono>
+
 /// The installer's exit status where it has not installed what waits is this and the problem's kind.
 inline constexpr int firstInstallationFailure = 16;
 
@@ -20,6 +22,9 @@ struct Installation
 /// The old bundle stays aside for the processes that run its code. An update that turns out to be no genuine or no
 /// newer one is removed; one that the disk has no room for waits on. Takes as long as unpacking does; blocks.
 Installation installWaitingUpdate(const QString &bundlePath);
+
+/// Waits until no other process updates the bundle any more; false where one still does after `longest`.
+bool waitForOtherUpdates(const QString &bundlePath, std::chrono::milliseconds longest);
 
 /// Removes the old bundles of which no process runs code any more, and updates that were not completed. Does nothing
 /// while another process updates the bundle.

@@ -29,9 +29,20 @@ bool waitForEndOfInput()
     return size == 0;
 }
 
-int install(const QString &bundle)
+/// Who opens the settings again at once meets the installer that waited for their end.
+Installation installInTurn(const QString &bundle)
 {
     const Installation installation = installWaitingUpdate(bundle);
+    if (installation.problem.kind != UpdateProblem::Kind::Busy)
+        return installation;
+    NSLog(QStringLiteral("lumaroo: installer: another process is updating %1; waiting").arg(bundle));
+    waitForOtherUpdates(bundle, std::chrono::seconds(10));
+    return installWaitingUpdate(bundle);
+}
+
+int install(const QString &bundle)
+{
+    const Installation installation = installInTurn(bundle);
     removeWhatIsOver(bundle);
     if (installation.version.isEmpty())
         return Done;
