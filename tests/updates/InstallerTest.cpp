@@ -78,6 +78,7 @@ TEST_F(Installer, waitsForAnotherOneToComeToItsEnd)
     ASSERT_TRUE(installer.waitForReadyRead());
     EXPECT_EQ(installer.readLine(),
         QString("lumaroo: installer: another process is updating %1; waiting\n").arg(bundle()).toUtf8());
+    EXPECT_FALSE(installer.waitForFinished(500)) << "it gives up";
     EXPECT_EQ(wholeVersion(), 100);
     other.reset();
     ASSERT_TRUE(installer.waitForFinished());
