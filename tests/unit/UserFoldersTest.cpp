@@ -56,4 +56,5 @@ TEST_P(AUserFolder, followsTheHomeFolder)
 
 INSTANTIATE_TEST_SUITE_P(OfEachKind, AUserFolder,
     testing::Values(UserFolderOfAKind{"XDG_CONFIG_HOME", userConfigurationFolder, ".config"},
-        UserFolderOfAKind{"XDG_DATA_HOME", userDataFolder, ".local/share"}));
+        UserFolderOfAKind{"XDG_DATA_HOME", userDataFolder, ".local/share"},
+        UserFolderOfAKind{"XDG_CACHE_HOME", userCacheFolder, ".cache"}));

@@ -200,6 +200,11 @@ QStringList NSBundle::preferredLocalizations() const
     return d->stringTables().preferredLanguages();
 }
 
+QStringList NSBundle::preferredLocalizationsFromArray(const QStringList &languages)
+{
+    return StringTables::preferredOf(languages);
+}
+
 QVariantMap NSBundle::infoDictionaryOnDisk(const QString &bundlePath)
 {
     return readInfoDictionary(bundlePath).dictionary;

@@ -64,6 +64,8 @@ public:
     /// The languages the bundle has folders for, and of these the ones to use now, best first ("en" last if it exists).
     QStringList localizations() const;
     QStringList preferredLocalizations() const;
+    /// Of any languages, named as folders are, the ones to use now, best first; empty when none suits.
+    static QStringList preferredLocalizationsFromArray(const QStringList &languages);
 
     /// Reads an Info.plist afresh from disk; empty when it is missing or unreadable.
     static QVariantMap infoDictionaryOnDisk(const QString &bundlePath);

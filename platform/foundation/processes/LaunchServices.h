@@ -26,6 +26,10 @@ struct FSRef
 /// for an empty path and where there is nothing.
 LM_FOUNDATION OSStatus FSPathMakeRef(const QString &path, FSRef *reference, bool *isDirectory = nullptr);
 
+/// Makes a reference to what a local address names. Returns false, and leaves the reference alone, where the address is
+/// no local one or there is nothing.
+LM_FOUNDATION bool CFURLGetFSRef(const QUrl &url, FSRef *reference);
+
 /// How an application is to be launched. Every launch is asynchronous here and brings nothing to the front, whatever
 /// the flags say.
 struct LSApplicationParameters

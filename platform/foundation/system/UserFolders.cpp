@@ -46,3 +46,9 @@ const QString &userDataFolder()
     static UserFolder folder("XDG_DATA_HOME", QStringLiteral(".local/share"));
     return folder.path();
 }
+
+const QString &userCacheFolder()
+{
+    static UserFolder folder("XDG_CACHE_HOME", QStringLiteral(".cache"));
+    return folder.path();
+}

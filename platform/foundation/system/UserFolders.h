@@ -12,3 +12,5 @@
 LM_FOUNDATION const QString &userConfigurationFolder();
 /// $XDG_DATA_HOME: what the user has installed.
 LM_FOUNDATION const QString &userDataFolder();
+/// $XDG_CACHE_HOME: what programs can make anew at any time.
+LM_FOUNDATION const QString &userCacheFolder();

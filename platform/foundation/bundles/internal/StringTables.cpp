@@ -45,22 +45,22 @@ QStringList userLanguages()
     return languages.first(languages.indexOf(english) + 1);
 }
 
-QStringList availableOf(const QStringList &wanted, const QStringList &available)
-{
-    QStringList found;
-    for (const QString &language : wanted) {
-        if (available.contains(language))
-            found += language;
-    }
-    return found;
-}
-
 } // namespace
 
 StringTables::StringTables(QString resourcePath)
     : resourcePath_(std::move(resourcePath)), languages_(languagesWithAFolder(resourcePath_)),
-      preferredLanguages_(availableOf(userLanguages(), languages_))
+      preferredLanguages_(preferredOf(languages_))
 {
+}
+
+QStringList StringTables::preferredOf(const QStringList &languages)
+{
+    QStringList found;
+    for (const QString &language : userLanguages()) {
+        if (languages.contains(language))
+            found += language;
+    }
+    return found;
 }
 
 QString StringTables::languageFolder(const QString &language) const

@@ -13,6 +13,9 @@ class StringTables
 public:
     explicit StringTables(QString resourcePath);
 
+    /// Of these languages the ones to use, best first.
+    static QStringList preferredOf(const QStringList &languages);
+
     /// The languages that have a folder, sorted.
     const QStringList &languages() const { return languages_; }
     /// Of these the ones to use, best first. English is what the keys are written in, so nothing comes after it.

@@ -61,6 +61,11 @@ OSStatus FSPathMakeRef(const QString &path, FSRef *reference, bool *isDirectory)
     return noErr;
 }
 
+bool CFURLGetFSRef(const QUrl &url, FSRef *reference)
+{
+    return url.isLocalFile() && FSPathMakeRef(url.toLocalFile(), reference) == noErr;
+}
+
 OSStatus LSOpenApplication(const LSApplicationParameters *parameters, ProcessSerialNumber *process)
 {
     if (!parameters || parameters->version != 0 || !parameters->application)
