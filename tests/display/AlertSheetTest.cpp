@@ -2,9 +2,9 @@
 
 #include "AlertSheetOnWindow.h"
 #include "DesktopWindows.h"
+#include "HelpBundle.h"
 #include "KeyPress.h"
-#include "TestBundle.h"
-#include "platform/appkit/help/NSHelpManager.h"
+#include "OpenHelp.h"
 #include "platform/foundation/bundles/NSBundle.h"
 
 #include <QApplication>
@@ -165,23 +165,22 @@ TEST_F(AnAlertSheet, givesTheFocusBackToWhereItWas)
 
 TEST_F(AnAlertSheet, opensHelpAndStaysOpen)
 {
-    TestBundle bundle("Test.prefPane");
-    bundle.writeInfo({{"CFBundleIdentifier", "com.quorvane.Test"}, {"CFBundleHelpBookName", "Test Help"}});
-    QStringList requests;
-    NSHelpManager::sharedHelpManager()->setRequestObserver(
-        [&](const QString &anchor, const QString &book) { requests += anchor + " in " + book; });
+    const HelpBundle bundle;
+    ASSERT_EQ(bundle.registerBook(), 0);
     window->showActive();
     auto helpful = alert("First");
     helpful->setShowsHelp(true);
-    helpful->setHelpAnchor("conflicts", NSBundle::bundleWithPath(bundle.path()));
+    helpful->setHelpAnchor("landing", NSBundle::bundleWithPath(bundle.path()));
     begin(std::move(helpful));
     ASSERT_TRUE(alertComesUp());
     clickOn(partOfAlert("help"));
-    EXPECT_TRUE(waitUntil([&] { return requests.size() == 1; }));
+    EXPECT_TRUE(helpShows("gliding.html#landing"));
+    pressKey(KEY_ESC);
+    ASSERT_TRUE(waitUntil([] { return !openHelp(); }));
+    ASSERT_TRUE(alertComesUp());
     pressKey(KEY_F1);
-    EXPECT_TRUE(waitUntil([&] { return requests.size() == 2; }));
-    EXPECT_EQ(requests, (QStringList(2, "conflicts in Test Help")));
+    EXPECT_TRUE(helpShows("gliding.html#landing"));
     EXPECT_TRUE(openAlert());
     EXPECT_TRUE(answers.isEmpty());
-    NSHelpManager::sharedHelpManager()->setRequestObserver({});
+    closeHelp();
 }

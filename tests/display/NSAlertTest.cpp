@@ -1,8 +1,9 @@
 #include "platform/appkit/alerts/NSAlert.h"
+#include "HelpBundle.h"
 #include "KeyPress.h"
+#include "OpenHelp.h"
 #include "TestBundle.h"
 #include "Wait.h"
-#include "platform/appkit/help/NSHelpManager.h"
 #include "platform/foundation/bundles/NSBundle.h"
 
 #include <QAccessible>
@@ -166,25 +167,22 @@ TEST_F(AnAlert, showsItsIconAndDoesWithoutOneThatIsMissingOrNoImage)
 
 TEST_F(AnAlert, opensHelpFromItsHelpButtonAndStays)
 {
-    TestBundle bundle("Test.prefPane");
-    bundle.writeInfo({{"CFBundleIdentifier", "com.quorvane.Test"}, {"CFBundleHelpBookName", "Test Help"}});
-    QStringList requests;
-    NSHelpManager::sharedHelpManager()->setRequestObserver(
-        [&](const QString &anchor, const QString &book) { requests += anchor + " in " + book; });
+    const HelpBundle bundle;
+    ASSERT_EQ(bundle.registerBook(), 0);
     alert.setShowsHelp(true);
-    alert.setHelpAnchor("closeDialog", NSBundle::bundleWithPath(bundle.path()));
+    alert.setHelpAnchor("landing", NSBundle::bundleWithPath(bundle.path()));
     EXPECT_EQ(run([&] {
         EXPECT_EQ(window()->findChild<QToolButton *>("help")->accessibleName(), "Help");
         pressKey(keyTab);
         EXPECT_TRUE(waitUntil([] { return focusedButton() == "Help"; }));
         pressKey(keySpace);
-        EXPECT_TRUE(waitUntil([&] { return !requests.isEmpty(); }));
+        EXPECT_TRUE(helpShows("gliding.html#landing"));
         EXPECT_TRUE(window()->isVisible());
+        pressKey(keyEscape);
+        EXPECT_TRUE(waitUntil([] { return !openHelp() && hasKeyboard(window()); }));
         pressKey(keyEscape);
     }),
         NSAlertSecondButtonReturn);
-    EXPECT_EQ(requests, QStringList("closeDialog in Test Help"));
-    NSHelpManager::sharedHelpManager()->setRequestObserver({});
 }
 
 TEST_F(AnAlert, withoutHelpHasNoHelpButton)

@@ -175,7 +175,9 @@ RecordingPane &PaneOnRealStore::paneWithoutView()
 {
     if (!pane_) {
         pane_ = std::make_unique<RecordingPane>(&calls);
-        EXPECT_TRUE(pane_->initWithBundle(NSBundle::bundleWithPath(bundle_.path())));
+        NSBundle *loaded = NSBundle::bundleWithPath(bundle_.path());
+        loaded->setLoaded();
+        EXPECT_TRUE(pane_->initWithBundle(loaded));
     }
     return *pane_;
 }

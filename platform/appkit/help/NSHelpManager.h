@@ -3,7 +3,6 @@
 #include "platform/appkit/Export.h"
 
 #include <QString>
-#include <functional>
 
 /// Opens help books.
 class LM_APPKIT NSHelpManager
@@ -11,13 +10,10 @@ class LM_APPKIT NSHelpManager
 public:
     static NSHelpManager *sharedHelpManager();
 
-    /// Asks for an anchor of a help book by the book's name.
+    /// Opens the help viewer on a named anchor of a registered book (AHRegisterHelpBook), in the user's language.
+    ///
+    /// There is one viewer, which comes to the front. It works also in front of an application-modal alert that is up.
+    /// An unknown anchor opens the book at its start; a book that is not registered, missing or torn is a page that
+    /// says so. Where the viewer itself cannot be loaded, the alert sounds and the log tells why. Returns at once.
     void openHelpAnchorInBook(const QString &anchor, const QString &book);
-
-    /// Told of each request, for tests.
-    using RequestObserver = std::function<void(const QString &anchor, const QString &book)>;
-    void setRequestObserver(RequestObserver observer);
-
-private:
-    RequestObserver observer_;
 };

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+/// A function of a library that is loaded only where it is needed; null, with the cause, when there is none to have.
+struct LoadedFunction
+{
+    void *address = nullptr;
+    QString error;
+};
+
+/// Loads a library by its file name, from the folder that this library lies in, and looks its function up. It stays
+/// loaded. For any thread.
+LoadedFunction functionOfLibraryBeside(const char *library, const char *function);
