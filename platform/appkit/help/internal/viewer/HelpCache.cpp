@@ -64,7 +64,11 @@ HelpCache::HelpCache(const HelpBook &book)
         clear();
 }
 
-HelpCache::HelpCache() : temporary_(std::make_unique<QTemporaryDir>()), folder_(temporary_->path()) { }
+HelpCache::HelpCache()
+    : temporary_(std::make_unique<QTemporaryDir>(QDir::tempPath() + QStringLiteral("/lumaroo-help-XXXXXX"))),
+      folder_(temporary_->path())
+{
+}
 
 bool HelpCache::isWritable() const
 {
