@@ -1,11 +1,10 @@
 #include "platform/appkit/alerts/NSAlert.h"
 
+#include "platform/appkit/NSWindow.h"
 #include "platform/appkit/alerts/internal/AlertSheets.h"
 #include "platform/appkit/controls/Controls.h"
 #include "platform/appkit/help/NSHelpManager.h"
 #include "platform/foundation/bundles/NSBundle.h"
-
-#include <QApplication>
 
 namespace {
 
@@ -143,7 +142,7 @@ int NSAlert::runModal()
 {
     const AlertContent content = d->finishedContent();
     // The window it belongs to may be destroyed while it runs, and takes it along.
-    const QPointer<AlertWindow> window = new AlertWindow(content, Qt::ApplicationModal, QApplication::activeWindow());
+    const QPointer<AlertWindow> window = new AlertWindow(content, Qt::ApplicationModal, frontWindow());
     window->exec();
     const int pressed = window ? window->pressedButton() : -1;
     d->content.suppressionIsOn = window && window->suppressionIsOn();
@@ -152,4 +151,22 @@ int NSAlert::runModal()
         return NSAlertFirstButtonReturn + pressed;
     const int last = int(content.buttons.size()) - 1;
     return NSAlertFirstButtonReturn + (content.cancelButton >= 0 ? content.cancelButton : last);
+}
+
+int NSRunAlertPanel(const QString &title, const QString &message, const QString &defaultButton,
+    const QString &alternateButton, const QString &otherButton)
+{
+    NSAlert alert;
+    alert.setMessageText(title);
+    alert.setInformativeText(message);
+    const std::pair<QString, NSAlertPanelReturn> buttons[] = {{defaultButton, NSAlertDefaultReturn},
+        {alternateButton, NSAlertAlternateReturn}, {otherButton, NSAlertOtherReturn}};
+    QList<NSAlertPanelReturn> answers;
+    for (const auto &[button, answer] : buttons) {
+        if (button.isEmpty())
+            continue;
+        alert.addButtonWithTitle(button);
+        answers += answer;
+    }
+    return answers.value(alert.runModal() - NSAlertFirstButtonReturn, NSAlertDefaultReturn);
 }

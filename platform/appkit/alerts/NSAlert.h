@@ -16,6 +16,9 @@ enum NSAlertReturn {
     NSAlertThirdButtonReturn = 1002
 };
 
+/// What NSRunAlertPanel returns.
+enum NSAlertPanelReturn { NSAlertOtherReturn = -1, NSAlertAlternateReturn = 0, NSAlertDefaultReturn = 1 };
+
 /// A message with an icon, buttons from right to left, an optional help button and an optional check box with which the
 /// user wishes not to see its like again.
 class LM_APPKIT NSAlert
@@ -61,11 +64,17 @@ public:
     static void beginSheetModalForWindowModalDelegateDidEndSelectorContextInfo(std::unique_ptr<NSAlert> alert,
         QWidget *view, const QObject *modalDelegate, const DidEnd &didEnd, const QString &contextInfo);
 
-    /// Runs application-modally and returns the button that ended it, NSAlertFirstButtonReturn + its index. When the
-    /// application ends meanwhile, it is the button that Escape presses, or else the last.
+    /// Runs application-modally in front of frontWindow() (NSWindow.h) and returns the button that ended it,
+    /// NSAlertFirstButtonReturn + its index. When the application ends meanwhile, it is the button that Escape presses,
+    /// or else the last.
     int runModal();
 
 private:
     class Private;
     std::unique_ptr<Private> d;
 };
+
+/// Runs an alert as NSAlert::runModal does and returns which of its buttons ended it. An empty title is no button;
+/// without any there is "OK", the default one.
+LM_APPKIT int NSRunAlertPanel(const QString &title, const QString &message, const QString &defaultButton,
+    const QString &alternateButton, const QString &otherButton);

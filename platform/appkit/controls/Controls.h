@@ -55,6 +55,13 @@ LM_APPKIT bool isPopUp(const QObject *control);
 LM_APPKIT NSColorRef color(const QObject *colorWell);
 LM_APPKIT void setColor(QObject *colorWell, const NSColorRef &color);
 
+/// The text of a text view (NSTextView.h), to the last character.
+LM_APPKIT QString string(const QObject *textView);
+LM_APPKIT void setString(QObject *textView, const QString &text);
+
+/// Shows that something is going on, with a progress indicator.
+LM_APPKIT void startAnimation(QObject *progressIndicator);
+
 /// Replaces the whole contents of a text view.
 LM_APPKIT void setAttributedString(QObject *textView, const NSAttributedString &text);
 
@@ -64,6 +71,8 @@ LM_APPKIT void selectTabViewItemAtIndex(QObject *tabView, int index);
 /// The index of the page with an `identifier`, or NSNotFound where the tab view has none such.
 inline constexpr qint64 NSNotFound = 0x7fffffffffffffff;
 LM_APPKIT qint64 indexOfTabViewItemWithIdentifier(const QObject *tabView, const QString &identifier);
+/// Names a page on its tab; an index that no page has names none.
+LM_APPKIT void setLabelOfTabViewItemAtIndex(QObject *tabView, qint64 index, const QString &label);
 
 /// A click as the user would make it, the action included; a disabled control ignores it.
 LM_APPKIT void performClick(QObject *control);

@@ -14,6 +14,12 @@ void selectTabViewItemAtIndex(QObject *tabView, int index)
         tabs->setCurrentIndex(index);
 }
 
+void setLabelOfTabViewItemAtIndex(QObject *tabView, qint64 index, const QString &label)
+{
+    if (auto *tabs = qobject_cast<QTabWidget *>(tabView); tabs && index < tabs->count())
+        tabs->setTabText(int(index), label);
+}
+
 qint64 indexOfTabViewItemWithIdentifier(const QObject *tabView, const QString &identifier)
 {
     const auto *tabs = qobject_cast<const QTabWidget *>(tabView);

@@ -1,12 +1,23 @@
+#include "platform/appkit/web/internal/NetworkLibrary.h"
+
 #include "platform/appkit/LibraryBeside.h"
-#include "platform/appkit/web/internal/NetworkAnswer.h"
 
 NetworkAnswer networkAnswer(const NSMutableURLRequest &request)
 {
-    static const LoadedFunction loaded = functionOfLibraryBeside(LUMAROO_NETWORK_LIBRARY, networkLibraryFunction);
+    static const LoadedFunction loaded = functionOfLibraryBeside(LUMAROO_NETWORK_LIBRARY, networkAnswerFunction);
     if (!loaded.address)
-        return {0, loaded.error};
+        return {0, loaded.error, 0};
     NetworkAnswer answer;
-    reinterpret_cast<NetworkLibraryFunction>(loaded.address)(&request, &answer);
+    reinterpret_cast<NetworkAnswerFunction>(loaded.address)(&request, &answer);
     return answer;
+}
+
+std::unique_ptr<NetworkTransfer> networkTransfer(
+    const NSMutableURLRequest &request, const NetworkTransferEnd &end, QString *error)
+{
+    static const LoadedFunction loaded = functionOfLibraryBeside(LUMAROO_NETWORK_LIBRARY, networkTransferFunction);
+    *error = loaded.error;
+    if (!loaded.address)
+        return nullptr;
+    return std::unique_ptr<NetworkTransfer>(reinterpret_cast<NetworkTransferFunction>(loaded.address)(&request, &end));
 }

@@ -4,7 +4,9 @@
 #include "platform/appkit/controls/ConflictMarker.h"
 #include "platform/appkit/controls/FloatSlider.h"
 #include "platform/appkit/controls/NSMatrix.h"
+#include "platform/appkit/controls/NSProgressIndicator.h"
 #include "platform/appkit/controls/NSSwitch.h"
+#include "platform/appkit/controls/NSTextView.h"
 #include "platform/appkit/controls/StyledLabel.h"
 #include "platform/appkit/interface/internal/InterfaceText.h"
 #include "platform/appkit/web/WebView.h"
@@ -34,6 +36,8 @@ WidgetMaker ownClass(const QString &className)
         {QStringLiteral("FloatSlider"), &make<FloatSlider>},
         {QStringLiteral("ConflictMarker"), &make<ConflictMarker>},
         {QStringLiteral("NSSwitch"), &make<NSSwitch>},
+        {QStringLiteral("NSTextView"), &make<NSTextView>},
+        {QStringLiteral("NSProgressIndicator"), &make<NSProgressIndicator>},
         {QStringLiteral("StyledLabel"), &make<StyledLabel>},
         {QStringLiteral("WebView"), &make<WebView>},
     };

@@ -1,6 +1,6 @@
 #include "platform/appkit/web/NSURLRequest.h"
-#include "platform/appkit/web/internal/NetworkAnswer.h"
-#include "platform/appkit/web/internal/WebAddress.h"
+#include "platform/appkit/web/internal/NetworkLibrary.h"
+#include "platform/appkit/web/internal/network/Redirections.h"
 
 #include <QDeadlineTimer>
 #include <QEventLoop>
@@ -10,14 +10,6 @@
 #include <memory>
 
 namespace {
-
-constexpr int mostRedirections = 20;
-
-bool mayLeadTo(const QUrl &from, const QUrl &to)
-{
-    const bool wasSecure = from.scheme() == QLatin1StringView("https");
-    return isWebAddress(to) && (!wasSecure || to.scheme() == from.scheme());
-}
 
 /// One request with its redirections. It has a manager of its own: it knows no cookie, connection or password of an
 /// earlier one.
@@ -52,14 +44,13 @@ NetworkAnswer HeadRequest::answerTo(QUrl address)
 {
     for (int asked = 0; asked <= mostRedirections; ++asked) {
         const std::unique_ptr<QNetworkReply> reply = ask(address);
-        const QUrl target = reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
-        const QUrl next = address.resolved(target);
+        const QUrl next = redirectionOf(*reply);
         // An error that a server tells is an answer, too.
-        if (target.isEmpty() || !mayLeadTo(address, next))
-            return {reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt(), reply->errorString()};
+        if (next.isEmpty())
+            return {reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt(), reply->errorString(), 0};
         address = next;
     }
-    return {0, QStringLiteral("more than %1 redirections").arg(mostRedirections)};
+    return {0, QStringLiteral("more than %1 redirections").arg(mostRedirections), 0};
 }
 
 } // namespace

@@ -1,0 +1,13 @@
+#include "crashreporter/QBFeedbackProvider.h"
+
+#include "crashreporter/QBCrashReporter.h"
+
+void QBFeedbackProvider::orderFrontFeedbackWindow(QObject *)
+{
+    QBCrashReporter::initInFeedbackMode();
+}
+
+void QBFeedbackProvider::orderFrontBugReportWindow(QObject *)
+{
+    QBCrashReporter::initInFeedbackMode();
+}

@@ -1,0 +1,6 @@
+#pragma once
+
+#include "platform/foundation/NSError.h"
+
+/// What a user is told of an NSURLErrorCode.
+NSError urlError(int code);
