@@ -4,6 +4,7 @@
 #include "agent/linux/AgentObject.h"
 #include "agent/linux/ProgramReplacement.h"
 #include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/crashlogs/CrashLogWriter.h"
 #include "platform/foundation/processes/ApplicationIdentifier.h"
 #include "platform/foundation/system/EndingSignals.h"
 #include "platform/foundation/system/NSLog.h"
@@ -87,6 +88,7 @@ int runAgent(bool foreground)
     const AgentObject object(agent);
     if (!takeName(name))
         return 0;
+    trimCrashLogs();
     if (foreground)
         printEvents(agent);
     const EndingSignals endingSignals;

@@ -1,6 +1,7 @@
 // The background agent of Lumaroo.
 
 #include "agent/AgentCommands.h"
+#include "platform/foundation/crashlogs/CrashLogWriter.h"
 
 #include <QCoreApplication>
 #include <cstdio>
@@ -13,6 +14,7 @@ enum ExitStatus { Done = 0, NotDone = 1, NotUnderstood = 2 };
 
 int main(int argumentCount, char **arguments)
 {
+    installCrashLogWriter();
     QCoreApplication application(argumentCount, arguments);
     QCoreApplication::setApplicationVersion(QStringLiteral(LUMAROO_VERSION));
     try {

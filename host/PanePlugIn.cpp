@@ -4,6 +4,7 @@
 #include "platform/appkit/interface/NSPreferencePane.h"
 #include "platform/foundation/Boundary.h"
 #include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/crashlogs/CrashLogWriter.h"
 
 #include <QFileInfo>
 #include <QHash>
@@ -46,6 +47,7 @@ PaneFailureReport initializeOnce(NSPrincipalClass *principalClass)
 
 void loadCode(PanePlugIn &plugIn)
 {
+    nameInCrashLogs(plugIn.bundle->bundleIdentifier());
     QPluginLoader loader(plugIn.bundle->executablePath());
     // Code that lacks a function of ours must fail here, not end the process when it first calls it.
     loader.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);

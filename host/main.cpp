@@ -7,6 +7,7 @@
 #include "host/linux/WindowActivation.h"
 #include "platform/appkit/NSApplication.h"
 #include "platform/foundation/Boundary.h"
+#include "platform/foundation/crashlogs/CrashLogWriter.h"
 #include "platform/foundation/processes/NSTask.h"
 #include "platform/foundation/system/EndingSignals.h"
 #include "platform/foundation/system/RunningExecutable.h"
@@ -87,6 +88,7 @@ int run(SettingsApplication &settings, SingleInstance &instance, const QString &
 
 int main(int argumentCount, char **argumentValues)
 {
+    installCrashLogWriter();
     const QString activationToken = takeActivationToken();
     QApplication application(argumentCount, argumentValues);
     QApplication::setQuitOnLastWindowClosed(false);
@@ -99,6 +101,7 @@ int main(int argumentCount, char **argumentValues)
     if (outcome != SingleInstance::Outcome::First)
         return outcome == SingleInstance::Outcome::HandedOver ? 0 : 1;
 
+    trimCrashLogs();
     const Appearance appearance(arguments.scheme);
     SettingsApplication settings(paneFolders());
     return run(settings, instance, arguments.request);

@@ -1,0 +1,4 @@
+#pragma once
+
+/// What stands between two records, where one file holds all of a program's crashes.
+inline constexpr char crashRecordSeparator[] = "\n\n**********\n\n";

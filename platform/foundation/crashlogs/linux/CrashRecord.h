@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/foundation/crashlogs/linux/CrashHandler.h"
+
+#include <csignal>
+#include <sys/types.h>
+#include <ucontext.h>
+
+/// What is known of a crash.
+struct Crash
+{
+    int signal;
+    siginfo_t information;
+    const ucontext_t *context;
+    timespec time;
+    pid_t thread;
+    const char *exception; ///< what nobody caught; empty without
+    const char *plugIns; ///< their identifiers, each ended by a zero, the last one by two
+};
+
+/// Writes the record of a crash, one section at each call, until there is none left: a section that crashes itself is
+/// taken up after by the next one. False when it is done.
+bool writeNextSection(const CrashLogFacts &facts, const Crash &crash);

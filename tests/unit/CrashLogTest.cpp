@@ -1,0 +1,312 @@
+// What a crash leaves behind, of a program that really crashes.
+
+#include "CrashProgram.h"
+#include "ProgramResult.h"
+
+#include <QDateTime>
+#include <QRegularExpression>
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+namespace {
+
+const QString separator = QStringLiteral("\n\n**********\n\n");
+
+class CrashLog : public testing::Test
+{
+protected:
+    QStringList linesWith(const QString &text) const { return program.lines().filter(text); }
+    QStringList frames() const
+    {
+        return program.lines().filter(QRegularExpression(QStringLiteral("^[0-9]{3}  0x[0-9a-f]{16}")));
+    }
+    static uint modeOf(const QString &path)
+    {
+        struct stat status = {};
+        EXPECT_EQ(::lstat(QFile::encodeName(path).constData(), &status), 0) << path.toStdString();
+        return status.st_mode & 07777;
+    }
+
+    CrashProgram program;
+};
+
+struct Way
+{
+    const char *name;
+    int signal;
+    const char *reason;
+};
+
+class CrashLogOfAWay : public CrashLog, public testing::WithParamInterface<Way>
+{
+};
+
+} // namespace
+
+TEST_P(CrashLogOfAWay, tellsTheSignalAndEndsByIt)
+{
+    EXPECT_EQ(program.crash(GetParam().name), GetParam().signal);
+    EXPECT_THAT(program.value("Signal").toStdString(), HasSubstr(GetParam().reason));
+    EXPECT_EQ(linesWith("Process: ").size(), 1);
+    EXPECT_GE(frames().size(), 1);
+    EXPECT_EQ(linesWith("/libc.so.6").size(), 1) << "the record came to its end";
+}
+
+INSTANTIATE_TEST_SUITE_P(All, CrashLogOfAWay,
+    testing::Values(Way{"null", SIGSEGV, "SIGSEGV (11): nothing is mapped at the address"},
+        Way{"call-null", SIGSEGV, "SIGSEGV (11): nothing is mapped at the address"},
+        Way{"abort", SIGABRT, "SIGABRT (6): the program gave up"}, Way{"overflow", SIGSEGV, "SIGSEGV (11): "},
+        Way{"exception", SIGABRT, "SIGABRT (6): "}, Way{"noexcept", SIGABRT, "SIGABRT (6): "},
+        Way{"terminate", SIGABRT, "SIGABRT (6): "}, Way{"illegal", SIGILL, "SIGILL (4): ill"},
+        Way{"division", SIGFPE, "SIGFPE (8): sent by a program"},
+        Way{"end-of-file", SIGBUS, "SIGBUS (7): nothing is behind the address"},
+        Way{"thread", SIGSEGV, "SIGSEGV (11): "}, Way{"threads", SIGSEGV, "SIGSEGV (11): "},
+        Way{"stack", SIGILL, "SIGILL (4): ill"}),
+    [](const auto &way) {
+        QString name = way.param.name;
+        return name.replace('-', '_').toStdString();
+    });
+
+TEST_F(CrashLog, tellsTheProgramItsVersionAndTheTime)
+{
+    const QDateTime before = QDateTime::currentDateTimeUtc();
+    program.crash("null");
+    EXPECT_EQ(program.value("Process"), QStringLiteral("crash [%1]").arg(program.processId));
+    EXPECT_EQ(program.value("Identifier"), "com.example.crash");
+    EXPECT_EQ(program.value("Version"), "1.0 (7)");
+    EXPECT_EQ(program.value("Thread"), QStringLiteral("%1 (main)").arg(program.processId));
+    QDateTime time = QDateTime::fromString(program.value("Date/Time"), "yyyy-MM-dd hh:mm:ss '+0000'");
+    time.setTimeSpec(Qt::UTC);
+    EXPECT_GE(time, before.addSecs(-1));
+    EXPECT_LE(time, QDateTime::currentDateTimeUtc());
+}
+
+TEST_F(CrashLog, namesThePlugInsThatAreLoaded)
+{
+    program.crash("null", {"com.quorvane.Lumaroo", "com.example.other"});
+    EXPECT_EQ(linesWith("PlugIn"),
+        (QStringList{"PlugIn Identifier: com.quorvane.Lumaroo", "PlugIn Identifier: com.example.other"}));
+}
+
+TEST_F(CrashLog, namesNoPlugInWhereNoneIsLoaded)
+{
+    program.crash("null", {""});
+    EXPECT_TRUE(linesWith("PlugIn").isEmpty());
+}
+
+TEST_F(CrashLog, leavesOutThePlugInsThatItHasNoRoomFor)
+{
+    const QString longName(1500, 'x');
+    program.crash("null", {"a", longName, longName, "b"});
+    EXPECT_EQ(linesWith("PlugIn"),
+        (QStringList{"PlugIn Identifier: a", "PlugIn Identifier: " + longName, "PlugIn Identifier: b"}));
+}
+
+TEST_F(CrashLog, leadsFromTheFrameThatCrashedToItsFunction)
+{
+    program.crash("null");
+    static const QRegularExpression form("^000  0x[0-9a-f]{16}  crash \\+ (0x[0-9a-f]+)$");
+    const QString offset = form.match(frames().value(0)).captured(1);
+    const ProgramResult function = runProgram("addr2line", {"-f", "-e", CrashProgram::built(), offset});
+    EXPECT_THAT(function.output, HasSubstr("writeToNull")) << frames().join('\n').toStdString();
+    EXPECT_GE(frames().filter(" crash + ").size(), 2) << "main called it";
+    EXPECT_GE(frames().filter(" libc.so.6 + ").size(), 1) << "which the C library called";
+}
+
+TEST_F(CrashLog, tellsWhoCalledWhatIsNoCode)
+{
+    program.crash("call-null");
+    EXPECT_EQ(frames().value(0), "000  0x0000000000000000");
+    EXPECT_THAT(frames().value(1).toStdString(), HasSubstr(" crash + 0x"));
+}
+
+TEST_F(CrashLog, hasTheRegisters)
+{
+    program.crash("null");
+    const QString counter = frames().value(0).section("  ", 1, 1);
+    EXPECT_THAT(
+        program.log().section("Registers:\n", 1).section("\n\n", 0, 0).toStdString(), HasSubstr(counter.toStdString()));
+}
+
+TEST_F(CrashLog, tellsTheAddressOfAWrongAccess)
+{
+    program.crash("null");
+    EXPECT_EQ(program.value("Address"), "0x0000000000000000");
+}
+
+TEST_F(CrashLog, listsTheModulesWithTheirBuildIdentifiers)
+{
+    program.crash("null");
+    const ProgramResult notes = runProgram("readelf", {"-n", CrashProgram::built()});
+    const QString identifier = QString::fromStdString(notes.output).section("Build ID: ", 1).section('\n', 0, 0);
+    ASSERT_FALSE(identifier.isEmpty());
+    const QString line = linesWith(CrashProgram::built()).value(0);
+    EXPECT_TRUE(line.contains(QStringLiteral("  <%1>  ").arg(identifier))) << line.toStdString();
+}
+
+TEST_F(CrashLog, goesAHundredFramesUpAStackThatHasOverflowed)
+{
+    program.crash("overflow");
+    EXPECT_GE(frames().size(), 100);
+    EXPECT_LE(frames().size(), 300);
+}
+
+TEST_F(CrashLog, goesOnAfterACrashOfItsOwn)
+{
+    EXPECT_EQ(program.crash("stack"), SIGILL) << "the first crash is what ends it";
+    EXPECT_EQ(frames().size(), 1) << "the stack cannot be gone up";
+    EXPECT_EQ(linesWith("Modules:").size(), 1);
+    EXPECT_GE(linesWith("/libc.so.6").size(), 1);
+}
+
+TEST_F(CrashLog, tellsTheExceptionThatNobodyCaught)
+{
+    program.crash("exception");
+    EXPECT_EQ(program.value("Exception"), "std::out_of_range: the text");
+}
+
+TEST_F(CrashLog, tellsTheTypeOfWhatIsNoException)
+{
+    program.crash("no-exception");
+    EXPECT_EQ(program.value("Exception"), "(anonymous namespace)::NoException");
+}
+
+TEST_F(CrashLog, tellsTheTypeOfANumberThatIsThrown)
+{
+    program.crash("number");
+    EXPECT_EQ(program.value("Exception"), "int");
+}
+
+TEST_F(CrashLog, tellsNoExceptionWhereThereWasNone)
+{
+    program.crash("terminate");
+    EXPECT_TRUE(program.value("Exception").isNull());
+}
+
+TEST_F(CrashLog, hasAnExceptionsTextInOneLine)
+{
+    program.crash("noexcept");
+    EXPECT_EQ(program.value("Exception"), "std::runtime_error: two lines  **********  and the end");
+    EXPECT_FALSE(program.log().contains(separator));
+}
+
+TEST_F(CrashLog, cutsALongTextBetweenTwoCharacters)
+{
+    program.crash("long-exception");
+    EXPECT_TRUE(CrashProgram::contentOf(program.oneFile()).isValidUtf8());
+    EXPECT_GT(program.value("Exception").size(), 400);
+    EXPECT_LT(program.value("Exception").size(), 600);
+}
+
+TEST_F(CrashLog, isAddedToTheFileAfterASeparator)
+{
+    program.crash("null");
+    EXPECT_TRUE(program.log().startsWith("Process:"));
+    const QString first = program.log();
+    program.crash("abort");
+    ASSERT_TRUE(program.log().startsWith(first + separator + "Process:"));
+    EXPECT_EQ(program.log().count(separator), 1);
+    EXPECT_EQ(program.files(), QStringList("crash.crash.log"));
+}
+
+TEST_F(CrashLog, isAFileOfItsOwnWhereTheSystemHasItSo)
+{
+    CrashProgram each(CrashProgram::Form::FileForEach);
+    each.crash("null");
+    each.crash("abort");
+    ASSERT_EQ(each.files().size(), 2);
+    for (const QString &file : each.files()) {
+        EXPECT_TRUE(file.startsWith("crash_") && file.endsWith(".crash")) << file.toStdString();
+        const QByteArray content = CrashProgram::contentOf(each.folder() + file);
+        EXPECT_TRUE(content.startsWith("Process:"));
+        EXPECT_FALSE(content.contains("**********"));
+    }
+}
+
+TEST_F(CrashLog, andItsFolderAreTheUsersAlone)
+{
+    program.crash("null");
+    EXPECT_EQ(modeOf(program.oneFile()), 0600U);
+    for (const char *folder : {"/Library", "/Library/Logs", "/Library/Logs/Here"})
+        EXPECT_EQ(modeOf(program.home() + folder), 0700U) << folder;
+}
+
+TEST_F(CrashLog, closesAFileThatWasOpenToOthersAndLeavesFoldersAsTheyAre)
+{
+    ASSERT_TRUE(QDir().mkpath(program.folder()));
+    QFile file(program.oneFile());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_EQ(::chmod(QFile::encodeName(program.oneFile()).constData(), 0644), 0);
+    ASSERT_EQ(::chmod(QFile::encodeName(program.folder()).constData(), 0755), 0);
+    program.crash("null");
+    EXPECT_EQ(modeOf(program.oneFile()), 0600U);
+    EXPECT_EQ(modeOf(program.folder()), 0755U);
+    EXPECT_TRUE(program.log().startsWith("Process:")) << "no separator in an empty file";
+}
+
+TEST_F(CrashLog, isNotThereBeforeTheFirstCrash)
+{
+    EXPECT_EQ(program.crash("other-handler"), -5) << "who handles a signal already keeps it";
+    EXPECT_FALSE(QFileInfo::exists(program.home() + "/Library"));
+}
+
+TEST_F(CrashLog, isNotWrittenForACopyOfTheProgramThatIsAboutToBecomeAnother)
+{
+    EXPECT_EQ(program.crash("child"), -SIGSEGV);
+    EXPECT_FALSE(QFileInfo::exists(program.home() + "/Library"));
+}
+
+TEST_F(CrashLog, isWrittenOnceWhenThreadsCrashTogether)
+{
+    for (int round = 0; round < 20; ++round) {
+        EXPECT_EQ(program.crash("threads"), SIGSEGV);
+        ASSERT_EQ(linesWith("Process: ").size(), round + 1);
+        ASSERT_EQ(linesWith("Modules:").size(), round + 1);
+    }
+}
+
+TEST_F(CrashLog, holdsNothingOfTheEnvironment)
+{
+    qputenv("LUMAROO_SECRET", "a text of the environment");
+    program.crash("null");
+    EXPECT_FALSE(program.log().contains("a text of the environment"));
+    EXPECT_FALSE(program.log().contains("LUMAROO_SECRET"));
+}
+
+TEST_F(CrashLog, doesNotNameTheHomeFolder)
+{
+    const QString copy = program.home() + "/crash";
+    ASSERT_TRUE(QFile::copy(CrashProgram::built(), copy));
+    program.crash(copy, "null", {});
+    EXPECT_FALSE(program.log().contains(program.home()));
+    EXPECT_EQ(linesWith("  ~/crash").size(), 1);
+}
+
+TEST_F(CrashLog, isGivenUpWhereThereIsNoRoomForIt)
+{
+    EXPECT_EQ(program.crash("file-size"), SIGSEGV);
+    EXPECT_EQ(CrashProgram::contentOf(program.oneFile()), "");
+}
+
+TEST_F(CrashLog, isGivenUpWhereTheHomeFolderIsMissing)
+{
+    ASSERT_TRUE(QDir(program.home()).removeRecursively());
+    EXPECT_EQ(program.crash("null"), SIGSEGV);
+    EXPECT_FALSE(QFileInfo::exists(program.home()));
+}
+
+TEST_F(CrashLog, isNotWrittenIntoAPipeOrALink)
+{
+    const QString other = program.home() + "/other";
+    ASSERT_TRUE(QDir().mkpath(program.folder()));
+    ASSERT_TRUE(QFile(other).open(QIODevice::WriteOnly));
+    ASSERT_TRUE(QFile::link(other, program.oneFile()));
+    EXPECT_EQ(program.crash("null"), SIGSEGV);
+    EXPECT_EQ(CrashProgram::contentOf(other), "");
+    QFile::remove(program.oneFile());
+    ASSERT_EQ(::mkfifo(QFile::encodeName(program.oneFile()).constData(), 0600), 0);
+    EXPECT_EQ(program.crash("null"), SIGSEGV);
+}
