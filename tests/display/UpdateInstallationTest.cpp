@@ -154,7 +154,7 @@ TEST_F(UpdateInstallation, tellsHowMuchHasCome)
     item.length = 200'000'000;
     offer(item);
     press("install");
-    EXPECT_TRUE(waitUntil([] { return text("text").endsWith(" of 200.0 MB"); })) << text("text").toStdString();
+    ASSERT_TRUE(waitUntil([] { return text("text").endsWith(" of 200.0 MB"); })) << text("text").toStdString();
     const auto *bar = window()->findChild<QProgressBar *>("progress");
     EXPECT_EQ(bar->maximum(), 1000);
     press("cancel");
