@@ -46,7 +46,7 @@ TEST_F(AWaitingUpdate, isInstalledBeforeThePaneIsOpened)
     letUpdateWait(101);
     startSettings({pane()});
     EXPECT_EQ(installedVersion(), 101);
-    expectShown("Version 1.0 (101)");
+    expectShown("Version 1.1 (101)");
     EXPECT_TRUE(processesOf(launcher()).isEmpty()) << "nothing older was loaded";
 }
 
@@ -58,7 +58,7 @@ TEST_F(AWaitingUpdate, leavesTheOldBundleAsideUntilTheStartAfter)
     settings.reset();
     startSettings({pane()});
     EXPECT_EQ(beside(), QStringList());
-    expectShown("Version 1.0 (101)");
+    expectShown("Version 1.1 (101)");
 }
 
 TEST_F(AWaitingUpdate, isInstalledBeforeTheOverviewReadsTheBundle)
@@ -69,7 +69,7 @@ TEST_F(AWaitingUpdate, isInstalledBeforeTheOverviewReadsTheBundle)
     EXPECT_EQ(installedVersion(), 101);
     SettingsProgram request({pane()});
     EXPECT_EQ(request.exitStatus(), 0);
-    expectShown("Version 1.0 (101)");
+    expectShown("Version 1.1 (101)");
 }
 
 TEST_F(AWaitingUpdate, thatIsBrokenGoesAndTheOldPaneOpens)

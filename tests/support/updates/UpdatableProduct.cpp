@@ -34,11 +34,12 @@ QStringList UpdatableProduct::beside() const
 QString UpdatableProduct::archiveOf(int version) const
 {
     const QString stage = maker_.filePath(QString::number(version));
-    const QString archive = maker_.filePath(QStringLiteral("Lumaroo-%1.tar.gz").arg(version));
-    EXPECT_TRUE(QDir().mkpath(stage));
+    const QString archive = published() + QStringLiteral("/Lumaroo-%1.tar.gz").arg(version);
+    EXPECT_TRUE(QDir().mkpath(stage) && QDir().mkpath(published()));
     EXPECT_EQ(runProgram(QStringLiteral("cp"), {QStringLiteral("-a"), pane(), stage}).status, 0);
     const QString bundle = stage + u'/' + QFileInfo(pane()).fileName();
     changeVersion(bundle, version);
+    changeInfo(bundle, {{QStringLiteral("CFBundleShortVersionString"), QStringLiteral("1.1")}});
     EXPECT_EQ(runProgram(QStringLiteral("tar"),
                   {QStringLiteral("-C"), stage, QStringLiteral("-czf"), archive, QFileInfo(bundle).fileName()})
                   .status,
@@ -55,7 +56,7 @@ void UpdatableProduct::letUpdateWait(int version) const
     ASSERT_TRUE(bool(lock));
     ASSERT_TRUE(beginWaitingUpdate(places()).isNone());
     ASSERT_TRUE(archive.copy(places().archive()));
-    const ExpectedUpdate expected{QString::number(version), QStringLiteral("2.0"), key.signatureOf(bytes), bytes.size(),
+    const ExpectedUpdate expected{QString::number(version), QStringLiteral("1.1"), key.signatureOf(bytes), bytes.size(),
         LUMAROO_PLATFORM_VERSION};
     const UpdateProblem problem = completeWaitingUpdate(places(), expected);
     ASSERT_TRUE(problem.isNone()) << problem.detail.toStdString();

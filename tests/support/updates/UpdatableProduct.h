@@ -15,8 +15,12 @@ protected:
     UpdatePlaces places() const { return UpdatePlaces(pane()); }
     /// What stands beside the bundle.
     QStringList beside() const;
-    /// An archive, packed by tar, of the product as it stands here with another version.
+    /// An archive, packed by tar into the maker's folder, of the product as it stands here with another version, which
+    /// people call 1.1.
     QString archiveOf(int version) const;
+    /// What the maker publishes, and what is nobody else's.
+    QString published() const { return maker_.filePath(QStringLiteral("published")); }
+    QString makersOwn(const QString &name) const { return maker_.filePath(name); }
     /// Has an update wait, as a download would.
     void letUpdateWait(int version) const;
     void spoil(const QString &path) const;

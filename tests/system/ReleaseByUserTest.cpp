@@ -1,0 +1,199 @@
+// A release as docs/RELEASING.md walks through it, up to the user, who has the version before: built, packed, signed,
+// told of in a feed, found, installed and running. All programs are the real ones; the user has a keyboard.
+
+#include "KeyPress.h"
+#include "ProgramResult.h"
+#include "RunningPrograms.h"
+#include "ScreenReader.h"
+#include "UpdatableProduct.h"
+#include "Wait.h"
+#include "WebServer.h"
+
+#include "KTXConstants.h"
+#include "platform/foundation/preferences/NSUserDefaults.h"
+#include "platform/foundation/propertylists/PropertyList.h"
+#include "updater/core/UpdateRecord.h"
+
+#include <QDir>
+#include <QFile>
+#include <csignal>
+#include <linux/input-event-codes.h>
+#include <sys/stat.h>
+
+namespace {
+
+QVariantMap domain()
+{
+    return NSUserDefaults::standardUserDefaults()->persistentDomainForName(KTXLMAppID);
+}
+
+ino_t fileOf(const QString &path)
+{
+    struct stat status = {};
+    return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_ino : 0;
+}
+
+class ReleaseByUser : public UpdatableProduct
+{
+protected:
+    ReleaseByUser()
+    {
+        changeInfo(pane(), {{"SUFeedURL", server.url("/appcast_beta.xml").toString()}});
+        NSUserDefaults::standardUserDefaults()->setPersistentDomainForName({}, updaterDomain);
+    }
+
+    static std::string run(const QString &tool, const QStringList &arguments)
+    {
+        const ProgramResult result = runProgram(qEnvironmentVariable("LUMAROO_BUILD") + "/bin/" + tool, arguments);
+        EXPECT_EQ(result.status, 0) << result.errors;
+        return result.output;
+    }
+    void publish(int version)
+    {
+        const QString archive = archiveOf(version);
+        QFile keyFile(makersOwn("key"));
+        ASSERT_TRUE(keyFile.open(QIODevice::WriteOnly));
+        keyFile.write(key.seed());
+        keyFile.close();
+        ASSERT_TRUE(keyFile.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+        run("make-appcast", {"--key", keyFile.fileName(), "--address", server.url("/").toString(), published()});
+        const std::string enclosure = run("sign-update", {"--key", keyFile.fileName(), archive});
+        QFile feed(published() + "/appcast.xml");
+        ASSERT_TRUE(feed.open(QIODevice::ReadOnly));
+        EXPECT_TRUE(feed.readAll().contains(QByteArray::fromStdString(signatureIn(enclosure))));
+    }
+    static std::string signatureIn(const std::string &enclosure)
+    {
+        const size_t start = enclosure.find("edSignature=\"");
+        return enclosure.substr(start, enclosure.find('"', start + 13) - start);
+    }
+
+    void startSettings()
+    {
+        settings = std::make_unique<SettingsProgram>(QStringList{pane()});
+        ASSERT_TRUE(settings->waitForWindows(1));
+    }
+    /// The user's own settings, and an agent that the pane has started.
+    void openForTheFirstTime()
+    {
+        storeOutside(KTXAnimate, false);
+        storeOutside(KTXInitialDelay, 0.75f);
+        startSettings();
+        ASSERT_TRUE(agentStarts());
+        ASSERT_TRUE(waitUntil([this] { return bus.names().contains(KTXLMAgentLaunched); }));
+        ASSERT_TRUE(reader.waitForText(settings->processId(), "Version 1.0 (100)"));
+        settings->settledPicture();
+        before = domain();
+        bus.clear();
+    }
+    void lookForUpdates()
+    {
+        for (int page = 0; page < 3; ++page) {
+            const QImage shown = settings->settledPicture();
+            pressKey(KEY_TAB, {KEY_LEFTCTRL});
+            ASSERT_FALSE(settings->pictureAfterChangeFrom(shown).isNull());
+        }
+        expectToRead("Last successful check: never");
+        pressKey(KEY_N, {KEY_LEFTALT});
+        ASSERT_TRUE(settings->waitForWindows(2));
+        expectToRead("There is a new version: Lumaroo 1.1");
+        settings->settledPicture();
+    }
+    void letUpdateBePrepared()
+    {
+        lookForUpdates();
+        pressKey(KEY_I, {KEY_LEFTALT});
+        expectToRead("Lumaroo 1.1 is ready");
+        settings->settledPicture();
+        EXPECT_EQ(installedVersion(), 100) << "nothing is installed without the user's word";
+    }
+    void expectToRead(const QString &text)
+    {
+        ASSERT_TRUE(reader.waitForText(settings->processId(), text)) << text.toStdString();
+    }
+
+    /// Whether all that the agents announced last is this version, and the one that runs is the installed program.
+    bool agentComesToBe(int version)
+    {
+        return waitUntil([&] {
+            const QList<pid_t> running = agents();
+            return running.size() == 1 && fileOf(QString("/proc/%1/exe").arg(running.first())) == fileOf(agentProgram())
+                && announcedVersions().contains(version);
+        });
+    }
+    QList<int> announcedVersions()
+    {
+        QList<int> versions;
+        for (const BusNotification &notification : bus.notifications()) {
+            if (notification.name == KTXLMAgentLaunched)
+                versions += notification.userInfo.value(KTXLMAgentVersion).toInt();
+        }
+        return versions;
+    }
+    pid_t waitForSettingsOtherThan(pid_t old)
+    {
+        const bool isBack = waitUntil([&] {
+            return hosts().size() == 1 && hosts().first() != old && !desktopWindowsOfProcess(hosts().first()).isEmpty();
+        });
+        return isBack ? hosts().first() : 0;
+    }
+
+    ScreenReader reader;
+    WebServer server{std::nullopt, published()};
+    std::unique_ptr<SettingsProgram> settings;
+    QVariantMap before;
+};
+
+} // namespace
+
+TEST_F(ReleaseByUser, isInstalledWithARestartOfTheSettingsAndOfTheAgent)
+{
+    publish(101);
+    openForTheFirstTime();
+    const pid_t old = pid_t(settings->processId());
+    letUpdateBePrepared();
+    pressKey(KEY_I, {KEY_LEFTALT});
+    EXPECT_EQ(settings->exitStatus(), 0);
+    const pid_t restarted = waitForSettingsOtherThan(old);
+    ASSERT_NE(restarted, 0);
+    EXPECT_TRUE(reader.waitForText(restarted, "Version 1.1 (101)"));
+    EXPECT_EQ(installedVersion(), 101);
+    EXPECT_TRUE(waitUntil([this] { return isEqualPropertyList(domain(), before); })) << "settings are the user's";
+    EXPECT_TRUE(agentComesToBe(101));
+    EXPECT_TRUE(reader.waitForText(restarted, "What is new in Lumaroo")) << "the notes of the new version";
+}
+
+TEST_F(ReleaseByUser, isInstalledLaterWhenTheSettingsHaveBeenClosed)
+{
+    publish(101);
+    openForTheFirstTime();
+    letUpdateBePrepared();
+    pressKey(KEY_L, {KEY_LEFTALT});
+    ASSERT_TRUE(settings->waitForWindows(1));
+    expectToRead("Version 1.1 is ready. It is installed when you close the settings.");
+    EXPECT_EQ(installedVersion(), 100);
+    pressKey(KEY_Q, {KEY_LEFTCTRL});
+    EXPECT_EQ(settings->exitStatus(), 0);
+    EXPECT_TRUE(waitUntil([this] { return installedVersion() == 101; }));
+    startSettings();
+    expectToRead("Version 1.1 (101)");
+    EXPECT_TRUE(isEqualPropertyList(domain(), before));
+    EXPECT_TRUE(agentComesToBe(101));
+}
+
+TEST_F(ReleaseByUser, isInstalledAtTheNextStartWhereTheSettingsAndTheirInstallerWereKilled)
+{
+    publish(101);
+    openForTheFirstTime();
+    letUpdateBePrepared();
+    pressKey(KEY_L, {KEY_LEFTALT});
+    ASSERT_TRUE(settings->waitForWindows(1));
+    killProcessesOf(pane() + "/Contents/Resources/installer");
+    settings->signal(SIGKILL);
+    EXPECT_EQ(settings->exitStatus(), -1);
+    EXPECT_EQ(installedVersion(), 100);
+    startSettings();
+    expectToRead("Version 1.1 (101)");
+    EXPECT_EQ(installedVersion(), 101);
+    EXPECT_TRUE(agentComesToBe(101));
+}
