@@ -10,6 +10,7 @@ class NSBundle;
 class NSTabViewDelegate;
 class NSControlTextEditingDelegate;
 class NSWindowDelegate;
+class QWidget;
 class WebFrameLoadDelegate;
 
 /// An outlet by its name, and how an object of the interface file is put into it; answers false for an object of the
