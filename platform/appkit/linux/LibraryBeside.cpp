@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <dlfcn.h>
+#include <unistd.h>
 
 namespace {
 
@@ -28,4 +29,9 @@ LoadedFunction functionOfLibraryBeside(const char *library, const char *function
     void *handle = ::dlopen(pathBeside(library).constData(), RTLD_NOW | RTLD_LOCAL);
     void *address = handle ? ::dlsym(handle, function) : nullptr;
     return {address, address ? QString() : loadingError()};
+}
+
+bool isLibraryBeside(const char *library)
+{
+    return ::access(pathBeside(library).constData(), R_OK) == 0;
 }

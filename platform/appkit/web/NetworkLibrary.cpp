@@ -1,6 +1,7 @@
 #include "platform/appkit/web/internal/NetworkLibrary.h"
 
 #include "platform/appkit/LibraryBeside.h"
+#include "platform/appkit/web/NSURLConnectionAvailability.h"
 
 NetworkAnswer networkAnswer(const NSMutableURLRequest &request)
 {
@@ -20,4 +21,9 @@ std::unique_ptr<NetworkTransfer> networkTransfer(
     if (!loaded.address)
         return nullptr;
     return std::unique_ptr<NetworkTransfer>(reinterpret_cast<NetworkTransferFunction>(loaded.address)(&request, &end));
+}
+
+bool webRequestsCanBeSent()
+{
+    return isLibraryBeside(LUMAROO_NETWORK_LIBRARY);
 }

@@ -110,6 +110,16 @@ void breakStack()
 #endif
 }
 
+/// The same, by the signal that the second crash has as well.
+void breakStackAndPush()
+{
+#if defined(__x86_64__)
+    __asm__ volatile("xor %%esp, %%esp\n\txor %%ebp, %%ebp\n\tpush %%rax" ::: "memory");
+#elif defined(__aarch64__)
+    __asm__ volatile("mov sp, xzr\n\tmov x29, xzr\n\tstr x0, [sp, #-16]!" ::: "memory");
+#endif
+}
+
 void crashInAChild()
 {
     const pid_t child = fork();
@@ -144,6 +154,7 @@ const std::map<std::string, void (*)()> ways{
     {"thread", crashInAnotherThread},
     {"threads", crashInManyThreads},
     {"stack", breakStack},
+    {"stack-push", breakStackAndPush},
     {"child", crashInAChild},
     {"file-size", crashWithoutRoomForFiles},
     {"other-handler", [] { std::raise(SIGILL); }},

@@ -3,16 +3,23 @@
 #include "platform/foundation/machine/Gestalt.h"
 
 #include <QFile>
+#include <chrono>
+#include <sys/stat.h>
 #include <sys/utsname.h>
 
 namespace {
 
 constexpr qint64 mostRead = 1024 * 1024;
 
+QByteArray pathBelowRoot(const char *path)
+{
+    return qgetenv("LUMAROO_SYSTEM_ROOT") + path;
+}
+
 /// Empty where it cannot be read.
 QByteArray content(const char *path)
 {
-    QFile file(qEnvironmentVariable("LUMAROO_SYSTEM_ROOT") + QString::fromLatin1(path));
+    QFile file(QFile::decodeName(pathBelowRoot(path)));
     return file.open(QIODevice::ReadOnly) ? file.read(mostRead) : QByteArray();
 }
 
@@ -47,6 +54,33 @@ std::optional<quint32> countOfList(const QByteArray &list)
         count += last - first + 1;
     }
     return count;
+}
+
+/// Tells a file that has changed from the same one.
+struct FileVersion
+{
+    QByteArray path;
+    quint64 device = 0;
+    quint64 inode = 0;
+    qint64 size = 0;
+    qint64 changed = 0; ///< nanoseconds since 1970
+    bool isSettled = false; ///< a change from now on would show
+
+    bool operator==(const FileVersion &) const = default;
+};
+
+FileVersion versionOfFile(const char *path)
+{
+    // File times advance in steps, of two seconds on some file systems.
+    constexpr qint64 longestTimeStep = 2'500'000'000;
+    constexpr qint64 nanoseconds = 1'000'000'000;
+    const QByteArray whole = pathBelowRoot(path);
+    struct stat status = {};
+    if (::stat(whole.constData(), &status) != 0)
+        return {};
+    const qint64 changed = status.st_ctim.tv_sec * nanoseconds + status.st_ctim.tv_nsec;
+    const qint64 now = std::chrono::nanoseconds(std::chrono::system_clock::now().time_since_epoch()).count();
+    return {whole, status.st_dev, status.st_ino, status.st_size, changed, now - changed > longestTimeStep};
 }
 
 } // namespace
@@ -86,9 +120,18 @@ std::optional<quint32> processorsInUse()
     return countOfList(textLine("/sys/devices/system/cpu/online"));
 }
 
+/// One answer is asked for in four parts, by each that wants to know the version: a file that is as it was is not read
+/// again.
 std::optional<SystemVersion> systemVersion()
 {
-    return systemVersionOf(content("/etc/os-release"));
+    static FileVersion versionRead;
+    static std::optional<SystemVersion> version;
+    const FileVersion now = versionOfFile("/etc/os-release");
+    if (!now.isSettled || now != versionRead) {
+        version = systemVersionOf(content("/etc/os-release"));
+        versionRead = now;
+    }
+    return version;
 }
 
 std::optional<quint32> processorCode()

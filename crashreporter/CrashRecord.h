@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+/// The newest record of a crash log, which is what follows the last separator; the whole log where there is none.
+///
+/// The log is Unicode in the form that its byte order mark tells, or else UTF-8, or where it is not that, Latin-1.
+QString lastCrashRecord(const QByteArray &log);

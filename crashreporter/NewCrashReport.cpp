@@ -1,0 +1,103 @@
+#include "crashreporter/NewCrashReport.h"
+
+#include "KTXConstants.h"
+#include "crashreporter/CrashRecord.h"
+#include "crashreporter/ProcessorSpeed.h"
+#include "crashreporter/QBCheckForCrash.h"
+#include "crashreporter/QBCrashReporter.h"
+#include "crashreporter/QBSystemInformation.h"
+#include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/crashlogs/CrashLogPlace.h"
+#include "platform/foundation/files/FileContent.h"
+#include "platform/foundation/files/NSDirectoryEnumerator.h"
+#include "platform/foundation/preferences/CFPreferences.h"
+#include "platform/foundation/preferences/NSUserDefaults.h"
+#include "platform/foundation/propertylists/CFTypeID.h"
+#include "platform/foundation/propertylists/Description.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+
+namespace {
+
+constexpr qint64 largestLog = qint64(256) * 1024 * 1024;
+const QString hostIdentifier = QStringLiteral("com.apple.systempreferences");
+
+/// The pane runs in the settings application, whose crashes are looked for.
+bool isPlugIn()
+{
+    return NSBundle::mainBundle()->bundleIdentifier() == hostIdentifier;
+}
+
+QString logPath()
+{
+    quint32 major = 0;
+    quint32 minor = 0;
+    quint32 bugFix = 0;
+    QBGetSystemVersionComponents(&major, &minor, &bugFix);
+    const CrashLogPlace place = crashLogPlace(major, minor);
+    const QString folder = QDir::homePath() + u'/' + place.folder;
+    const QString application =
+        NSBundle::mainBundle()->infoDictionary().value(QStringLiteral("CFBundleExecutable")).toString();
+    return place.form == CrashLogPlace::Form::FileForEach
+        ? QBCrashReporterFindTenFiveCrashReportPath(application, folder)
+        : folder + application + QStringLiteral(".crash.log");
+}
+
+std::optional<QDateTime> dateOfLog(const QString &path)
+{
+    const auto date = fileModificationDate(QFile::encodeName(path));
+    if (path.isNull() || !date)
+        return std::nullopt;
+    const auto milliseconds = std::chrono::floor<std::chrono::milliseconds>(*date).count();
+    return QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC);
+}
+
+/// Up to when crashes have been dealt with: up to now, where nothing else has been said.
+QDateTime rememberedDate()
+{
+    const QVariant stored = CFPreferencesCopyAppValue(QBCrashReporterLastCrashReportDate, KTXLMAppID);
+    if (CFGetTypeID(stored) == CFTypeID::Date)
+        return stored.toDateTime();
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    CFPreferencesSetAppValue(QBCrashReporterLastCrashReportDate, now, KTXLMAppID);
+    return now;
+}
+
+QString recordOf(const QString &path)
+{
+    const auto log = contentOfFile(QFile::encodeName(path), largestLog);
+    return log ? lastCrashRecord(*log) : QStringLiteral("*** Couldn't read Report ***");
+}
+
+QString preferencesOfReportedBundle()
+{
+    const NSBundle *bundle = isPlugIn() ? NSBundle::bundleWithIdentifier(KTXLMAppID) : NSBundle::mainBundle();
+    const QString domain = bundle ? bundle->bundleIdentifier() : QString();
+    return domain.isEmpty() ? description(QVariant())
+                            : description(NSUserDefaults::standardUserDefaults()->persistentDomainForName(domain));
+}
+
+QString reportWith(const QString &record)
+{
+    const QString machine = QBMachineName();
+    return QStringLiteral("Model: %1\nCPU Speed: %2 GHz\n%3\n\nPreferences:\n%4")
+        .arg(machine.isNull() ? description(QVariant()) : machine, processorSpeed(QBCountCores(), QBClockSpeed()),
+            record, preferencesOfReportedBundle());
+}
+
+} // namespace
+
+std::optional<QString> newCrashReport()
+{
+    const QString path = logPath();
+    const std::optional<QDateTime> date = dateOfLog(path);
+    const QDateTime remembered = rememberedDate();
+    if (!date || remembered >= *date)
+        return std::nullopt;
+    const QString report = reportWith(recordOf(path));
+    if (isPlugIn() && !report.contains(QStringLiteral("PlugIn Identifier: ") + KTXLMAppID))
+        return std::nullopt;
+    return report;
+}

@@ -1,0 +1,8 @@
+#include "crashreporter/ProcessorSpeed.h"
+
+QString processorSpeed(quint32 cores, quint32 megahertz)
+{
+    const float gigahertz = float(megahertz) / 1000;
+    const QString prefix = cores == 1 ? QString() : QStringLiteral("%1x ").arg(cores);
+    return prefix + QString::asprintf("%.2f", double(gigahertz));
+}
