@@ -4,6 +4,7 @@
 #include "Wait.h"
 
 #include "KTXConstants.h"
+#include "crashreporter/QBCrashReporter.h"
 #include "platform/foundation/preferences/CFPreferences.h"
 #include "platform/foundation/propertylists/PropertyList.h"
 
@@ -72,7 +73,7 @@ private:
 TEST_F(PaneSettings, anEmptyDomainGetsExactlyTheDefaults)
 {
     pane().readUserPrefs();
-    EXPECT_TRUE(isEqualPropertyList(store().domain(), factoryDomain()))
+    EXPECT_TRUE(isEqualPropertyList(store().domainBesideDateOfCheck(), factoryDomain()))
         << store().domain().keys().join(u' ').toStdString();
 }
 
@@ -130,7 +131,7 @@ TEST_F(PaneSettings, keysThePaneDoesNotKnowStayAsTheyAre)
     showPane();
     QVariantMap expected = factoryDomain();
     expected.insert(foreign);
-    EXPECT_TRUE(isEqualPropertyList(store().domain(), expected));
+    EXPECT_TRUE(isEqualPropertyList(store().domainBesideDateOfCheck(), expected));
 }
 
 TEST_F(PaneSettings, showingThePaneWhileTheFileCannotBeReadChangesNoneOfTheSettings)
@@ -149,9 +150,9 @@ TEST_F(PaneSettings, showingThePaneWhileTheFileCannotBeReadChangesNoneOfTheSetti
     ASSERT_TRUE(QFile::setPermissions(StoreOnDisk::path(), QFile::ReadOwner | QFile::WriteOwner));
     const CapturedLog log;
     EXPECT_TRUE(CFPreferencesAppSynchronize(KTXLMAppID));
-    EXPECT_TRUE(isEqualPropertyList(store().domain(), chosen));
+    EXPECT_TRUE(isEqualPropertyList(store().domainBesideDateOfCheck(), chosen));
     pane().willSelect();
-    EXPECT_TRUE(isEqualPropertyList(store().domain(), chosen));
+    EXPECT_TRUE(isEqualPropertyList(store().domainBesideDateOfCheck(), chosen));
     EXPECT_TRUE(isShown("animateButton"));
     EXPECT_EQ(log.linesContaining(QStringLiteral("what is stored stays for")).size(), 1);
 }
@@ -173,7 +174,7 @@ TEST_F(PaneSettings, aDomainOfNothingButWrongTypesIsRepairedWhereItIsCheckedAndE
     QVariantMap expected = wrong;
     expected.insert({{KTXModifierMask, qlonglong(0x1800)}, {KTXHWrap, true}, {KTXVWrap, true},
         {KTXHSort, firstSelected}, {KTXVSort, firstSelected}});
-    EXPECT_TRUE(isEqualPropertyList(store().domain(), expected));
+    EXPECT_TRUE(isEqualPropertyList(store().domainBesideDateOfCheck(), expected));
     EXPECT_EQ(*pane().keyCodes(), (QList<VirtualKeyCode>{126, 124, 125, 123, 44, 43, 1, 13, 49, 53, 36}));
     EXPECT_TRUE(isShown("animateButton"));
     EXPECT_FALSE(isShown("keyRepeatButton"));
@@ -245,7 +246,7 @@ TEST_F(PaneSettings, readingAnnouncesOnceAndAfterTheFileHoldsEverything)
     observe(&SystemCalls::rename, [&] { announcedAtWriting += bus().names(); });
     pane().readUserPrefs();
     EXPECT_EQ(announcedAtWriting, QList<QStringList>(2)) << "written twice, and not announced before";
-    EXPECT_TRUE(isEqualPropertyList(store().domain(), factoryDomain()));
+    EXPECT_TRUE(isEqualPropertyList(store().domainBesideDateOfCheck(), factoryDomain()));
     EXPECT_EQ(bus().names(), QStringList{KTXLMPrefsChanged});
 }
 
@@ -257,9 +258,10 @@ TEST_F(PaneSettings, defaultsThatCannotBeWrittenAreTriedAgainBeforeTheSortOrders
     observe(&SystemCalls::rename, [&] { storedBeforeWriting += store().domain().keys(); });
     const CapturedLog log;
     pane().readUserPrefs();
-    const QStringList firstDefaults{KTXAnimate, KTXAutoRepeat, KTXInitialDelay, KTXRepeatRate};
+    const QStringList firstDefaults{
+        KTXAnimate, QBCrashReporterLastCrashReportDate, KTXAutoRepeat, KTXInitialDelay, KTXRepeatRate};
     EXPECT_EQ(storedBeforeWriting, (QList<QStringList>{{}, {}, firstDefaults}));
-    EXPECT_TRUE(isEqualPropertyList(store().domain(), factoryDomain()));
+    EXPECT_TRUE(isEqualPropertyList(store().domainBesideDateOfCheck(), factoryDomain()));
     EXPECT_EQ(log.lines().size(), 1);
 }
 
@@ -286,6 +288,6 @@ TEST_F(PaneSettings, keysThePaneOnlyReadsOutlastAShowingWhileTheFileCannotBeRead
     showPane();
     QVariantMap expected = factoryDomain();
     expected.insert(onlyRead);
-    EXPECT_TRUE(isEqualPropertyList(store().domain(), expected));
+    EXPECT_TRUE(isEqualPropertyList(store().domainBesideDateOfCheck(), expected));
     EXPECT_EQ(shownKey(0), QStringLiteral("Q"));
 }

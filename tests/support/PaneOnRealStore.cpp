@@ -5,6 +5,7 @@
 #include "Wait.h"
 
 #include "KTXConstants.h"
+#include "crashreporter/QBCrashReporter.h"
 #include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/preferences/CFPreferences.h"
 #include "platform/foundation/preferences/NSUserDefaults.h"
@@ -142,6 +143,13 @@ void StoreOnDisk::set(const QVariantMap &domain) const
 QVariantMap StoreOnDisk::domain() const
 {
     return readPropertyList(contentOf(path())).value.toMap();
+}
+
+QVariantMap StoreOnDisk::domainBesideDateOfCheck() const
+{
+    QVariantMap values = domain();
+    EXPECT_EQ(values.take(QBCrashReporterLastCrashReportDate).typeId(), QMetaType::QDateTime);
+    return values;
 }
 
 PaneOnRealStore::PaneOnRealStore() : bundle_(QStringLiteral("Lumaroo.prefPane"))

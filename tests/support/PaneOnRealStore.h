@@ -60,6 +60,8 @@ public:
     /// What the file itself holds.
     QVariantMap domain() const;
     QVariant value(const QString &key) const { return domain().value(key); }
+    /// The same, but for the date that the pane's first check for a crash has left there.
+    QVariantMap domainBesideDateOfCheck() const;
 };
 
 /// A pane on a store, a bus and an interface file that are real, all cleared for each test.
