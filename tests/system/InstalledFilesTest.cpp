@@ -100,11 +100,17 @@ TEST_F(InstalledFiles, thePaneHasTheAgentAndTheLibraryItRunsWith)
             QString("share/dbus-1/interfaces/com.quorvane.LumarooAgent.xml")}));
 }
 
-TEST_F(InstalledFiles, whatAsksForWebPagesLiesBesideTheLibraryThatLoadsIt)
+TEST_F(InstalledFiles, whatAsksForWebPagesAndShowsHelpLiesBesideTheLibraryThatLoadsIt)
 {
     EXPECT_THAT(files(),
-        testing::IsSupersetOf(
-            {QString("lib/lumaroo/liblumaroo-appkit.so.1"), QString("lib/lumaroo/liblumaroo-network.so.1")}));
+        testing::IsSupersetOf({QString("lib/lumaroo/liblumaroo-appkit.so.1"),
+            QString("lib/lumaroo/liblumaroo-network.so.1"), QString("lib/lumaroo/liblumaroo-help.so.1")}));
+}
+
+TEST_F(InstalledFiles, thePaneHasItsHelpBookInEachLanguage)
+{
+    const QString book = "lib/lumaroo/PreferencePanes/Lumaroo.prefPane/Contents/Resources/Lumaroo.help/";
+    EXPECT_THAT(files(), testing::IsSupersetOf({book + "en.lproj/Help.qch", book + "de.lproj/Help.qch"}));
 }
 
 TEST_F(InstalledFiles, theUpdaterLiesInThePanesBundle)

@@ -4,7 +4,7 @@
 
 #include <QEvent>
 #include <QScrollBar>
-#include <QTextDocumentFragment>
+#include <QTextBlock>
 #include <QWheelEvent>
 
 namespace {
@@ -12,7 +12,8 @@ namespace {
 constexpr int smallestZoom = 60;
 constexpr int largestZoom = 300;
 constexpr int narrowestMargin = 24;
-constexpr int widestColumnInLetters = 78;
+constexpr int widestColumnInLetters = 100;
+constexpr int naturalWidth = QTextFormat::UserProperty;
 
 /// What every book looks like. Colours come from the palette, and sizes from the theme's text.
 QString pageStyle(const QPalette &palette)
@@ -22,11 +23,15 @@ QString pageStyle(const QPalette &palette)
                           "h2 { font-size: x-large; margin-top: 24px; margin-bottom: 8px; }"
                           "h3 { font-size: large; margin-top: 18px; margin-bottom: 6px; }"
                           "p, dd, dl { margin-top: 0px; margin-bottom: 10px; }"
+                          "table { margin-top: 4px; margin-bottom: 14px; }"
+                          "ul, ol { margin-top: 0px; margin-bottom: 10px; }"
                           "li { margin-top: 0px; margin-bottom: 5px; }"
+                          "p, li, dd, dt { line-height: 125%; }"
                           "a { color: %1; }"
+                          "pre { background-color: %3; margin-top: 4px; margin-bottom: 12px; }"
                           "pre, code, tt { font-family: monospace; }"
                           ".detail { color: %2; }")
-        .arg(palette.color(QPalette::Link).name(), quiet);
+        .arg(palette.color(QPalette::Link).name(), quiet, palette.color(QPalette::AlternateBase).name());
 }
 
 QColor markColor(const QPalette &palette)
@@ -155,12 +160,50 @@ void HelpPage::setColumn()
     const int widest = letters.averageCharWidth() * widestColumnInLetters;
     const int margin = qMax(narrowestMargin, (viewport()->width() - widest) / 2);
     QTextFrameFormat format = document()->rootFrame()->frameFormat();
-    if (qRound(format.leftMargin()) == margin)
-        return;
     format.setLeftMargin(margin);
     format.setRightMargin(margin);
     format.setBottomMargin(narrowestMargin);
-    document()->rootFrame()->setFrameFormat(format);
+    if (format != document()->rootFrame()->frameFormat())
+        document()->rootFrame()->setFrameFormat(format);
+    fitPictures(viewport()->width() - 2 * margin - 2 * int(document()->documentMargin()));
+}
+
+void HelpPage::fitPictures(int room)
+{
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            if (part.fragment().charFormat().isImageFormat())
+                fitPicture(part.fragment(), room);
+        }
+    }
+}
+
+void HelpPage::fitPicture(const QTextFragment &place, int room)
+{
+    QTextImageFormat format = place.charFormat().toImageFormat();
+    const double natural = format.hasProperty(naturalWidth) ? format.doubleProperty(naturalWidth) : widthOf(format);
+    const double width = qMin<double>(room, natural * zoom_ / 100);
+    if (natural <= 0 || qFuzzyCompare(format.width(), width))
+        return;
+    QTextCursor picture(document());
+    picture.setPosition(place.position());
+    // The room between lines of text is none below a picture.
+    QTextBlockFormat line;
+    line.setLineHeight(0, QTextBlockFormat::SingleHeight);
+    picture.mergeBlockFormat(line);
+    format.setProperty(naturalWidth, natural);
+    format.setWidth(width);
+    // Its height follows.
+    format.clearProperty(QTextFormat::ImageHeight);
+    picture.setPosition(place.position() + place.length(), QTextCursor::KeepAnchor);
+    picture.setCharFormat(format);
+}
+
+double HelpPage::widthOf(const QTextImageFormat &format) const
+{
+    if (format.width() > 0)
+        return format.width();
+    return QImage::fromData(book_ ? book_->file(file_.resolved(QUrl(format.name()))) : QByteArray()).width();
 }
 
 void HelpPage::wheelEvent(QWheelEvent *event)

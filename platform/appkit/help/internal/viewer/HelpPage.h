@@ -4,6 +4,8 @@
 #include <functional>
 
 class HelpCollection;
+class QTextFragment;
+class QTextImageFormat;
 
 /// Shows the pages of a help book in the colours of the user's theme, in a column of a readable width. Nothing but the
 /// book's own files is ever loaded: neither page nor picture.
@@ -51,6 +53,9 @@ private:
     void setLooks();
     void redraw();
     void setColumn();
+    void fitPictures(int room);
+    void fitPicture(const QTextFragment &place, int room);
+    double widthOf(const QTextImageFormat &format) const;
 
     static constexpr int zoomStep = 10;
 

@@ -23,6 +23,17 @@ QListWidgetItem *itemFor(const FoundPage &page)
     return item;
 }
 
+/// Rows that are easy to hit.
+class RoomyRows : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 10);
+    }
+};
+
 /// The entry that leads to a place: to the very anchor, else to its page.
 QModelIndex entryOf(const QHelpContentModel *model, const QUrl &place, QUrl::FormattingOptions comparing)
 {
@@ -49,10 +60,18 @@ HelpSidebar::HelpSidebar(QWidget *parent) : QStackedWidget(parent), contents_(ne
     contents_->setHeaderHidden(true);
     contents_->setFrameShape(QFrame::NoFrame);
     contents_->setUniformRowHeights(true);
-    contents_->setIndentation(14);
+    contents_->setIndentation(16);
+    contents_->setRootIsDecorated(false);
+    contents_->setItemDelegate(new RoomyRows(contents_));
+    // One step off the page's ground.
+    contents_->viewport()->setBackgroundRole(QPalette::Window);
     connect(contents_, &QTreeView::activated, this, &HelpSidebar::chooseContent);
     connect(contents_, &QTreeView::clicked, this, &HelpSidebar::chooseContent);
-    addWidget(contents_);
+    auto *page = new QWidget(this);
+    auto *layout = new QVBoxLayout(page);
+    layout->setContentsMargins(8, 8, 0, 0);
+    layout->addWidget(contents_);
+    addWidget(page);
     addWidget(makeResults());
 }
 
@@ -69,6 +88,7 @@ QWidget *HelpSidebar::makeResults()
     results_->setAccessibleName(helpText(QStringLiteral("Pages found")));
     results_->setFrameShape(QFrame::NoFrame);
     results_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    results_->viewport()->setBackgroundRole(QPalette::Window);
     results_->setResizeMode(QListView::Adjust);
     results_->setItemDelegate(new FoundPageDelegate(results_));
     const auto choose = [this](const QListWidgetItem *item) {
@@ -102,7 +122,7 @@ void HelpSidebar::setBook(const HelpCollection *book)
 
 void HelpSidebar::takeContents()
 {
-    contents_->expandToDepth(0);
+    contents_->expandAll();
     setCurrentPlace(place_);
     Q_EMIT contentsRead();
 }

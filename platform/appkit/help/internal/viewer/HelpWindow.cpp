@@ -8,7 +8,7 @@
 #include "platform/appkit/help/internal/viewer/HelpText.h"
 #include "platform/foundation/system/NSLog.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
@@ -40,7 +40,6 @@ HelpWindow::HelpWindow()
       notice_(new QLabel(this))
 {
     setObjectName(QStringLiteral("helpWindow"));
-    setWindowIcon(QIcon::fromTheme(QGuiApplication::desktopFileName()));
     // The program ends with its own window, not with this one.
     setAttribute(Qt::WA_QuitOnClose, false);
     auto *parts = new QSplitter(this);
@@ -129,6 +128,8 @@ void HelpWindow::addShortcuts()
 
 void HelpWindow::open(const HelpRequest &request)
 {
+    if (const QWidget *asking = QApplication::activeWindow(); asking && asking != this)
+        setWindowIcon(asking->windowIcon());
     openURL_ = request.openURL;
     header_->search->clear();
     openBook(request.book);
