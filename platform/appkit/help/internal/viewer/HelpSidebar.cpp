@@ -7,6 +7,7 @@
 #include <QHelpContentModel>
 #include <QLabel>
 #include <QListWidget>
+#include <QToolTip>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -23,7 +24,7 @@ QListWidgetItem *itemFor(const FoundPage &page)
     return item;
 }
 
-/// Rows that are easy to hit.
+/// Rows that are easy to hit, and tell their whole title where it does not fit.
 class RoomyRows : public QStyledItemDelegate
 {
 public:
@@ -31,6 +32,13 @@ public:
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
         return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 10);
+    }
+    bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
+        const QModelIndex &index) override
+    {
+        const bool fits = sizeHint(option, index).width() <= option.rect.width();
+        QToolTip::showText(event->globalPos(), fits ? QString() : index.data().toString(), view);
+        return true;
     }
 };
 
