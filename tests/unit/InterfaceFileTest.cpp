@@ -84,6 +84,23 @@ TEST_F(InterfaceFile, anUnknownClassThatExtendsAKnownOneIsThatOne)
     EXPECT_TRUE(interface.find<QCheckBox>("strange"));
 }
 
+TEST_F(InterfaceFile, aClassOfItsOwnersIsMadeByItForTheBundle)
+{
+    QString madeFor;
+    interface.owner.classes = {{"Owners", [&madeFor](QWidget *parent, const NSBundle *bundle) {
+                                    madeFor = bundle->bundlePath();
+                                    return new QCheckBox("as made", parent);
+                                }}};
+    interface.load(
+        R"(<widget class="Owners" name="own"><property name="checked"><bool>true</bool></property></widget>)");
+    const auto *own = interface.find<QCheckBox>("own");
+    ASSERT_TRUE(own);
+    EXPECT_EQ(own->text(), "as made");
+    EXPECT_EQ(own->parentWidget(), interface.root);
+    EXPECT_EQ(madeFor, NSBundle::bundleWithPath(interface.bundle.path())->bundlePath());
+    EXPECT_EQ(log.lines(), QStringList());
+}
+
 TEST_F(InterfaceFile, classesThatExtendOneAnotherInACircleBecomeAPlainView)
 {
     interface.load(R"(<widget class="A" name="strange"/>)",
