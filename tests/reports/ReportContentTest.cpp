@@ -1,5 +1,6 @@
 // What the report window shows when it comes up.
 
+#include "AccountsServiceStandIn.h"
 #include "ReportWindow.h"
 #include "Wait.h"
 
@@ -56,6 +57,22 @@ TEST_F(ReportContent, theMessageNamesTheUserEachTimeAndSaysThatNoAddressIsKnown)
     click("discardButton");
     ASSERT_TRUE(openFeedback());
     EXPECT_EQ(text("informationField"), QString("words of %1, %1 at nowhere, nowhere").arg(user));
+}
+
+TEST_F(ReportContent, theMessageNamesTheUsersAddressEachTime)
+{
+    AccountsServiceStandIn service;
+    service.setEmail("someone@lumaroo.example");
+    // On a machine that is busy enough the service may be late for the first window.
+    EXPECT_TRUE(waitUntil([this] {
+        openFeedback();
+        const QString message = text("informationField");
+        click("discardButton");
+        return message.endsWith(" at someone@lumaroo.example, someone@lumaroo.example");
+    }));
+    service.setEmail("");
+    ASSERT_TRUE(openCrash());
+    EXPECT_TRUE(text("informationField").endsWith(" at nowhere, nowhere"));
 }
 
 TEST_F(ReportContent, aCrashReportStandsOnTheSecondPageToTheLastCharacter)

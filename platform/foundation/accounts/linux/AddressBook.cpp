@@ -14,11 +14,17 @@ const QString userInterface = QStringLiteral("org.freedesktop.Accounts.User");
 const QString connectionName = QStringLiteral("lumaroo-accounts");
 constexpr int longestWait = 300; // ms, for everything
 
+/// Where the system's bus is. (The bus library asks the environment once in a process.)
+QString systemBus()
+{
+    return qEnvironmentVariable("DBUS_SYSTEM_BUS_ADDRESS", QStringLiteral("unix:path=/var/run/dbus/system_bus_socket"));
+}
+
 /// Asks the accounts service, on a connection that lives no longer than the question.
 class AccountsService
 {
 public:
-    AccountsService() : bus_(QDBusConnection::connectToBus(QDBusConnection::SystemBus, connectionName)) { }
+    AccountsService() : bus_(QDBusConnection::connectToBus(systemBus(), connectionName)) { }
     ~AccountsService() { QDBusConnection::disconnectFromBus(connectionName); }
     Q_DISABLE_COPY_MOVE(AccountsService)
 
@@ -53,7 +59,10 @@ std::optional<QString> AccountsService::emailOfUser(uid_t user)
     QDBusMessage whichEmail = QDBusMessage::createMethodCall(
         service, path, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
     whichEmail << userInterface << QStringLiteral("Email");
-    return answerTo(whichEmail).value<QDBusVariant>().variant().toString().trimmed();
+    const QVariant email = answerTo(whichEmail);
+    if (!email.isValid())
+        return {};
+    return email.value<QDBusVariant>().variant().toString().trimmed();
 }
 
 } // namespace
