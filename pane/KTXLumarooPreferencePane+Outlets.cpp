@@ -72,5 +72,6 @@ QList<ActionEntry> KTXLumarooPreferencePane::actions()
         {QStringLiteral("displayHelp:"), [this](QObject *sender) { displayHelp(sender); }},
         {QStringLiteral("visit:"), [this](QObject *sender) { visit(sender); }},
         {QStringLiteral("feedback:"), [this](QObject *sender) { feedback(sender); }},
+        {QStringLiteral("orderFrontFeedbackWindow:"), [this](QObject *sender) { orderFrontFeedbackWindow(sender); }},
     };
 }

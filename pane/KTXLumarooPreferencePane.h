@@ -88,6 +88,7 @@ public:
     void launchURL(const QUrl &url);
     void visit(QObject *sender);
     void feedback(QObject *sender);
+    void orderFrontFeedbackWindow(QObject *sender);
     void webViewDidStartProvisionalLoadForFrame(WebView *webView, WebFrame *frame) override;
 
 protected: // privateMethods

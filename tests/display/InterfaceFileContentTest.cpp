@@ -59,6 +59,7 @@ const ExpectedControl controls[] = {
     {3, "checkForUpdatesButton", "QPushButton", noTag, "checkForUpdates:"},
     {4, "visitButton", "QPushButton", noTag, "visit:"},
     {4, "feedbackButton", "QPushButton", noTag, "feedback:"},
+    {5, "messageButton", "QPushButton", noTag, "orderFrontFeedbackWindow:"},
 };
 
 struct ExpectedOutlet

@@ -44,7 +44,7 @@ QStringList actionsOfThePane()
         QStringLiteral("enableChecked:"), QStringLiteral("updatePersistentState:"), QStringLiteral("changeSlider:"),
         QStringLiteral("updateColorInfo:"), QStringLiteral("useSystemColor:"), QStringLiteral("checkForUpdates:"),
         QStringLiteral("autoUpdateChecked:"), QStringLiteral("hideBetaNotes:"), QStringLiteral("visit:"),
-        QStringLiteral("feedback:")};
+        QStringLiteral("feedback:"), QStringLiteral("orderFrontFeedbackWindow:")};
 }
 
 LoadedWindow::LoadedWindow(const QString &language) : bundle_(QStringLiteral("Window.prefPane"))

@@ -444,8 +444,12 @@
         <translation>&amp;Webseite besuchen</translation>
     </message>
     <message>
-        <source>Send &amp;feedback</source>
-        <translation>&amp;Rückmeldung senden</translation>
+        <source>&amp;Feedback on the web</source>
+        <translation>&amp;Rückmeldung im Web</translation>
+    </message>
+    <message>
+        <source>Send &amp;feedback…</source>
+        <translation>&amp;Rückmeldung senden…</translation>
     </message>
     <message>
         <source>Help about using Lumaroo without a mouse</source>
