@@ -39,6 +39,7 @@ constexpr Reason reasons[] = {
     {SIGFPE, FPE_INTOVF, "overflow"},
     {SIGTRAP, TRAP_BRKPT, "breakpoint"},
     {SIGSYS, byFilter, "a system call that is not allowed"},
+    {SIGABRT, SI_TKILL, "the program gave up"},
 };
 
 bool isSent(const siginfo_t &information)
@@ -63,9 +64,7 @@ const char *signalReason(const siginfo_t &information)
         if (reason.signal == information.si_signo && reason.code == information.si_code)
             return reason.text;
     }
-    if (isSent(information))
-        return information.si_signo == SIGABRT ? "the program gave up" : "sent by a program";
-    return "no reason known";
+    return isSent(information) ? "sent by a program" : "no reason known";
 }
 
 bool hasFaultAddress(const siginfo_t &information)
