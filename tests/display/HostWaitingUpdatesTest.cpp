@@ -18,10 +18,7 @@ class ABundleWithAnInstaller : public testing::Test
 protected:
     void SetUp() override { letInstaller("echo \"$@\" >\"$1/installed\"\n"); }
 
-    void letInstaller(const QByteArray &script) const
-    {
-        sample.writeScript("Contents/Resources/installer", script);
-    }
+    void letInstaller(const QByteArray &script) const { sample.writeScript("Contents/Resources/installer", script); }
     QString path() const { return QFileInfo(sample.path()).canonicalFilePath(); }
     void putBeside(const QString &what) const { ASSERT_TRUE(QDir().mkdir(pathBesideBundle(path(), what))); }
     QByteArray installed() const

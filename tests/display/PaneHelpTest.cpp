@@ -43,10 +43,7 @@ protected:
         pane().displayHelp(&button);
     }
     static QVariantMap book(const QString &name) { return {{QStringLiteral("id"), name}}; }
-    QVariantMap ownBook() const
-    {
-        return {{QStringLiteral("id"), ownName}, {QStringLiteral("path"), bundle().path()}};
-    }
+    QVariantMap ownBook() const { return {{QStringLiteral("id"), ownName}, {QStringLiteral("path"), bundle().path()}}; }
     /// What is registered, with what is not flushed yet.
     static QVariant registered()
     {

@@ -52,8 +52,8 @@ TEST_F(RegisteringABook, comesAfterTheBundlesOtherBooks)
 {
     setRegisteredBooks(QVariantMap{{"com.quorvane.Test", QVariantList{entry("Old Help", "/old")}}});
     EXPECT_EQ(bundle.registerBook(), noErr);
-    EXPECT_EQ(registeredBooksOnDisk().value("com.quorvane.Test").toList(),
-        (QVariantList{entry("Old Help", "/old"), own()}));
+    EXPECT_EQ(
+        registeredBooksOnDisk().value("com.quorvane.Test").toList(), (QVariantList{entry("Old Help", "/old"), own()}));
 }
 
 TEST_F(RegisteringABook, thatIsRegisteredKeepsItsPlaceAndLearnsWhereItIsNow)
@@ -61,8 +61,8 @@ TEST_F(RegisteringABook, thatIsRegisteredKeepsItsPlaceAndLearnsWhereItIsNow)
     setRegisteredBooks(
         QVariantMap{{"com.quorvane.Test", QVariantList{entry("Test Help", "/old"), entry("Old Help", "/old")}}});
     EXPECT_EQ(bundle.registerBook(), noErr);
-    EXPECT_EQ(registeredBooksOnDisk().value("com.quorvane.Test").toList(),
-        (QVariantList{own(), entry("Old Help", "/old")}));
+    EXPECT_EQ(
+        registeredBooksOnDisk().value("com.quorvane.Test").toList(), (QVariantList{own(), entry("Old Help", "/old")}));
 }
 
 TEST_F(RegisteringABook, replacesWhatIsNoListOfBooks)
