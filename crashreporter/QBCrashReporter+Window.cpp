@@ -109,6 +109,9 @@ void QBCrashReporter::orderFront()
 {
     if (reportWindow_)
         reportWindow_.get()->installEventFilter(this);
+    // Below the template, where the user writes.
+    if (NSTextView *field = informationField_.get())
+        field->moveCursor(QTextCursor::End);
     setLevel(reportWindow_.get(), CGWindowLevelForKey(kCGModalPanelWindowLevelKey));
     makeKeyAndOrderFront(reportWindow_.get());
 }
