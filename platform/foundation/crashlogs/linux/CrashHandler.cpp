@@ -13,7 +13,6 @@
 #include <sys/mman.h>
 #include <sys/syscall.h>
 #include <unistd.h>
-#include <unwind.h>
 
 namespace {
 
@@ -152,8 +151,6 @@ void installCrashHandler(const CrashLogFacts &facts)
 {
     programFacts = facts;
     program = ::getpid();
-    // The first time finds its parts, which takes locks.
-    _Unwind_Backtrace([](_Unwind_Context *, void *) { return _URC_END_OF_STACK; }, nullptr);
     makeStack();
     handleSignals();
     previousTerminate = std::set_terminate(handleUncaughtException);

@@ -1,6 +1,5 @@
 #include "platform/foundation/machine/internal/SystemVersion.h"
 
-#include <QRegularExpression>
 #include <algorithm>
 #include <limits>
 
@@ -29,22 +28,44 @@ QByteArray versionLine(const QByteArray &osRelease)
     return value;
 }
 
-quint32 number(const QString &digits)
+constexpr bool isDigit(char character)
 {
+    return character >= '0' && character <= '9';
+}
+
+/// Takes the number at the beginning of `text`; none where there is no digit.
+std::optional<quint32> takeNumber(QByteArray &text)
+{
+    const auto end = std::find_if_not(text.cbegin(), text.cend(), isDigit);
+    const QByteArray digits = text.first(end - text.cbegin());
+    text.remove(0, digits.size());
     bool fits = true;
-    const quint32 value = digits.isEmpty() ? 0 : digits.toUInt(&fits);
+    const quint32 value = digits.toUInt(&fits);
+    if (digits.isEmpty())
+        return std::nullopt;
     return fits ? value : std::numeric_limits<quint32>::max();
+}
+
+/// The same behind a dot; 0 where there is none.
+quint32 takePart(QByteArray &text)
+{
+    QByteArray behindDot = text.mid(1);
+    const auto part = text.startsWith('.') ? takeNumber(behindDot) : std::nullopt;
+    text = part ? behindDot : QByteArray();
+    return part.value_or(0);
 }
 
 } // namespace
 
 std::optional<SystemVersion> systemVersionOf(const QByteArray &osRelease)
 {
-    static const QRegularExpression form(QStringLiteral("^([0-9]+)(?:\\.([0-9]+)(?:\\.([0-9]+))?)?"));
-    const auto parts = form.match(QString::fromUtf8(versionLine(osRelease)));
-    if (!parts.hasMatch())
+    // By hand: regular expressions would bring their library into the memory of programs that have none.
+    QByteArray version = versionLine(osRelease);
+    const auto major = takeNumber(version);
+    if (!major)
         return std::nullopt;
-    return SystemVersion{number(parts.captured(1)), number(parts.captured(2)), number(parts.captured(3))};
+    const quint32 minor = takePart(version);
+    return SystemVersion{*major, minor, takePart(version)};
 }
 
 quint32 packedSystemVersion(const SystemVersion &version)
