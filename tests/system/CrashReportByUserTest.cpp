@@ -242,3 +242,22 @@ TEST_F(CrashReportByUser, anAgentsCrashLeavesALogAndIsNotOffered)
     EXPECT_FALSE(log.contains("PlugIn"));
     EXPECT_TRUE(opensWithoutReport());
 }
+
+TEST_F(CrashReportByUser, nothingIsLookedForWhereNothingCanBeSent)
+{
+    // The libraries but the one that sends.
+    const QTemporaryDir libraries;
+    for (const char *name : {"liblumaroo-foundation.so.1", "liblumaroo-appkit.so.1"})
+        ASSERT_TRUE(QFile::copy(qEnvironmentVariable("LUMAROO_BUILD") + "/lib/" + name, libraries.filePath(name)));
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("LD_LIBRARY_PATH", libraries.path());
+    HostProgram host(HostProgram::builtExecutable(), {pane()}, environment, home());
+    ASSERT_TRUE(waitUntil([] { return openWindowTitles().contains("Lumaroo"); }));
+    host.signal(SIGTERM);
+    EXPECT_EQ(host.exitStatus(), 0);
+    EXPECT_FALSE(remembered().isValid());
+    open();
+    ASSERT_TRUE(settings->waitForWindows(1));
+    quit();
+    EXPECT_TRUE(remembered().isValid()) << "with it, a check leaves its date";
+}
