@@ -14,6 +14,9 @@ public:
     /// Says nothing, and leaves the connection open.
     static inline const QByteArray silence;
 
+    /// Ends the connection without a word.
+    static inline const QByteArray hangUp = QByteArrayLiteral("hang up");
+
     /// `answers` go to one request each, the last one to all that follow; the connection ends with each.
     explicit ReportServer(const QList<QByteArray> &answers = {ok}) : answers_(answers)
     {
@@ -66,7 +69,8 @@ private:
         requests += request;
         if (answer.isEmpty())
             return;
-        socket->write(answer);
+        if (answer != hangUp)
+            socket->write(answer);
         socket->disconnectFromHost();
     }
 

@@ -51,8 +51,9 @@ public:
     /// it without a word.
     ///
     /// Any status is an answer, of which nothing else is told; the redirections 301 to 303 are followed by a GET. No
-    /// more than 1 MiB of a body is received. What nothing happens with for the request's time fails. The log has the
-    /// cause of a failure in the toolkit's words.
+    /// more than 1 MiB of a body is received. What nothing happens with for the request's time fails. A server that
+    /// hangs up without a word may be sent the same once more. The log has the cause of a failure in the toolkit's
+    /// words.
     static std::unique_ptr<NSURLConnection> connectionWithRequestDelegate(
         const NSMutableURLRequest &request, NSURLConnectionDelegate *delegate);
     ~NSURLConnection();
