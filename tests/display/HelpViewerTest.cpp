@@ -4,6 +4,7 @@
 #include "HelpViewerOnDisplay.h"
 
 #include <QLabel>
+#include <QScrollBar>
 #include <QToolButton>
 #include <QTreeView>
 #include <gmock/gmock.h>
@@ -122,14 +123,32 @@ TEST_F(TheHelpViewer, followsNoLinkOutOfTheBookElsewhere)
         clickOnLink(link);
         runPendingEvents();
         EXPECT_EQ(helpPlace(), "weather.html") << link;
+        EXPECT_FALSE(partOfHelp("helpNotice")->isVisible()) << link;
     }
     EXPECT_EQ(browser.pages(), QStringList());
+}
+
+TEST_F(TheHelpViewer, drawsPicturesWithTheTextAndNoWiderThanItsColumn)
+{
+    openAt("gallery", "gallery.html");
+    const int natural = 640;
+    openHelp()->resize(1200, 700);
+    ASSERT_TRUE(waitUntil([&] { return widthOfGreen() == qMin(natural, columnWidth()); }));
+    openHelp()->resize(600, 700);
+    EXPECT_TRUE(waitUntil([&] { return openHelp()->width() == 600 && widthOfGreen() == columnWidth(); }));
+    EXPECT_EQ(helpPage()->horizontalScrollBar()->maximum(), 0);
+    openHelp()->resize(1200, 700);
+    for (int step = 0; step < 5; ++step)
+        pressKey(KEY_MINUS, {KEY_LEFTCTRL});
+    EXPECT_TRUE(waitUntil([&] { return widthOfGreen() == natural * 60 / 100; })) << widthOfGreen();
+    pressKey(KEY_0, {KEY_LEFTCTRL});
+    EXPECT_TRUE(waitUntil([&] { return widthOfGreen() == qMin(natural, columnWidth()); }));
 }
 
 TEST_F(TheHelpViewer, loadsPicturesOfTheBookAndNoOthers)
 {
     openAt("nowhere", "index.html");
-    EXPECT_TRUE(waitUntil([] { return greenIsInSight(); }));
+    EXPECT_TRUE(waitUntil([] { return widthOfGreen() == 40; }));
     for (const char *address : {"http://127.0.0.1:9/remote.png", "file:///etc/passwd", "/etc/passwd",
              "../../etc/passwd", "qthelp://com.quorvane.other/lumaroo/index.html"})
         EXPECT_TRUE(helpPage()->loadResource(QTextDocument::ImageResource, QUrl(address)).toByteArray().isEmpty())

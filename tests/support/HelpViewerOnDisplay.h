@@ -38,12 +38,23 @@ protected:
         const QTextCursor place = page->document()->find(text);
         return !place.isNull() && page->viewport()->rect().contains(page->cursorRect(place));
     }
-    /// The colour of the book's picture.
-    static bool greenIsInSight()
+    /// The longest row of pixels in the colour of the book's pictures.
+    static int widthOfGreen()
     {
         const QImage picture = helpPage()->viewport()->grab().toImage().convertToFormat(QImage::Format_RGB32);
-        const auto *pixels = reinterpret_cast<const QRgb *>(picture.constBits());
-        return std::count(pixels, pixels + picture.sizeInBytes() / 4, qRgb(0x2a, 0x9d, 0x8f)) >= 40 * 40;
+        qsizetype widest = 0;
+        for (int row = 0; row < picture.height(); ++row) {
+            const auto *pixels = reinterpret_cast<const QRgb *>(picture.constScanLine(row));
+            widest = qMax<qsizetype>(widest, std::count(pixels, pixels + picture.width(), qRgb(0x2a, 0x9d, 0x8f)));
+        }
+        return int(widest);
+    }
+    /// How wide the lines of its page may get.
+    static int columnWidth()
+    {
+        const QTextDocument *page = helpPage()->document();
+        return int(helpPage()->viewport()->width() - 2 * page->rootFrame()->frameFormat().leftMargin()
+            - 2 * page->documentMargin());
     }
     static void clickOnLink(const QString &text)
     {

@@ -31,7 +31,8 @@ void drawLines(QPainter *painter, const QRect &place, const QString &text, const
         const bool isLast = number == excerptLines - 1;
         const QString shown = isLast ? metrics.elidedText(rest, Qt::ElideRight, place.width())
                                      : text.mid(line.textStart(), line.textLength());
-        painter->drawText(place.x(), place.y() + number * metrics.lineSpacing() + metrics.ascent(), shown.trimmed());
+        const QRect row(place.x(), place.y() + number * metrics.lineSpacing(), place.width(), metrics.lineSpacing());
+        painter->drawText(row, Qt::AlignLeading | Qt::TextSingleLine, shown.trimmed());
     }
     layout.endLayout();
 }
@@ -51,7 +52,9 @@ void FoundPageDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     const QRect place = option.rect.adjusted(besides, above, -besides, -above);
     const QFontMetrics title(titleFont(option));
     painter->setFont(titleFont(option));
-    painter->drawText(place.x(), place.y() + title.ascent(),
+    painter->setLayoutDirection(option.direction);
+    painter->drawText(QRect(place.x(), place.y(), place.width(), title.lineSpacing()),
+        Qt::AlignLeading | Qt::TextSingleLine,
         title.elidedText(index.data().toString(), Qt::ElideRight, place.width()));
     painter->setFont(option.font);
     drawLines(painter, place.adjusted(0, title.lineSpacing() + 2, 0, 0), index.data(ExcerptRole).toString(),

@@ -80,13 +80,9 @@ void HelpPage::setMessage(const QString &title, const QString &text, const QStri
     Q_EMIT pageChanged(QUrl());
 }
 
-QVariant HelpPage::loadResource(int type, const QUrl &address)
+QVariant HelpPage::loadResource(int, const QUrl &address)
 {
-    const QUrl whole = file_.resolved(address);
-    // What the page itself names is asked for before source() is the page.
-    if (type == QTextDocument::HtmlResource)
-        file_ = whole;
-    return book_ && book_->hasFile(whole) ? QVariant(book_->file(whole)) : QVariant(QByteArray());
+    return book_ && book_->hasFile(address) ? QVariant(book_->file(address)) : QVariant(QByteArray());
 }
 
 void HelpPage::doSetSource(const QUrl &address, QTextDocument::ResourceType type)
@@ -203,7 +199,8 @@ double HelpPage::widthOf(const QTextImageFormat &format) const
 {
     if (format.width() > 0)
         return format.width();
-    return QImage::fromData(book_ ? book_->file(file_.resolved(QUrl(format.name()))) : QByteArray()).width();
+    return QImage::fromData(book_ ? book_->file(document()->baseUrl().resolved(QUrl(format.name()))) : QByteArray())
+        .width();
 }
 
 void HelpPage::wheelEvent(QWheelEvent *event)

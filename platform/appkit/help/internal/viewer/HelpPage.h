@@ -62,7 +62,6 @@ private:
     const HelpCollection *book_ = nullptr;
     bool isFirstPage_ = true;
     QString message_;
-    QUrl file_; // of which what it names is part
     QList<QTextCursor> marks_;
     qsizetype mark_ = 0;
     int zoom_ = 100;
