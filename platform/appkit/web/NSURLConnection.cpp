@@ -43,7 +43,7 @@ public:
     NSURLConnection *connection = nullptr;
     NSURLConnectionDelegate *delegate = nullptr;
     QString address;
-    std::unique_ptr<NetworkTransfer> transfer;
+    std::unique_ptr<QObject> transfer;
 };
 
 void NSURLConnection::Private::start(const NSMutableURLRequest &request)

@@ -13,14 +13,14 @@ NetworkAnswer networkAnswer(const NSMutableURLRequest &request)
     return answer;
 }
 
-std::unique_ptr<NetworkTransfer> networkTransfer(
+std::unique_ptr<QObject> networkTransfer(
     const NSMutableURLRequest &request, const NetworkTransferEnd &end, QString *error)
 {
     static const LoadedFunction loaded = functionOfLibraryBeside(LUMAROO_NETWORK_LIBRARY, networkTransferFunction);
     *error = loaded.error;
     if (!loaded.address)
         return nullptr;
-    return std::unique_ptr<NetworkTransfer>(reinterpret_cast<NetworkTransferFunction>(loaded.address)(&request, &end));
+    return std::unique_ptr<QObject>(reinterpret_cast<NetworkTransferFunction>(loaded.address)(&request, &end));
 }
 
 bool webRequestsCanBeSent()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QObject>
 #include <QString>
 #include <functional>
 #include <memory>
@@ -14,14 +15,7 @@ struct NetworkAnswer
     int errorCode = 0; ///< the same, as an NSURLErrorCode
 };
 
-/// A request under way in the thread that has sent it; destroying it ends it without a word.
-class NetworkTransfer
-{
-public:
-    virtual ~NetworkTransfer() = default;
-};
-
-/// Told of a transfer's end, from the event loop; it may destroy the transfer.
+/// Told of the end of a request that is under way, from the event loop; it may destroy the request.
 using NetworkTransferEnd = std::function<void(const NetworkAnswer &answer)>;
 
 // The toolkit's network library costs time and memory at every start, and most starts ask for no web page. So what
@@ -32,12 +26,13 @@ inline constexpr char networkTransferFunction[] = "lumarooNetworkTransfer";
 extern "C" {
 /// Blocks the calling thread, in which it runs an event loop of its own, until there is an answer.
 using NetworkAnswerFunction = void (*)(const NSMutableURLRequest *request, NetworkAnswer *answer);
-/// The caller owns what it returns.
-using NetworkTransferFunction = NetworkTransfer *(*)(const NSMutableURLRequest *request, const NetworkTransferEnd *end);
+/// Sends the request in the thread that calls, which owns what is returned: destroying it ends the request without a
+/// word.
+using NetworkTransferFunction = QObject *(*)(const NSMutableURLRequest *request, const NetworkTransferEnd *end);
 }
 
 /// Loads the library at the first call; an answer with an error when it cannot be loaded. For any thread.
 NetworkAnswer networkAnswer(const NSMutableURLRequest &request);
 /// The same; null, with the error, when it cannot be loaded.
-std::unique_ptr<NetworkTransfer> networkTransfer(
+std::unique_ptr<QObject> networkTransfer(
     const NSMutableURLRequest &request, const NetworkTransferEnd &end, QString *error);

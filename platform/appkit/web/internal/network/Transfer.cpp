@@ -31,7 +31,7 @@ NSURLErrorCode codeOf(QNetworkReply::NetworkError error)
 
 /// One request with its redirections. It has a manager of its own: it knows no cookie, connection or password of an
 /// earlier one.
-class Transfer : public QObject, public NetworkTransfer
+class Transfer : public QObject
 {
 public:
     Transfer(const NSMutableURLRequest &request, NetworkTransferEnd end);
@@ -166,7 +166,7 @@ void Transfer::drop()
 
 } // namespace
 
-extern "C" Q_DECL_EXPORT NetworkTransfer *lumarooNetworkTransfer(
+extern "C" Q_DECL_EXPORT QObject *lumarooNetworkTransfer(
     const NSMutableURLRequest *request, const NetworkTransferEnd *end)
 {
     return new Transfer(*request, *end);
