@@ -4,6 +4,7 @@
 #include "platform/foundation/preferences/CFPreferences.h"
 
 #include <QPluginLoader>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
@@ -46,5 +47,9 @@ TEST(PlugIn, itSharesThePlatformLibrariesWithItsHost)
         if (path.contains("liblumaroo-"))
             libraries += path;
     }
-    EXPECT_EQ(libraries.size(), 2) << "one foundation and one appkit";
+    for (const char *name : {"liblumaroo-foundation.", "liblumaroo-appkit.", "liblumaroo-updater."}) {
+        const auto isNamed = [name](const QByteArray &path) { return path.contains(name); };
+        EXPECT_EQ(std::count_if(libraries.cbegin(), libraries.cend(), isNamed), 1) << name;
+    }
+    EXPECT_EQ(libraries.size(), 3);
 }
