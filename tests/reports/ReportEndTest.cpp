@@ -103,6 +103,7 @@ TEST_F(ReportEnd, whileItIsSentNothingClosesTheWindow)
     click("sendButton");
     ASSERT_TRUE(waitUntil([&] { return !server.requests.isEmpty(); }));
     window()->close();
+    ASSERT_TRUE(isOpen());
     part("informationField")->setFocus();
     pressKey(KEY_ESC);
     // A key that comes later is there, so Escape was.
