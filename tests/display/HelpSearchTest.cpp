@@ -86,7 +86,7 @@ TEST_F(ASearchInHelp, isLeftWithEscapeWhichThenCloses)
     lookFor({KEY_W, KEY_I, KEY_N, KEY_G});
     ASSERT_TRUE(waitUntil([] { return found() == QStringList("Gliding"); }));
     pressKey(KEY_ESC);
-    ASSERT_TRUE(waitUntil([] { return partOfHelp("helpContents")->isVisible(); }));
+    ASSERT_TRUE(waitUntil([] { return openHelp() && partOfHelp("helpContents")->isVisible(); }));
     pressKey(KEY_ESC);
     EXPECT_TRUE(waitUntil([] { return !openHelp(); }));
 }

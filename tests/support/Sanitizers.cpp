@@ -1,6 +1,7 @@
 // What the sanitizers must know of the libraries under us.
 
 #include <QtGlobal>
+#include <cstddef>
 #include <filesystem>
 #include <iterator>
 #include <unistd.h>
@@ -27,7 +28,7 @@ struct EndOfThreads
         for (int i = 0; i < mostRounds && threads() > 1; ++i)
             ::usleep(round);
     }
-    static auto threads()
+    static std::ptrdiff_t threads()
     {
         std::error_code error;
         const std::filesystem::directory_iterator tasks("/proc/self/task", error);

@@ -181,17 +181,8 @@ void HelpWindow::showTitle()
 void HelpWindow::bringToFront(QWidget *alert)
 {
     winId(); // from now on there is a handle
-    QWindow *front = alert ? alert->windowHandle() : nullptr;
-    if (windowHandle()->transientParent() != front) {
-        // An alert of the whole application blocks every window but those that belong to it, and whether a window does
-        // is asked when it comes up.
-        const QPoint place = pos();
-        const bool wasVisible = isVisible();
-        hide();
-        windowHandle()->setTransientParent(front);
-        if (wasVisible)
-            move(place);
-    }
+    // An alert of the whole application blocks every window but those that belong to it.
+    windowHandle()->setTransientParent(alert ? alert->windowHandle() : nullptr);
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
