@@ -96,9 +96,10 @@ TEST_F(CrashLogFiles, keepTheLastOnesOfAProgram)
     put("program.crash.log", "", 1);
     put("program_other.txt", "", 1);
     put("other_1.crash", "", 1);
+    put("Program_1.crash", "", 1);
     QDir(folder.path()).mkdir("program_folder.crash");
     keepLastLogs(folder.path() + '/', "program", 20);
-    QStringList expected{"other_1.crash", "program.crash.log", "program_00.crash"};
+    QStringList expected{"other_1.crash", "program.crash.log", "program_00.crash", "Program_1.crash"};
     for (int i = 16; i < 35; ++i)
         expected += QStringLiteral("program_%1.crash").arg(i);
     EXPECT_EQ(names(), expected + QStringList("program_other.txt"));

@@ -123,6 +123,8 @@ TEST_F(SystemInformation, asksForTheVersionsPartsAboveTheHighestPackedOne)
     EXPECT_EQ(QBSystemVersionString(), "22.16.400");
     putVersion("4.1");
     EXPECT_EQ(components(), (Components{4, 1, 0}));
+    putVersion("4.1.400");
+    EXPECT_EQ(components(), (Components{4, 1, 400})) << "just above the threshold";
 }
 
 TEST_F(SystemInformation, decodesThePackedVersionUpToTheHighest)

@@ -16,11 +16,9 @@ public:
 
 private:
     QString problemOfPath(const QString &path) const;
-    bool isBehindALink(const QString &path) const;
     static bool leadsOutside(const ArchiveEntry &link);
 
     QString bundle_;
     QSet<QString> paths_; ///< of files and links
     QSet<QString> folders_; ///< named, or on the way to something
-    QSet<QString> links_;
 };

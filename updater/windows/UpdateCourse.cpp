@@ -254,11 +254,8 @@ void UpdateCourse::takeInstallation(const UpdateProblem &problem)
 void UpdateCourse::relaunch()
 {
     const QString launcher = bundle_->pathForResourceOfType(QStringLiteral("launcher"), {});
-    const bool isOnItsWay = !launcher.isEmpty() && runAtBoundary("restart after an update", [&] {
-        relaunchWithPane(bundlePath(), launcher, LauncherLog::Quiet);
-    });
-    if (isOnItsWay)
-        close();
-    else
-        window().setPage(pages_.installed(item_.displayVersion));
+    // What shows where the settings stay: no launcher is there, or the user keeps them open.
+    window().setPage(pages_.installed(item_.displayVersion));
+    if (!launcher.isEmpty())
+        runAtBoundary("restart after an update", [&] { relaunchWithPane(bundlePath(), launcher, LauncherLog::Quiet); });
 }

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace {
@@ -18,8 +19,9 @@ constexpr int textWidth = 400;
 constexpr QSize notesSize(400, 240);
 constexpr int progressSteps = 1000;
 constexpr int roomInButtons = 16; ///< beyond what the style leaves around a text
-/// What fits on the smallest screens that are used.
-constexpr QSize largestSize(720, 460);
+/// With release notes, where the screen has room for it.
+constexpr QSize sizeWithNotes(720, 460);
+constexpr QSize besideWindow(16, 48); ///< of the screen, for its frame
 
 QFont headingFont()
 {
@@ -172,7 +174,8 @@ void UpdateWindow::fit(const UpdatePage &page)
     layout()->activate();
     const QSize hint = layout()->totalSizeHint();
     const QSize wanted(hint.width(), qMax(hint.height(), layout()->totalHeightForWidth(hint.width())));
-    resize(grows ? wanted.expandedTo(largestSize) : wanted);
+    const QSize room = screen()->availableSize() - besideWindow;
+    resize(grows ? wanted.expandedTo(sizeWithNotes.boundedTo(room)) : wanted);
     setMinimumSize(wanted);
 }
 

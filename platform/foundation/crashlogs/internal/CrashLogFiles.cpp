@@ -73,8 +73,9 @@ CrashLogPlace crashLogPlaceOfSystem()
 
 void keepLastLogs(const QString &folder, const QString &program, int count)
 {
-    const QStringList logs =
-        QDir(folder).entryList({program + QStringLiteral("_*.crash")}, QDir::Files | QDir::Hidden, QDir::Time);
+    // Another program's name may differ by the case of a letter alone.
+    const QStringList logs = QDir(folder).entryList(
+        {program + QStringLiteral("_*.crash")}, QDir::Files | QDir::Hidden | QDir::CaseSensitive, QDir::Time);
     for (const QString &log : logs.mid(count)) {
         QFile file(folder + log);
         if (!file.remove()) {
