@@ -55,7 +55,7 @@ TEST_F(ABundleWithAnInstaller, isLeftAloneWhereNothingStandsBeside)
 
 TEST_F(ABundleWithAnInstaller, isNotWaitedForForever)
 {
-    letInstaller("echo $$ >\"$1/installed\"\nexec sleep 1000\n");
+    letInstaller("echo $$ >\"$1/installed\"\nexec \"$LUMAROO_BUILD/tests/programs/idle\"\n");
     putBeside("update");
     finishUpdates({path()}, std::chrono::seconds(3));
     const pid_t installer = installed().trimmed().toInt();
