@@ -1,6 +1,6 @@
 // The background agent of Lumaroo.
 
-#include "agent/AgentCommands.h"
+#include "agent/life/AgentCommands.h"
 #include "platform/foundation/crashlogs/CrashLogWriter.h"
 
 #include <QCoreApplication>

@@ -3,7 +3,7 @@
 // wakes up at rest. Needs a session bus, and the build folder as argument.
 
 #include "KTXConstants.h"
-#include "agent/AgentSettings.h"
+#include "agent/life/AgentSettings.h"
 #include "bench/Median.h"
 #include "platform/foundation/notifications/CFNotificationCenter.h"
 #include "platform/foundation/notifications/SessionBus.h"

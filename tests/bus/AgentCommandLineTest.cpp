@@ -5,7 +5,7 @@
 #include "KTXConstants.h"
 #include "KTXSettings.h"
 #include "Wait.h"
-#include "agent/AgentArguments.h"
+#include "agent/life/AgentArguments.h"
 #include "platform/foundation/bundles/NSBundle.h"
 
 #include <QDBusConnection>
@@ -232,7 +232,7 @@ TEST_F(TheCommandLine, findsTheAgentThroughTheCheckedInInterface)
     ASSERT_TRUE(agent.waitForLaunch());
     const QDBusMessage answer = QDBusConnection::sessionBus().call(QDBusMessage::createMethodCall(
         KTXLMAgentID, "/com/quorvane/LumarooAgent", "org.freedesktop.DBus.Introspectable", "Introspect"));
-    QFile file(qEnvironmentVariable("LUMAROO_SOURCE") + "/agent/com.quorvane.LumarooAgent.xml");
+    QFile file(qEnvironmentVariable("LUMAROO_SOURCE") + "/agent/life/com.quorvane.LumarooAgent.xml");
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QStringList described = methodsOf(file.readAll(), KTXLMAgentID);
     EXPECT_EQ(described, QStringList({"Version out i", "Settings out s", "ReadSettings", "Quit"}));

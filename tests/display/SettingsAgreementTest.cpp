@@ -9,7 +9,7 @@
 #include "KTXOptions.h"
 #include "KTXSettings.h"
 #include "KeyCodeTranslator.h"
-#include "agent/AgentSettings.h"
+#include "agent/life/AgentSettings.h"
 #include "pane/SuppressedAlerts.h"
 #include "platform/appkit/controls/FloatSlider.h"
 #include "platform/foundation/colors/NSArchiver.h"

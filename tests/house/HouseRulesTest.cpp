@@ -55,11 +55,11 @@ TEST_F(SmallHouse, anIncludeAgainstTheLayersIsTold)
     write("pane/Pane.h", "");
     write("platform/appkit/View.h", "LM_APPKIT void view();\n");
     write("host/Host.cpp", "\n#include \"pane/Pane.h\"\n");
-    write("agent/Agent.cpp", "#include \"platform/appkit/View.h\"\n");
+    write("agent/life/Agent.cpp", "#include \"platform/appkit/View.h\"\n");
     write("platform/appkit/View.cpp", "#include \"tests/support/Wait.h\"\n");
     write("tests/support/Wait.h", "");
     EXPECT_THAT(includesAgainstTheLayers(tree()),
-        ElementsAre(Breach{"agent/Agent.cpp", 1, "agent does not include platform/appkit/View.h"},
+        ElementsAre(Breach{"agent/life/Agent.cpp", 1, "agent does not include platform/appkit/View.h"},
             Breach{"host/Host.cpp", 2, "host does not include pane/Pane.h"},
             Breach{"platform/appkit/View.cpp", 1, "platform/appkit does not include tests/support/Wait.h"}));
 }
@@ -127,6 +127,16 @@ TEST_F(SmallHouse, aCircleBetweenRoomsIsTold)
     EXPECT_THAT(circlesBetweenRooms(tree()),
         ElementsAre(
             Breach{"platform/foundation/c/C.h", 2, "platform/foundation/a includes platform/foundation/c already"}));
+}
+
+TEST_F(SmallHouse, theAgentHasRoomsToo)
+{
+    write("agent/a/A.h", "#include \"agent/b/B.h\"\n");
+    write("agent/b/B.h", "#include \"agent/a/A.h\"\n#include \"agent/a/x11/Inner.h\"\n");
+    write("agent/a/x11/Inner.h", "");
+    EXPECT_THAT(circlesBetweenRooms(tree()), ElementsAre(Breach{"agent/b/B.h", 1, "agent/a includes agent/b already"}));
+    EXPECT_THAT(includesOfOthersInternals(tree()),
+        ElementsAre(Breach{"agent/b/B.h", 2, "agent/a keeps to itself agent/a/x11/Inner.h"}));
 }
 
 TEST_F(SmallHouse, aHeaderOnTopThatIsNoContractIsTold)

@@ -14,6 +14,7 @@ const QString shared = QStringLiteral("KTX classes");
 const QString crashreporter = QStringLiteral("crashreporter");
 const QString updater = QStringLiteral("updater");
 const QString updaterCore = QStringLiteral("updater/core");
+const QString agent = QStringLiteral("agent");
 
 /// Whom each layer may include beside itself; tests and benches may include all.
 const QMap<QString, QStringList> &layers()
@@ -27,7 +28,7 @@ const QMap<QString, QStringList> &layers()
         {updaterCore, {foundation}},
         {QStringLiteral("pane"), {crashreporter, updater, updaterCore, shared, appkit, foundation}},
         {QStringLiteral("host"), {appkit, foundation}},
-        {QStringLiteral("agent"), {shared, foundation}},
+        {agent, {shared, foundation}},
         {QStringLiteral("tools"), {updaterCore, shared, foundation}},
         {QStringLiteral("launcher"), {}},
     };
@@ -45,12 +46,17 @@ QString layerOf(const QString &file)
     return innermost;
 }
 
-/// The folder below a platform library that a file stands in; the library itself for what stands on its top, and
-/// nothing outside the libraries.
+bool isLibrary(const QString &layer)
+{
+    return layer == foundation || layer == appkit;
+}
+
+/// The folder below a platform library or the agent that a file stands in; the layer itself for what stands on its top,
+/// and nothing outside them.
 QString roomOf(const QString &file)
 {
     const QString layer = layerOf(file);
-    if (layer != foundation && layer != appkit)
+    if (!isLibrary(layer) && layer != agent)
         return {};
     const QStringList below = file.mid(layer.size() + 1).split(u'/');
     const bool isOnTop = below.size() == 1 || below.first() == u"linux";
@@ -82,7 +88,7 @@ bool isHeader(const QString &file)
 
 bool isOnTopOfARoom(const QString &file)
 {
-    return isHeader(file) && !roomOf(file).isEmpty() && ownerOf(file).isEmpty();
+    return isHeader(file) && isLibrary(layerOf(file)) && ownerOf(file).isEmpty();
 }
 
 /// The headers on top of the rooms that export something, or that another room's code includes.

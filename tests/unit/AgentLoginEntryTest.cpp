@@ -1,6 +1,6 @@
 // The entry by which the desktop starts the agent at login.
 
-#include "agent/LoginEntry.h"
+#include "agent/life/LoginEntry.h"
 
 #include <QDir>
 #include <QFile>

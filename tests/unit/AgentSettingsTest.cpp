@@ -1,10 +1,10 @@
 // What the agent goes by for whatever is stored, and how it shows that.
 
-#include "agent/AgentSettings.h"
+#include "agent/life/AgentSettings.h"
 #include "ColorSamples.h"
 #include "KTXConstants.h"
 #include "KTXSettings.h"
-#include "agent/SettingsJson.h"
+#include "agent/life/SettingsJson.h"
 #include "platform/foundation/propertylists/PropertyList.h"
 
 #include <QDateTime>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "agent/AgentArguments.h"
+#include "agent/life/AgentArguments.h"
 #include "platform/foundation/system/CommandFailure.h"
 
 /// Does what was asked for beside running: prints, sets, quits ... Throws CommandFailure.

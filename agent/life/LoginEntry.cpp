@@ -1,4 +1,4 @@
-#include "agent/LoginEntry.h"
+#include "agent/life/LoginEntry.h"
 
 #include "platform/foundation/system/UserFolders.h"
 

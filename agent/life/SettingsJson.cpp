@@ -1,4 +1,4 @@
-#include "agent/SettingsJson.h"
+#include "agent/life/SettingsJson.h"
 
 #include <QDateTime>
 #include <QJsonArray>

@@ -1,8 +1,8 @@
-#include "agent/AgentCommands.h"
+#include "agent/life/AgentCommands.h"
 
 #include "KTXConstants.h"
-#include "agent/LoginEntry.h"
-#include "agent/linux/RunningAgent.h"
+#include "agent/life/LoginEntry.h"
+#include "agent/life/linux/RunningAgent.h"
 #include "platform/foundation/notifications/CFNotificationCenter.h"
 #include "platform/foundation/notifications/SessionBus.h"
 #include "platform/foundation/preferences/CFPreferences.h"

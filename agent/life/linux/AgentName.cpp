@@ -1,7 +1,7 @@
-#include "agent/linux/AgentName.h"
+#include "agent/life/linux/AgentName.h"
 
 #include "KTXConstants.h"
-#include "agent/linux/AgentBus.h"
+#include "agent/life/linux/AgentBus.h"
 #include "platform/foundation/notifications/NSDistributedNotificationCenter.h"
 
 #include <QDBusConnection>

@@ -1,4 +1,4 @@
-#include "agent/AgentSettings.h"
+#include "agent/life/AgentSettings.h"
 
 #include "KTXHotKeyEntry.h"
 #include "KTXModifiers.h"

@@ -1,4 +1,4 @@
-#include "agent/AgentHotKeys.h"
+#include "agent/keys/AgentHotKeys.h"
 
 #include "KTXActionKeys.h"
 #include "KTXConstants.h"

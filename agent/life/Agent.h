@@ -1,7 +1,7 @@
 #pragma once
 
-#include "agent/AgentHotKeys.h"
-#include "agent/AgentSettings.h"
+#include "agent/keys/AgentHotKeys.h"
+#include "agent/life/AgentSettings.h"
 
 #include <QObject>
 #include <QVariantMap>

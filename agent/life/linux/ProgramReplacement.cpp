@@ -1,4 +1,4 @@
-#include "agent/linux/ProgramReplacement.h"
+#include "agent/life/linux/ProgramReplacement.h"
 
 #include <QFile>
 #include <cerrno>

@@ -1,6 +1,6 @@
-#include "agent/linux/RunningAgent.h"
+#include "agent/life/linux/RunningAgent.h"
 
-#include "agent/linux/AgentBus.h"
+#include "agent/life/linux/AgentBus.h"
 #include "platform/foundation/notifications/SessionBus.h"
 
 #include <QDBusConnection>

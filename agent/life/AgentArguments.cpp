@@ -1,4 +1,4 @@
-#include "agent/AgentArguments.h"
+#include "agent/life/AgentArguments.h"
 
 #include <QHash>
 

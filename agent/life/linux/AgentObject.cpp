@@ -1,8 +1,8 @@
-#include "agent/linux/AgentObject.h"
+#include "agent/life/linux/AgentObject.h"
 
-#include "agent/Agent.h"
-#include "agent/SettingsJson.h"
-#include "agent/linux/AgentBus.h"
+#include "agent/life/Agent.h"
+#include "agent/life/SettingsJson.h"
+#include "agent/life/linux/AgentBus.h"
 
 #include <QDBusConnection>
 

@@ -1,4 +1,4 @@
-#include "agent/linux/AgentBus.h"
+#include "agent/life/linux/AgentBus.h"
 
 #include "KTXConstants.h"
 

@@ -1,4 +1,4 @@
-#include "agent/NewerAgent.h"
+#include "agent/life/NewerAgent.h"
 
 #include "KTXConstants.h"
 #include "platform/foundation/bundles/NSBundle.h"

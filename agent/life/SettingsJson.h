@@ -1,6 +1,6 @@
 #pragma once
 
-#include "agent/AgentHotKeys.h"
+#include "agent/keys/AgentHotKeys.h"
 
 #include <QVariantMap>
 

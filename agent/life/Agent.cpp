@@ -1,9 +1,9 @@
-#include "agent/Agent.h"
+#include "agent/life/Agent.h"
 
 #include "KTXConstants.h"
-#include "agent/NewerAgent.h"
-#include "agent/linux/AgentName.h"
-#include "agent/linux/ProgramReplacement.h"
+#include "agent/life/NewerAgent.h"
+#include "agent/life/linux/AgentName.h"
+#include "agent/life/linux/ProgramReplacement.h"
 #include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/notifications/CFNotificationCenter.h"
 #include "platform/foundation/notifications/SessionBus.h"
