@@ -72,6 +72,8 @@ TEST_F(ReportLevel, anAlertOfTheApplicationStandsInFrontOfIt)
     showApplication();
     EXPECT_TRUE(waitUntil([this] { return frontWindow() == &application; }));
     ASSERT_TRUE(openCrash());
+    // The window manager gives it the keyboard, which the application's request must not meet.
+    ASSERT_TRUE(waitUntil([this] { return hasKeyboard(window()); }));
     application.activateWindow();
     ASSERT_TRUE(waitUntil([this] { return hasKeyboard(&application); }));
     EXPECT_EQ(frontWindow(), window());
