@@ -45,7 +45,7 @@ QList<KTXSetting> allSettings()
         // What the interface file shows for these where nothing is stored.
         {KTXCycleAscending, Truth, false},
         {KTXActivateDoubleClick, Truth, false},
-        {KTXPersistentDoubleClick, Truth, false},
+        {KTXPersistentDoubleClick, Truth, true},
         // The agent's own.
         {KTXsuppressMissionControl, Boolean, false},
         {KTXShowHidden, Boolean, false},

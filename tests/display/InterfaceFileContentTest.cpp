@@ -209,7 +209,7 @@ TEST_F(TheWindow, showsWhatAnAbsentValueMeansWhereNothingIsReadBack)
 {
     EXPECT_EQ(state(window.find(QStringLiteral("doubleClickActivateCheckBox"))), NSOffState);
     EXPECT_EQ(selectedItemTag(window.find(QStringLiteral("cycleOrderPopup"))), 51);
-    EXPECT_EQ(tag(window.find<NSMatrix>(QStringLiteral("persistentModeMatrix"))->selectedCell()), 75);
+    EXPECT_EQ(tag(window.find<NSMatrix>(QStringLiteral("persistentModeMatrix"))->selectedCell()), 74);
     EXPECT_TRUE(isEnabled(window.find(QStringLiteral("defaultColorButton"))));
 }
 

@@ -251,10 +251,10 @@ TEST_F(PaneBinding, writesNothingAndAnnouncesNothing)
 TEST_F(PaneBinding, isTheWindowFilesAndThePaneItselfSetsNoneOfTheseOptions)
 {
     removeBindings();
-    store().set({{KTXFirstLaunch, true}, {KTXActivateDoubleClick, true}, {KTXPersistentDoubleClick, true},
+    store().set({{KTXFirstLaunch, true}, {KTXActivateDoubleClick, true}, {KTXPersistentDoubleClick, false},
         {KTXCycleAscending, true}});
     showPage();
     EXPECT_EQ(shown("doubleClickActivateCheckBox"), NSOffState);
-    EXPECT_EQ(shown("persistentModeMatrix"), 75);
+    EXPECT_EQ(shown("persistentModeMatrix"), 74);
     EXPECT_EQ(shown("cycleOrderPopup"), 51);
 }

@@ -208,8 +208,8 @@
         <translation>Reihenfolge der Fenster</translation>
     </message>
     <message>
-        <source>&amp;Left and right, start at:</source>
-        <translation>&amp;Links und rechts, ab:</translation>
+        <source>&amp;Left and right, go by:</source>
+        <translation>&amp;Links und rechts zählt:</translation>
     </message>
     <message>
         <source>First selected window</source>
@@ -232,8 +232,8 @@
         <translation>Mitte</translation>
     </message>
     <message>
-        <source>Up and &amp;down, start at:</source>
-        <translation>&amp;Oben und unten, ab:</translation>
+        <source>Up and &amp;down, go by:</source>
+        <translation>&amp;Oben und unten zählt:</translation>
     </message>
     <message>
         <source>Top edge</source>
@@ -244,20 +244,20 @@
         <translation>Unterer Rand</translation>
     </message>
     <message>
-        <source>Action key &amp;cycles:</source>
-        <translation>Aktionstaste blätte&amp;rt:</translation>
+        <source>The key Under &amp;cycles:</source>
+        <translation>Da&amp;runter führt:</translation>
     </message>
     <message>
-        <source>In ascending order</source>
-        <translation>Aufsteigend</translation>
+        <source>Up the stack</source>
+        <translation>Im Stapel aufwärts</translation>
     </message>
     <message>
-        <source>In descending order</source>
-        <translation>Absteigend</translation>
+        <source>Down the stack</source>
+        <translation>Im Stapel abwärts</translation>
     </message>
     <message>
-        <source>Ascending goes from the first window to the last, descending from the last to the first.</source>
-        <translation>Aufsteigend geht es vom ersten Fenster zum letzten, absteigend vom letzten zum ersten.</translation>
+        <source>Down the stack goes from a window to the one that it covers, up the stack the other way.</source>
+        <translation>Abwärts geht es von einem Fenster zu dem, das es verdeckt, aufwärts umgekehrt.</translation>
     </message>
     <message>
         <source>The leading edge is the one that faces the way you move.</source>
@@ -272,16 +272,16 @@
         <translation>Am oberen und u&amp;nteren Bildschirmrand umbrechen</translation>
     </message>
     <message>
-        <source>Double click</source>
-        <translation>Doppelklick</translation>
+        <source>Staying active</source>
+        <translation>Aktiv bleiben</translation>
     </message>
     <message>
-        <source>Acti&amp;vate with a double click</source>
-        <translation>Mit &amp;Doppelklick aktivieren</translation>
+        <source>Acti&amp;vate only by pressing the modifier keys twice</source>
+        <translation>Nur &amp;durch zweimaliges Drücken der Zusatztasten aktivieren</translation>
     </message>
     <message>
-        <source>A double click will then activate Lumaroo and always keep it active.</source>
-        <translation>Ein Doppelklick aktiviert dann Lumaroo und hält es immer aktiv.</translation>
+        <source>Lumaroo then takes no combination from other programs, and always stays active.</source>
+        <translation>Lumaroo nimmt dann anderen Programmen keine Kombination weg und bleibt immer aktiv.</translation>
     </message>
     <message>
         <source>Keep Lumaroo active:</source>
@@ -292,12 +292,12 @@
         <translation>Lumaroo aktiv halten</translation>
     </message>
     <message>
-        <source>A&amp;fter a double click</source>
-        <translation>Nach einem Do&amp;ppelklick</translation>
+        <source>Modi&amp;fier keys pressed twice</source>
+        <translation>Zusatztasten zweimal gedrü&amp;ckt</translation>
     </message>
     <message>
-        <source>With&amp;out a double click</source>
-        <translation>Ohne Doppelkli&amp;ck</translation>
+        <source>M&amp;odifier keys pressed once</source>
+        <translation>Zusatztasten einmal gedrüc&amp;kt</translation>
     </message>
     <message>
         <source>An active Lumaroo waits until you choose a window or cancel.</source>
