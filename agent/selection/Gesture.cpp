@@ -23,7 +23,7 @@ QList<GestureStep> Gesture::takeInIdle(const GestureEvent &event)
         return {GoBack};
     if (event.kind == Kind::Movement && !rules_.onlyByDoublePress) {
         enter(State::Held);
-        return takeMovement(event, {Begin});
+        return {Begin, Move, WatchModifiers};
     }
     if (!isWayIn(event))
         return {};
@@ -39,7 +39,6 @@ QList<GestureStep> Gesture::takeInGesture(const GestureEvent &event)
     };
     switch (event.kind) {
     case Kind::Movement:
-        return takeMovement(event, {});
     case Kind::Repeat:
         return {Move};
     case Kind::Digit:
@@ -58,17 +57,6 @@ QList<GestureStep> Gesture::takeInGesture(const GestureEvent &event)
         return takeRefusal();
     }
     return {};
-}
-
-/// Who has let the modifiers go already means this one window.
-QList<GestureStep> Gesture::takeMovement(const GestureEvent &event, QList<GestureStep> before)
-{
-    before.append(Move);
-    if (state_ == State::Held && !event.areModifiersDown) {
-        enter(State::Idle);
-        before.append(Accept);
-    }
-    return before;
 }
 
 /// Without the keyboard the combinations go on working, where there are any.

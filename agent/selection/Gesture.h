@@ -34,7 +34,6 @@ struct GestureEvent
     Kind kind = Kind::Interrupted;
     quint32 time = 0;
     Movement movement = Movement::Under;
-    bool areModifiersDown = true; ///< when it is handled
     int digit = 0;
 };
 
@@ -44,6 +43,7 @@ enum class GestureStep : quint8 {
     Move, ///< as the event says
     Choose, ///< the event's digit
     Show, ///< without having moved
+    WatchModifiers, ///< until one of them is released
     TakeKeyboard,
     TellOfKeyboard, ///< that only the combinations work
     Accept, ///< turn to what is selected
@@ -71,7 +71,6 @@ public:
 private:
     QList<GestureStep> takeInIdle(const GestureEvent &event);
     QList<GestureStep> takeInGesture(const GestureEvent &event);
-    QList<GestureStep> takeMovement(const GestureEvent &event, QList<GestureStep> before);
     QList<GestureStep> takeRefusal();
     bool isWayIn(const GestureEvent &event) const;
     void enter(State state);
