@@ -39,6 +39,8 @@ public:
         return status(code, "Location: " + to.toEncoded() + "\r\n");
     }
 
+    /// Leaves each connection open after its answer.
+    bool keepsConnections = false;
     /// The requests that have come whole, byte for byte.
     QList<QByteArray> requests;
     /// The connections whose other end has gone.
@@ -71,7 +73,8 @@ private:
             return;
         if (answer != hangUp)
             socket->write(answer);
-        socket->disconnectFromHost();
+        if (!keepsConnections)
+            socket->disconnectFromHost();
     }
 
     QList<QByteArray> answers_;

@@ -175,6 +175,32 @@ TEST_F(URLConnection, whatFollowsAWholeHeadDoesNotCount)
     EXPECT_EQ(endOf(large.url()), "finished");
 }
 
+TEST_F(URLConnection, aRedirectionIsFollowedHoweverLongItsTextIs)
+{
+    ReportServer nowhere({"HTTP/1.1 302 Found\r\nLocation: " + addressWithoutServer().toEncoded() + "\r\n\r\n"
+        + QByteArray(qsizetype(8) * 1024 * 1024, 'x')});
+    EXPECT_EQ(endOf(nowhere.url()), code(NSURLErrorCannotConnectToHost));
+}
+
+TEST_F(URLConnection, aRedirectionWhoseTextNeverComesIsFollowed)
+{
+    ReportServer end;
+    ReportServer stalling(
+        {"HTTP/1.1 302 Found\r\nContent-Length: 100\r\nLocation: " + end.url("/end").toEncoded() + "\r\n\r\nhalf"});
+    stalling.keepsConnections = true;
+    EXPECT_EQ(endOf(stalling.url(), 2), "finished");
+    ASSERT_EQ(end.requests.size(), 1);
+    EXPECT_TRUE(end.requests[0].startsWith("GET /end HTTP/1.1\r\n"));
+}
+
+TEST_F(URLConnection, anAnswerThatStopsAfterItsHeadIsOneOnceItsTimeIsUp)
+{
+    ReportServer stalling({"HTTP/1.1 404 Not Found\r\nContent-Length: 100\r\n\r\nhalf"});
+    stalling.keepsConnections = true;
+    EXPECT_EQ(endOf(stalling.url(), 0.5), "finished");
+    EXPECT_EQ(stalling.requests.size(), 1);
+}
+
 TEST_F(URLConnection, aConnectionThatIsDestroyedSaysNothingMore)
 {
     ReportServer server({ReportServer::silence});

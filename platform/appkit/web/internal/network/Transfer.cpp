@@ -40,6 +40,7 @@ public:
 private:
     QNetworkRequest networkRequest() const;
     void send();
+    void takeHead();
     void takePart();
     void takeAnswer();
     void follow(const QUrl &address, int status);
@@ -98,11 +99,19 @@ void Transfer::send()
     reply_ = hasBody_ ? manager_.post(networkRequest(), request_.httpBody()) : manager_.get(networkRequest());
     const auto goOn = [this] { silence_.start(); };
     connect(reply_, &QNetworkReply::uploadProgress, this, goOn);
-    connect(reply_, &QNetworkReply::metaDataChanged, this, goOn);
+    connect(reply_, &QNetworkReply::metaDataChanged, this, &Transfer::takeHead);
     connect(reply_, &QNetworkReply::encrypted, this, goOn);
     connect(reply_, &QNetworkReply::readyRead, this, &Transfer::takePart);
     connect(reply_, &QNetworkReply::finished, this, &Transfer::takeAnswer);
     silence_.start();
+}
+
+void Transfer::takeHead()
+{
+    silence_.start();
+    // Where it leads is told: what more there is of it may be long, or never come.
+    if (!redirectionOf(*reply_).isEmpty())
+        takeAnswer();
 }
 
 void Transfer::takePart()
