@@ -23,7 +23,8 @@ struct OverlayLabel
 struct OverlayView
 {
     quint32 windowID = 0;
-    QRect windowRect; ///< empty where nothing of the window shows: its icon stands in the monitor's middle then
+    QRect windowRect; ///< what shows of it, within the monitors; empty where nothing does: its icon stands in the
+                      ///< monitor's middle then
     Monitor monitor; ///< the one that shows most of the window
     QString title; ///< for the strip at the frame's upper edge
     bool isCovered = false; ///< by others at its middle: its icon stands there

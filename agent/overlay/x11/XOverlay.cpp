@@ -1,0 +1,87 @@
+#include "agent/overlay/x11/XOverlay.h"
+
+XOverlay::XOverlay(std::unique_ptr<MarkDisplay> display) : display_(std::move(display)), frame_(*display_)
+{
+    frame_.setColors(colors_);
+    display_->flush();
+    motionSteps_.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&motionSteps_, &QTimer::timeout, &motionSteps_, [this] { takeStep(); });
+}
+
+void XOverlay::showOverlay(const OverlayView &view)
+{
+    if (display_->isLost())
+        return;
+    isComposited_ = display_->isComposited();
+    endMotion();
+    useColors();
+    view_ = view;
+    showFrame();
+    display_->flush();
+}
+
+void XOverlay::hideOverlay()
+{
+    motionSteps_.stop();
+    frame_.hide();
+    display_->flush();
+}
+
+void XOverlay::useColors()
+{
+    const OverlayColors colors = overlayColors(style_.color);
+    if (colors == colors_)
+        return;
+    colors_ = colors;
+    frame_.setColors(colors);
+}
+
+void XOverlay::showFrame()
+{
+    if (view_.windowRect.isEmpty())
+        frame_.hide();
+    else if (movesTo(view_.windowRect))
+        startMotion(view_.windowRect);
+    else
+        placeFrame(view_.windowRect, Resizing::OffScreen);
+}
+
+void XOverlay::placeFrame(const QRect &rect, Resizing resizing)
+{
+    frame_.show(rect, view_.monitor.scale, isComposited_, resizing);
+}
+
+/// Without a compositor another size means that the frame goes off the screen for a moment, which would be seen at each
+/// step.
+bool XOverlay::movesTo(const QRect &rect) const
+{
+    return style_.animates && frame_.isShown() && frame_.rect() != rect
+        && (isComposited_ || frame_.rect().size() == rect.size());
+}
+
+void XOverlay::startMotion(const QRect &to)
+{
+    motion_ = {frame_.rect(), to};
+    step_ = 0;
+    placeFrame(motion_.from, Resizing::OnScreen);
+    motionTime_.start();
+    motionSteps_.start(OverlayMotion::stepInterval(view_.monitor.refreshRate));
+}
+
+void XOverlay::takeStep()
+{
+    const bool isLast = ++step_ == OverlayMotion::mostSteps || motionTime_.hasExpired(OverlayMotion::duration);
+    if (isLast)
+        motionSteps_.stop();
+    placeFrame(isLast ? motion_.to : motion_.rectAt(motionTime_.elapsed()), Resizing::OnScreen);
+    display_->flush();
+}
+
+/// What is shown next begins where this one would have ended.
+void XOverlay::endMotion()
+{
+    if (!motionSteps_.isActive())
+        return;
+    motionSteps_.stop();
+    placeFrame(motion_.to, Resizing::OnScreen);
+}

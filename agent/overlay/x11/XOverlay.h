@@ -1,0 +1,39 @@
+#pragma once
+
+#include "agent/overlay/Overlay.h"
+#include "agent/overlay/OverlayMotion.h"
+#include "agent/overlay/x11/FrameWindow.h"
+
+#include <QElapsedTimer>
+#include <QTimer>
+
+/// The mark on an X server.
+class XOverlay : public Overlay
+{
+public:
+    explicit XOverlay(std::unique_ptr<MarkDisplay> display);
+
+    void setStyle(const OverlayStyle &style) override { style_ = style; }
+    void showOverlay(const OverlayView &view) override;
+    void hideOverlay() override;
+
+private:
+    void useColors();
+    void showFrame();
+    void placeFrame(const QRect &rect, Resizing resizing);
+    bool movesTo(const QRect &rect) const;
+    void startMotion(const QRect &to);
+    void takeStep();
+    void endMotion();
+
+    const std::unique_ptr<MarkDisplay> display_;
+    FrameWindow frame_;
+    OverlayStyle style_;
+    OverlayColors colors_; ///< that the windows have
+    OverlayView view_;
+    bool isComposited_ = false;
+    OverlayMotion motion_;
+    QElapsedTimer motionTime_;
+    QTimer motionSteps_; ///< runs during a motion only
+    int step_ = 0;
+};
