@@ -4,6 +4,7 @@
 #include "platform/foundation/OSStatus.h"
 #include "platform/foundation/keyboard/VirtualKeyCodes.h"
 
+#include <QList>
 #include <QString>
 #include <QtGlobal>
 
@@ -102,6 +103,10 @@ LM_FOUNDATION OSStatus InstallEventHandler(EventTargetRef target, EventHandlerUP
 LM_FOUNDATION OSStatus GetEventParameter(EventRef event, quint32 name, quint32 desiredType, quint32 *actualType,
     quint64 bufferSize, quint64 *actualSize, void *buffer);
 
+/// The display's time of the event that the handlers are called for, in milliseconds; 0 outside of their calls. With it
+/// a window manager tells what was asked for last.
+LM_FOUNDATION quint32 LMCurrentEventTime();
+
 /// Registers a hot key: a virtual key code with a mask of the modifiers above, which may be 0.
 ///
 /// Returns eventHotKeyExistsErr where this process has registered the combination already, or another program holds it
@@ -116,6 +121,13 @@ LM_FOUNDATION OSStatus RegisterEventHotKey(VirtualKeyCode keyCode, quint32 modif
 /// eventHotKeyExistsErr while, since such a change, another registration or program has the combination. In both cases
 /// it is tried again with the next change. eventHotKeyInvalidErr for a null or stale reference.
 LM_FOUNDATION OSStatus LMHotKeyStatus(EventHotKeyRef hotKeyRef);
+
+/// Those of these masks of modifiers with which no other program holds any of the keys, in their order.
+///
+/// They are tried, all at once, which takes one round trip and holds them no longer than that. Empty where there are no
+/// hot keys; a mask with a modifier that the keyboard does not have, or with which it lacks a key, is not free.
+LM_FOUNDATION QList<quint32> LMFreeHotKeyModifiers(
+    const QList<VirtualKeyCode> &keyCodes, const QList<quint32> &modifiers);
 
 /// Gives a combination back; when it returns, other programs can have it.
 ///

@@ -17,4 +17,4 @@ struct KeyboardMapping
 };
 
 /// As it is now, in one round trip; no value once the server is gone.
-std::optional<KeyboardMapping> readKeyboardMapping(xcb_connection_t *connection);
+LM_FOUNDATION std::optional<KeyboardMapping> readKeyboardMapping(xcb_connection_t *connection);

@@ -2,6 +2,7 @@
 
 #include "platform/foundation/Boundary.h"
 
+#include <QScopedValueRollback>
 #include <algorithm>
 #include <cstring>
 #include <vector>
@@ -39,6 +40,12 @@ bool isInstalled(EventHandlerUPP handler)
         [handler](const InstalledHandler &installed) { return installed.handler == handler; });
 }
 
+quint32 &currentEventTime()
+{
+    static quint32 time = 0;
+    return time;
+}
+
 EventHandlerRef referenceOf(size_t place)
 {
     return reinterpret_cast<EventHandlerRef>(quintptr(place + 1));
@@ -48,6 +55,7 @@ void dispatch(const OpaqueEventRef &event)
 {
     // A copy: a handler may install another.
     const std::vector<InstalledHandler> handlers = applicationHandlers();
+    const QScopedValueRollback time(currentEventTime(), event.time);
     for (auto installed = handlers.crbegin(); installed != handlers.crend(); ++installed) {
         if (installed->takes(event.type)
             && installed->handler(nullptr, &event, installed->userData) != eventNotHandledErr)
@@ -94,7 +102,14 @@ OSStatus GetEventParameter(EventRef event, quint32 name, quint32 desiredType, qu
     return noErr;
 }
 
-void dispatchHotKeyPressed(EventHotKeyID hotKeyID)
+quint32 LMCurrentEventTime()
 {
-    runAtBoundary("hot key handler", [hotKeyID] { dispatch({{kEventClassKeyboard, kEventHotKeyPressed}, hotKeyID}); });
+    return currentEventTime();
+}
+
+void dispatchHotKeyPressed(EventHotKeyID hotKeyID, quint32 time)
+{
+    runAtBoundary("hot key handler", [hotKeyID, time] {
+        dispatch({{kEventClassKeyboard, kEventHotKeyPressed}, hotKeyID, time});
+    });
 }

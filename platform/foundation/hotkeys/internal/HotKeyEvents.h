@@ -7,7 +7,8 @@ struct OpaqueEventRef
 {
     EventTypeSpec type;
     EventHotKeyID hotKeyID;
+    quint32 time = 0;
 };
 
-/// Hands a hot key's press to the application target's handlers. Nothing is thrown.
-LM_FOUNDATION void dispatchHotKeyPressed(EventHotKeyID hotKeyID);
+/// Hands a hot key's press to the application target's handlers. `time` is that of the press. Nothing is thrown.
+LM_FOUNDATION void dispatchHotKeyPressed(EventHotKeyID hotKeyID, quint32 time = 0);

@@ -48,7 +48,7 @@ PressTracker::Step PressTracker::handleNext()
     events_.pop_front();
     switch (event.kind) {
     case Kind::Press:
-        return handlePress(event.key);
+        return handlePress(event.key, event.time);
     case Kind::Release:
         return {{}, handleRelease(event.key.keycode)};
     case Kind::ModifiersChanged:
@@ -58,10 +58,10 @@ PressTracker::Step PressTracker::handleNext()
     case Kind::KeyboardChanged:
         break;
     }
-    return {HotKeyInput{HotKeyInput::Kind::KeyboardChanged, {}}, {}};
+    return {HotKeyInput{HotKeyInput::Kind::KeyboardChanged, {}, 0}, {}};
 }
 
-PressTracker::Step PressTracker::handlePress(const KeyGrab &press)
+PressTracker::Step PressTracker::handlePress(const KeyGrab &press, quint32 time)
 {
     // A repeat grabs the keyboard, too.
     if (down_.test(press.keycode))
@@ -72,7 +72,7 @@ PressTracker::Step PressTracker::handlePress(const KeyGrab &press)
     // What was released before releases were watched, by whoever had the keyboard then, is up in the answer.
     for (const ServerOrder order : askHeldKeys())
         orders.push_back(order);
-    return {HotKeyInput{HotKeyInput::Kind::Press, press}, orders};
+    return {HotKeyInput{HotKeyInput::Kind::Press, press, time}, orders};
 }
 
 std::vector<ServerOrder> PressTracker::handleRelease(quint8 keycode)

@@ -24,6 +24,7 @@ struct HotKeyInput
 {
     enum class Kind { Press, KeyboardChanged } kind;
     KeyGrab press; ///< the key with its modifiers, lock keys included
+    quint32 time = 0; ///< of the press, by the server's clock
 
     bool operator==(const HotKeyInput &) const = default;
 };
@@ -39,6 +40,7 @@ struct KeyboardEvent
     /// Of the last request that the server had handled before; of an answer, that of its question.
     quint32 sequence = 0;
     HeldKeys held; ///< the answer
+    quint32 time = 0; ///< of a press
 };
 
 /// What is to be asked of the server.
@@ -66,6 +68,7 @@ public:
 
     void add(const std::vector<KeyGrab> &grabs) { grabbed_.insert(grabs.cbegin(), grabs.cend()); }
     void remove(const std::vector<KeyGrab> &grabs);
+    bool has(const KeyGrab &grab) const { return grabbed_.contains(grab); }
     /// To be carried out before new grabs are asked for: a key that is down by then is not pressed.
     std::vector<ServerOrder> prepareToGrab() { return askHeldKeys(); }
 
@@ -78,7 +81,7 @@ public:
     Step handleNext();
 
 private:
-    Step handlePress(const KeyGrab &press);
+    Step handlePress(const KeyGrab &press, quint32 time);
     std::vector<ServerOrder> handleRelease(quint8 keycode);
     std::vector<ServerOrder> handleModifiers(quint16 modifiers);
     std::vector<ServerOrder> handleAnswer(const HeldKeys &held);

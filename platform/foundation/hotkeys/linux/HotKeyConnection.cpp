@@ -111,18 +111,56 @@ bool HotKeyConnection::grab(const std::vector<KeyGrab> &grabs)
     wait();
     takeAnswer();
     for (const auto &[one, request] : requests) {
-        if (!fromServer(xcb_request_check(connection_.get(), request)))
+        if (isGranted(request))
             granted.push_back(one);
     }
-    const bool isGranted = granted.size() == requests.size() && !isLost();
-    if (isGranted)
+    const bool areAllGranted = granted.size() == requests.size() && !isLost();
+    if (areAllGranted)
         tracker_.add(grabs);
     else
         ungrab(granted);
     // Who registers much is not to pile up answers.
     while (tracker_.isAnswerNext())
         carryOut(tracker_.handleNext().orders);
-    return isGranted;
+    return areAllGranted;
+}
+
+bool HotKeyConnection::isGranted(const xcb_void_cookie_t &request)
+{
+    return !fromServer(xcb_request_check(connection_.get(), request));
+}
+
+/// Asks for them and gives them back in one go.
+std::vector<xcb_void_cookie_t> HotKeyConnection::tryToGrab(const std::vector<KeyGrab> &grabs)
+{
+    std::vector<xcb_void_cookie_t> requests;
+    for (const GrabOnRoot &one : onEveryRoot(grabs)) {
+        // What we have ourselves would be given back for good.
+        if (tracker_.has(one.grab))
+            continue;
+        requests.push_back(xcb_grab_key_checked(connection_.get(), false, one.root, one.grab.modifiers,
+            one.grab.keycode, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
+        xcb_ungrab_key(connection_.get(), one.grab.keycode, one.root, one.grab.modifiers);
+    }
+    return requests;
+}
+
+std::vector<bool> HotKeyConnection::areFree(const std::vector<std::vector<KeyGrab>> &sets)
+{
+    takeAnswer();
+    std::vector<std::vector<xcb_void_cookie_t>> requests;
+    for (const std::vector<KeyGrab> &set : sets)
+        requests.push_back(tryToGrab(set));
+    wait();
+    std::vector<bool> areFree;
+    for (const std::vector<xcb_void_cookie_t> &ofSet : requests) {
+        bool isFree = !isLost();
+        // Each answer is taken, also where it is known already.
+        for (const xcb_void_cookie_t &request : ofSet)
+            isFree = isGranted(request) && isFree;
+        areFree.push_back(isFree);
+    }
+    return areFree;
 }
 
 void HotKeyConnection::ungrab(const std::vector<KeyGrab> &grabs)
@@ -218,7 +256,7 @@ void HotKeyConnection::take(const xcb_generic_event_t *event)
     if (type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE) {
         const auto *key = reinterpret_cast<const xcb_key_press_event_t *>(event);
         tracker_.take({type == XCB_KEY_PRESS ? Kind::Press : Kind::Release,
-            {key->detail, quint16(key->state & realModifiers)}, event->full_sequence, {}});
+            {key->detail, quint16(key->state & realModifiers)}, event->full_sequence, {}, key->time});
     } else if (type == XCB_GE_GENERIC) {
         const auto *raw = reinterpret_cast<const xcb_input_raw_key_release_event_t *>(event);
         if (raw->extension == rawEventExtension_ && raw->event_type == XCB_INPUT_RAW_KEY_RELEASE)

@@ -26,6 +26,8 @@ public:
 
     /// Grabs all on every screen, or none: false when another program holds one. One round trip when all goes well.
     bool grab(const std::vector<KeyGrab> &grabs);
+    /// Which of these sets nobody else holds anything of. Each is grabbed and given back, in one round trip for all.
+    std::vector<bool> areFree(const std::vector<std::vector<KeyGrab>> &sets);
     /// When it returns, others can have them.
     void ungrab(const std::vector<KeyGrab> &grabs);
 
@@ -53,6 +55,8 @@ private:
 
     std::vector<GrabOnRoot> onEveryRoot(const std::vector<KeyGrab> &grabs) const;
     void ungrab(const std::vector<GrabOnRoot> &grabs);
+    std::vector<xcb_void_cookie_t> tryToGrab(const std::vector<KeyGrab> &grabs);
+    bool isGranted(const xcb_void_cookie_t &request);
     void wait();
 
     void takeAnswer();

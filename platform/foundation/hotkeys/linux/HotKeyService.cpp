@@ -18,6 +18,20 @@ bool overlap(const std::vector<KeyGrab> &left, const std::vector<KeyGrab> &right
     return std::find_first_of(left.cbegin(), left.cend(), right.cbegin(), right.cend()) != left.cend();
 }
 
+/// Of several keys; empty where one of them cannot be had.
+std::vector<KeyGrab> grabsOfAll(
+    const QList<VirtualKeyCode> &keyCodes, quint32 modifiers, const KeyboardMapping &keyboard)
+{
+    std::vector<KeyGrab> all;
+    for (const VirtualKeyCode keyCode : keyCodes) {
+        const std::vector<KeyGrab> grabs = grabsOf(keyCode, modifiers, keyboard);
+        if (grabs.empty())
+            return {};
+        all.insert(all.end(), grabs.cbegin(), grabs.cend());
+    }
+    return all;
+}
+
 void postChange()
 {
     NSNotificationCenter::defaultCenter()->postNotificationNameObject(LMHotKeysDidChange);
@@ -89,6 +103,29 @@ OSStatus HotKeyService::status(EventHotKeyRef hotKeyRef) const
     return grabsOf(found->keyCode, found->modifiers, keyboard_).empty() ? paramErr : eventHotKeyExistsErr;
 }
 
+QList<quint32> HotKeyService::freeModifiers(const QList<VirtualKeyCode> &keyCodes, const QList<quint32> &modifiers)
+{
+    if (!connect())
+        return {};
+    renewIfDue();
+    std::vector<std::vector<KeyGrab>> sets;
+    QList<quint32> possible;
+    for (const quint32 mask : modifiers) {
+        if (auto grabs = grabsOfAll(keyCodes, mask, keyboard_); !grabs.empty()) {
+            sets.push_back(std::move(grabs));
+            possible.append(mask);
+        }
+    }
+    const std::vector<bool> areFree = connection_->areFree(sets);
+    scheduleInput();
+    QList<quint32> freeOnes;
+    for (size_t place = 0; place < areFree.size(); ++place) {
+        if (areFree[place])
+            freeOnes.append(possible[qsizetype(place)]);
+    }
+    return freeOnes;
+}
+
 bool HotKeyService::connect()
 {
     if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
@@ -148,27 +185,27 @@ void HotKeyService::handleInput()
         else if (!input)
             return;
         else if (input->kind == HotKeyInput::Kind::Press)
-            handlePress(input->press);
+            handlePress(*input);
         else if (!renewal_.isActive())
             renewal_.start();
     }
 }
 
-void HotKeyService::handlePress(const KeyGrab &press)
+void HotKeyService::handlePress(const HotKeyInput &input)
 {
     // A handler may run an event loop of its own, and the keyboard is to be free in that.
     scheduleInput();
-    dispatchPress(press);
+    dispatchPress(input);
 }
 
-void HotKeyService::dispatchPress(const KeyGrab &press)
+void HotKeyService::dispatchPress(const HotKeyInput &input)
 {
-    const auto found = std::find_if(registrations_.cbegin(), registrations_.cend(), [&press](const Registration &one) {
-        return std::find(one.grabs.cbegin(), one.grabs.cend(), press) != one.grabs.cend();
+    const auto found = std::find_if(registrations_.cbegin(), registrations_.cend(), [&input](const Registration &one) {
+        return std::find(one.grabs.cbegin(), one.grabs.cend(), input.press) != one.grabs.cend();
     });
     // Another key may be pressed before the keyboard is free again, and a press may arrive after its hot key is gone.
     if (found != registrations_.cend())
-        dispatchHotKeyPressed(EventHotKeyID(found->hotKeyID));
+        dispatchHotKeyPressed(EventHotKeyID(found->hotKeyID), input.time);
 }
 
 void HotKeyService::handleLoss()

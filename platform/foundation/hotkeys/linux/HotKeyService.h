@@ -17,6 +17,7 @@ public:
     OSStatus add(VirtualKeyCode keyCode, quint32 modifiers, EventHotKeyID hotKeyID, EventHotKeyRef *hotKeyRef);
     OSStatus remove(EventHotKeyRef hotKeyRef);
     OSStatus status(EventHotKeyRef hotKeyRef) const;
+    QList<quint32> freeModifiers(const QList<VirtualKeyCode> &keyCodes, const QList<quint32> &modifiers);
 
 private:
     struct Registration
@@ -39,8 +40,8 @@ private:
 
     void scheduleInput();
     void handleInput();
-    void handlePress(const KeyGrab &press);
-    void dispatchPress(const KeyGrab &press);
+    void handlePress(const HotKeyInput &input);
+    void dispatchPress(const HotKeyInput &input);
     void handleLoss();
 
     bool isSomethingMissing() const;

@@ -16,6 +16,11 @@ OSStatus LMHotKeyStatus(EventHotKeyRef hotKeyRef)
     return HotKeyService::instance().status(hotKeyRef);
 }
 
+QList<quint32> LMFreeHotKeyModifiers(const QList<VirtualKeyCode> &keyCodes, const QList<quint32> &modifiers)
+{
+    return HotKeyService::instance().freeModifiers(keyCodes, modifiers);
+}
+
 OSStatus UnregisterEventHotKey(EventHotKeyRef hotKeyRef)
 {
     return HotKeyService::instance().remove(hotKeyRef);
