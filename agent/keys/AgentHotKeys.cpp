@@ -3,12 +3,37 @@
 #include "KTXActionKeys.h"
 #include "KTXConstants.h"
 #include "KTXHotKey.h"
-#include "KTXHotKeyEntry.h"
+#include "KTXModifiers.h"
+#include "agent/keys/ActionKeyTable.h"
 #include "platform/foundation/notifications/NSNotificationCenter.h"
 #include "platform/foundation/system/NSLog.h"
 
 #include <algorithm>
 #include <utility>
+
+namespace {
+
+/// Those that programs rarely use with the keys of movement, which leaves out Control and Shift by themselves: every
+/// program has uses for them.
+const QList<quint32> &proposedModifiers()
+{
+    constexpr quint32 command = KTXCommandModifier, control = KTXControlModifier, option = KTXOptionModifier,
+                      shift = KTXShiftModifier;
+    static const QList<quint32> masks{command | control, command | control | option, command | option,
+        command | control | shift, command | option | shift, command | shift, control | option | shift,
+        command | control | option | shift, command};
+    return masks;
+}
+
+/// Whether a key types a character; where not in this layout, in another.
+bool typesCharacter(VirtualKeyCode keyCode)
+{
+    const VirtualKey *key = virtualKey(pressedKeyCode(keyCode));
+    // The rows of letters and digits have names that begin with this.
+    return key && (key->xkbName[0] == 'A' || (key->character >= u' ' && key->character < 0x7f));
+}
+
+} // namespace
 
 AgentHotKeys::AgentHotKeys()
 {
@@ -31,8 +56,9 @@ AgentHotKeys::~AgentHotKeys()
 void AgentHotKeys::apply(const QVariantMap &settings)
 {
     const auto modifiers = quint32(settings.value(KTXModifierMask).toUInt());
+    isDoublePressAlone_ = settings.value(KTXActivateDoubleClick).toBool();
     for (ActionKey &key : keys_)
-        give(key, keyCodeOf(settings.value(key.action)).value_or(0).low16Bits(), modifiers);
+        give(key, actionKeyCode(settings, key.action), modifiers);
     // Only now, so that two actions can exchange their keys.
     registerKeys();
     if (modifiers == 0 && !saidNoModifiers_)
@@ -45,13 +71,34 @@ void AgentHotKeys::give(ActionKey &key, VirtualKeyCode keyCode, quint32 modifier
     const bool isChanged = key.hotKey->keycode() != keyCode || key.hotKey->modifiers() != modifiers;
     key.hotKey->setKeycode(keyCode);
     key.hotKey->setModifiers(modifiers);
-    if (isChanged || (isAnotherActions(key) && key.hotKey->isHotKeyRegistered())) {
+    const bool isToGo = isDoublePressAlone_ || isAnotherActions(key);
+    if (isChanged || (isToGo && key.hotKey->isHotKeyRegistered())) {
         key.hotKey->unregisterAsHotKey();
         key.refusal = Refusal::GivenUp;
     }
 }
 
 void AgentHotKeys::registerKeys()
+{
+    registerAll();
+    lookForFreeModifiers();
+}
+
+void AgentHotKeys::lookForFreeModifiers()
+{
+    const auto end = keys_.cbegin() + KTXMovementKeyCount;
+    const bool isAnyHeld =
+        std::any_of(keys_.cbegin(), end, [](const ActionKey &key) { return refusalNow(key) == Refusal::OtherProgram; });
+    freeModifiers_.clear();
+    if (!isAnyHeld)
+        return;
+    QList<VirtualKeyCode> keyCodes;
+    std::transform(
+        keys_.cbegin(), end, std::back_inserter(keyCodes), [](const ActionKey &key) { return key.hotKey->keycode(); });
+    freeModifiers_ = LMFreeHotKeyModifiers(keyCodes, proposedModifiers());
+}
+
+void AgentHotKeys::registerAll()
 {
     for (ActionKey &key : keys_) {
         registerKey(key);
@@ -70,7 +117,7 @@ void AgentHotKeys::registerKey(ActionKey &key)
     const Refusal before = std::exchange(key.refusal, registration(key));
     // Where no key can be registered, that has been said once for all of them.
     const bool isOfThisKey =
-        key.refusal != Refusal::None && key.refusal != Refusal::NoModifiers && key.refusal != Refusal::NoHotKeys;
+        key.refusal != Refusal::None && !isOfAllKeys(key.refusal) && key.refusal != Refusal::NoHotKeys;
     if (isOfThisKey && key.refusal != before) {
         NSLog(QStringLiteral("lumaroo: agent: %1 (%2) is not registered: %3")
                   .arg(key.hotKey->description(), key.action, text(key.refusal)));
@@ -81,7 +128,24 @@ AgentHotKeys::Refusal AgentHotKeys::registration(const ActionKey &key) const
 {
     if (key.hotKey->modifiers() == 0)
         return Refusal::NoModifiers;
-    return isAnotherActions(key) ? Refusal::OtherAction : refusalOf(key.hotKey->registerAsHotKey());
+    if (isDoublePressAlone_)
+        return Refusal::DoublePressAlone;
+    if (isAnotherActions(key))
+        return Refusal::OtherAction;
+    if (key.hotKey->modifiers() == KTXShiftModifier && typesCharacter(key.hotKey->keycode()))
+        return Refusal::Typing;
+    return refusalOf(key.hotKey->registerAsHotKey());
+}
+
+/// Whether the X server had no say in it.
+bool AgentHotKeys::isDecidedHere(Refusal refusal)
+{
+    return isOfAllKeys(refusal) || refusal == Refusal::OtherAction || refusal == Refusal::Typing;
+}
+
+bool AgentHotKeys::isOfAllKeys(Refusal refusal)
+{
+    return refusal == Refusal::NoModifiers || refusal == Refusal::DoublePressAlone;
 }
 
 /// Whether an action before it has the same key.
@@ -98,6 +162,7 @@ void AgentHotKeys::release()
         key.hotKey->unregisterAsHotKey();
         key.refusal = Refusal::GivenUp;
     }
+    freeModifiers_.clear();
 }
 
 void AgentHotKeys::handlePress(const QVariant &hotKey)
@@ -106,9 +171,8 @@ void AgentHotKeys::handlePress(const QVariant &hotKey)
         if (hotKey.value<KTXHotKey *>() != key.hotKey.get())
             continue;
         // The keyboard is free only then.
-        const auto act = [this, action = key.action, combination = key.hotKey->description()] {
-            Q_EMIT pressed(action, combination);
-        };
+        const auto act = [this, action = key.action, combination = key.hotKey->description(),
+                             time = LMCurrentEventTime()] { Q_EMIT pressed(action, combination, time); };
         QMetaObject::invokeMethod(this, act, Qt::QueuedConnection);
     }
 }
@@ -116,9 +180,10 @@ void AgentHotKeys::handlePress(const QVariant &hotKey)
 void AgentHotKeys::handleLoss()
 {
     for (ActionKey &key : keys_) {
-        if (key.refusal != Refusal::NoModifiers && key.refusal != Refusal::OtherAction)
+        if (!isDecidedHere(key.refusal))
             key.refusal = Refusal::NoHotKeys;
     }
+    freeModifiers_.clear();
 }
 
 QList<AgentHotKey> AgentHotKeys::hotKeys() const
@@ -157,8 +222,12 @@ QString AgentHotKeys::text(Refusal refusal)
         return {};
     case Refusal::NoModifiers:
         return QStringLiteral("no modifiers are chosen");
+    case Refusal::DoublePressAlone:
+        return QStringLiteral("pressing the modifiers twice is what begins");
     case Refusal::OtherAction:
         return QStringLiteral("another action has the same key");
+    case Refusal::Typing:
+        return QStringLiteral("Shift alone would take the characters you type");
     case Refusal::OtherProgram:
         return QStringLiteral("another program holds it");
     case Refusal::NoKey:

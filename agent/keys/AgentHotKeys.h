@@ -37,14 +37,27 @@ public:
 
     /// In the order of the actions.
     QList<AgentHotKey> hotKeys() const;
+    /// Masks of modifiers with which nobody holds a movement key, best first. Looked for while another program holds
+    /// one of those with the modifiers that are set; empty otherwise.
+    const QList<quint32> &freeModifiers() const { return freeModifiers_; }
 
 Q_SIGNALS:
-    /// The keyboard is free: a window may be shown, and a menu opened.
-    void pressed(const QString &action, const QString &combination);
+    /// The keyboard is free: a window may be shown, and a menu opened. The time is the display's, in milliseconds.
+    void pressed(const QString &action, const QString &combination, quint32 time);
 
 private:
     /// Why a key is not registered.
-    enum class Refusal { None, NoModifiers, OtherAction, OtherProgram, NoKey, NoHotKeys, GivenUp };
+    enum class Refusal {
+        None,
+        NoModifiers,
+        DoublePressAlone,
+        OtherAction,
+        Typing,
+        OtherProgram,
+        NoKey,
+        NoHotKeys,
+        GivenUp
+    };
     struct ActionKey
     {
         QString action;
@@ -54,15 +67,21 @@ private:
 
     void give(ActionKey &key, VirtualKeyCode keyCode, quint32 modifiers);
     void registerKeys();
+    void registerAll();
     void registerKey(ActionKey &key);
+    void lookForFreeModifiers();
     Refusal registration(const ActionKey &key) const;
     bool isAnotherActions(const ActionKey &key) const;
     void handlePress(const QVariant &hotKey);
     void handleLoss();
+    static bool isDecidedHere(Refusal refusal);
+    static bool isOfAllKeys(Refusal refusal);
     static Refusal refusalOf(OSStatus status);
     static Refusal refusalNow(const ActionKey &key);
     static QString text(Refusal refusal);
 
     QList<ActionKey> keys_;
+    QList<quint32> freeModifiers_;
+    bool isDoublePressAlone_ = false; ///< what begins a selection
     bool saidNoModifiers_ = false;
 };

@@ -1,13 +1,15 @@
 #pragma once
 
-#include <QObject>
+#include "agent/keys/ActionKeyTable.h"
+#include "agent/keys/ChordPresses.h"
+#include "agent/keys/DigitKeys.h"
+#include "agent/keys/KeyRepeat.h"
+#include "agent/keys/Keyboard.h"
+
+#include <QElapsedTimer>
 #include <QSet>
-#include <QString>
-#include <QVariantMap>
-#include <memory>
 
 class AgentHotKeys;
-class GestureKeysState;
 
 /// What the keyboard does to begin a gesture and during one. Main thread; every event comes with the display's own time
 /// of it, in milliseconds. At rest nothing but a modifier key wakes it up.
@@ -75,5 +77,41 @@ Q_SIGNALS:
     void lost();
 
 private:
-    std::unique_ptr<GestureKeysState> state_;
+    void handleHotKey(const QString &action, quint32 time);
+    void handleModifiers(quint32 held, quint32 time);
+    void handleKey(const KeyEvent &key);
+    void handleOurKey(const KeyEvent &key);
+    void handleRelease(const KeyEvent &key);
+    void handleButton(bool isWheel, quint32 time);
+    void handleDigit(int digit, quint32 time);
+    void handleLoss();
+
+    void startRepeat(const QString &action);
+    void repeat();
+    void stopRepeat();
+    void checkRelease();
+    void tellRelease(quint32 time);
+    void tellChord(ChordPresses::Outcome outcome, quint32 time);
+    void somethingElseWasPressed();
+    void tryToGrab();
+    void note(quint32 time);
+    quint32 timeNow() const;
+    void updateWatch();
+
+    std::unique_ptr<Keyboard> keyboard_;
+    ActionKeyTable keys_;
+    ChordPresses chord_;
+    QTimer chordWatch_; ///< runs while it matters what else is pressed
+    KeyRepeat repeat_;
+    QString repeatedAction_;
+    DigitKeys digitKeys_;
+    QSet<int> digits_; ///< that were asked for
+    QTimer releaseCheck_; ///< runs while the modifiers' release is waited for
+    QTimer grabRetry_;
+    int grabTries_ = 0;
+    bool isOn_ = false; ///< a gesture
+    bool isGrabbed_ = false;
+    Keyboard::Events watched_;
+    quint32 lastTime_ = 0;
+    QElapsedTimer sinceLastTime_;
 };

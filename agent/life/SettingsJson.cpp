@@ -61,11 +61,21 @@ QJsonArray hotKeyArray(const QList<AgentHotKey> &hotKeys)
     return array;
 }
 
+QJsonArray numberArray(const QList<quint32> &numbers)
+{
+    QJsonArray array;
+    for (const quint32 number : numbers)
+        array.append(qint64(number));
+    return array;
+}
+
 } // namespace
 
-QByteArray settingsJson(int version, qint64 readings, const QVariantMap &settings, const QList<AgentHotKey> &hotKeys)
+QByteArray settingsJson(int version, qint64 readings, const QVariantMap &settings, const QList<AgentHotKey> &hotKeys,
+    const QList<quint32> &freeModifiers)
 {
     const QJsonObject object{{QStringLiteral("version"), version}, {QStringLiteral("readings"), readings},
-        {QStringLiteral("settings"), jsonObject(settings)}, {QStringLiteral("hotKeys"), hotKeyArray(hotKeys)}};
+        {QStringLiteral("settings"), jsonObject(settings)}, {QStringLiteral("hotKeys"), hotKeyArray(hotKeys)},
+        {QStringLiteral("freeModifiers"), numberArray(freeModifiers)}};
     return QJsonDocument(object).toJson();
 }

@@ -25,7 +25,7 @@ QVariant effective(const QString &key, const QVariant &stored)
 QJsonObject shown(const QVariantMap &settings)
 {
     const QList<AgentHotKey> hotKeys{{"moveUpHotKey", 126, "⌃⌥↑", {}}, {"closeWindow", 13, "⌃⌥W", "taken"}};
-    return QJsonDocument::fromJson(settingsJson(100, 7, settings, hotKeys)).object();
+    return QJsonDocument::fromJson(settingsJson(100, 7, settings, hotKeys, {0x1100, 0x1900})).object();
 }
 
 QJsonValue shownValue(const QVariant &value)
@@ -160,7 +160,8 @@ TEST(AgentSettings, leaveOutKeysThatNobodyAgreedOn)
 TEST(TheShownSettings, holdVersionReadingsAndEveryKey)
 {
     const QJsonObject object = shown(effectiveSettings({}));
-    EXPECT_EQ(object.keys(), QStringList({"hotKeys", "readings", "settings", "version"}));
+    EXPECT_EQ(object.keys(), QStringList({"freeModifiers", "hotKeys", "readings", "settings", "version"}));
+    EXPECT_EQ(object.value("freeModifiers").toArray(), (QJsonArray{0x1100, 0x1900}));
     EXPECT_EQ(object.value("version").toInt(), 100);
     EXPECT_EQ(object.value("readings").toInt(), 7);
     EXPECT_EQ(object.value("settings").toObject().size(), KTXSettings().size());

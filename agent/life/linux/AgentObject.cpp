@@ -30,8 +30,8 @@ int AgentObject::Version() const
 
 QString AgentObject::Settings() const
 {
-    const QByteArray json =
-        settingsJson(agent_.version(), agent_.readings(), agent_.settings(), agent_.hotKeys().hotKeys());
+    const QByteArray json = settingsJson(agent_.version(), agent_.readings(), agent_.settings(),
+        agent_.hotKeys().hotKeys(), agent_.hotKeys().freeModifiers());
     if (json.size() <= largestAnswer)
         return QString::fromUtf8(json);
     sendErrorReply(QDBusError::LimitsExceeded, QStringLiteral("what the agent has read is too large to be shown"));

@@ -1,0 +1,253 @@
+#include "agent/keys/x11/XKeyboard.h"
+
+#include "platform/foundation/hotkeys/HotKeys.h"
+
+#include <algorithm>
+#include <xcb/xinput.h>
+
+namespace {
+
+constexpr quint16 keyboardEvents =
+    XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY | XCB_XKB_EVENT_TYPE_STATE_NOTIFY;
+constexpr quint16 mapParts = XCB_XKB_MAP_PART_KEY_SYMS | XCB_XKB_MAP_PART_MODIFIER_MAP;
+// The first in which a grab does not hide raw events.
+constexpr quint16 inputMajor = 2, inputMinor = 1;
+constexpr int modifierCount = 8;
+constexpr quint16 buttons = XCB_BUTTON_MASK_1 | XCB_BUTTON_MASK_2 | XCB_BUTTON_MASK_3;
+
+} // namespace
+
+bool XKeyboard::open()
+{
+    if (connection_)
+        return true;
+    // There it shows what goes to programs of the X server alone.
+    if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        return false;
+    connection_ = connectToXServer();
+    if (xcb_connection_has_error(connection_.get()) || !start()) {
+        connection_ = nullptr;
+        return false;
+    }
+    notifier_ = std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(connection_.get()), QSocketNotifier::Read);
+    connect(notifier_.get(), &QSocketNotifier::activated, this, [this] { handleEvents(); });
+    handleLater();
+    return true;
+}
+
+bool XKeyboard::start()
+{
+    root_ = xcb_setup_roots_iterator(xcb_get_setup(connection_.get())).data->root;
+    if (!startKeyboardEvents() || !startInputEvents() || !readMapping())
+        return false;
+    watch({});
+    return true;
+}
+
+bool XKeyboard::startKeyboardEvents()
+{
+    xcb_connection_t *const server = connection_.get();
+    const auto use = fromServer(xcb_xkb_use_extension_reply(
+        server, xcb_xkb_use_extension(server, XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION), nullptr));
+    if (!use || !use->supported)
+        return false;
+    firstKeyboardEvent_ = xcb_get_extension_data(server, &xcb_xkb_id)->first_event;
+    constexpr quint32 detectableRepeat = XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT;
+    const auto flags =
+        xcb_xkb_per_client_flags(server, XCB_XKB_ID_USE_CORE_KBD, detectableRepeat, detectableRepeat, 0, 0, 0);
+    xcb_xkb_select_events_details_t details{};
+    details.affectNewKeyboard = details.newKeyboardDetails = XCB_XKB_NKN_DETAIL_KEYCODES | XCB_XKB_NKN_DETAIL_DEVICE_ID;
+    // What is latched or locked is not held.
+    details.affectState = details.stateDetails = XCB_XKB_STATE_PART_MODIFIER_BASE;
+    const auto select = xcb_xkb_select_events_aux_checked(
+        server, XCB_XKB_ID_USE_CORE_KBD, keyboardEvents, 0, 0, mapParts, mapParts, &details);
+    return fromServer(xcb_xkb_per_client_flags_reply(server, flags, nullptr))
+        && !fromServer(xcb_request_check(server, select));
+}
+
+bool XKeyboard::startInputEvents()
+{
+    xcb_connection_t *const server = connection_.get();
+    const xcb_query_extension_reply_t *extension = xcb_get_extension_data(server, &xcb_input_id);
+    if (!extension || !extension->present)
+        return false;
+    inputExtension_ = extension->major_opcode;
+    const auto version = fromServer(
+        xcb_input_xi_query_version_reply(server, xcb_input_xi_query_version(server, inputMajor, inputMinor), nullptr));
+    return version && std::pair(version->major_version, version->minor_version) >= std::pair(inputMajor, inputMinor);
+}
+
+void XKeyboard::watch(Events events)
+{
+    if (!connection_)
+        return;
+    // Of every device, since a program that holds up all keys holds up those of the keyboard that unites them.
+    struct
+    {
+        xcb_input_event_mask_t head;
+        quint32 mask;
+    } selection{{XCB_INPUT_DEVICE_ALL, 1}, XCB_INPUT_XI_EVENT_MASK_HIERARCHY};
+    if (events & KeyPresses)
+        selection.mask |= XCB_INPUT_XI_EVENT_MASK_RAW_KEY_PRESS;
+    if (events & KeyReleases)
+        selection.mask |= XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE;
+    if (events & Buttons)
+        selection.mask |= XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS;
+    xcb_input_xi_select_events(connection_.get(), root_, 1, &selection.head);
+    xcb_flush(connection_.get());
+}
+
+void XKeyboard::readMappingIfDue()
+{
+    if (isMappingDue_)
+        readMapping();
+}
+
+bool XKeyboard::readMapping()
+{
+    xcb_connection_t *const server = connection_.get();
+    const auto question = xcb_get_modifier_mapping(server);
+    const auto mapping = readKeyboardMapping(server);
+    const auto modifiers = fromServer(xcb_get_modifier_mapping_reply(server, question, nullptr));
+    if (!mapping || !modifiers)
+        return false;
+    mapping_ = *mapping;
+    modifiersOfKeys_ = {};
+    const xcb_keycode_t *keycodes = xcb_get_modifier_mapping_keycodes(modifiers.get());
+    for (int place = 0; place < modifierCount * modifiers->keycodes_per_modifier; ++place)
+        modifiersOfKeys_[keycodes[place]] |= quint16(1 << place / modifiers->keycodes_per_modifier);
+    // A modifier has places for more keys than it has.
+    modifiersOfKeys_[0] = 0;
+    isMappingDue_ = false;
+    return true;
+}
+
+void XKeyboard::readDevicesIfDue()
+{
+    if (!devices_.empty())
+        return;
+    const auto question = xcb_input_xi_query_device(connection_.get(), XCB_INPUT_DEVICE_ALL);
+    const auto answer = fromServer(xcb_input_xi_query_device_reply(connection_.get(), question, nullptr));
+    if (!answer)
+        return;
+    auto device = xcb_input_xi_query_device_infos_iterator(answer.get());
+    for (; device.rem > 0; xcb_input_xi_device_info_next(&device)) {
+        const quint16 type = device.data->type;
+        // Some mice have keys.
+        if (type == XCB_INPUT_DEVICE_TYPE_SLAVE_KEYBOARD || type == XCB_INPUT_DEVICE_TYPE_SLAVE_POINTER)
+            devices_.push_back(device.data->deviceid);
+    }
+}
+
+quint32 XKeyboard::asModifiers(quint16 serverModifiers) const
+{
+    const std::pair<quint32, quint16> bits[]{{shiftKey, XCB_MOD_MASK_SHIFT}, {controlKey, XCB_MOD_MASK_CONTROL},
+        {optionKey, mapping_.option}, {cmdKey, mapping_.command}};
+    quint32 modifiers = 0;
+    for (const auto &[modifier, bit] : bits) {
+        if (serverModifiers & bit)
+            modifiers |= modifier;
+    }
+    return modifiers;
+}
+
+/// By the keyboard that unites the devices, and by those themselves: they know of a release that another program holds
+/// up.
+quint16 XKeyboard::heldServerModifiers()
+{
+    xcb_connection_t *const server = connection_.get();
+    const auto ofKeyboard = xcb_xkb_get_state(server, XCB_XKB_ID_USE_CORE_KBD);
+    std::vector<xcb_xkb_get_state_cookie_t> ofDevices;
+    for (const quint16 device : devices_)
+        ofDevices.push_back(xcb_xkb_get_state(server, device));
+    const auto state = fromServer(xcb_xkb_get_state_reply(server, ofKeyboard, nullptr));
+    quint16 onDevices = 0;
+    bool isTold = false;
+    for (const xcb_xkb_get_state_cookie_t question : ofDevices) {
+        // None comes from a device without keys.
+        if (const auto ofDevice = fromServer(xcb_xkb_get_state_reply(server, question, nullptr))) {
+            isTold = true;
+            onDevices |= ofDevice->baseMods;
+        }
+    }
+    const quint16 held = state ? state->baseMods : 0;
+    return isTold ? held & onDevices : held;
+}
+
+quint32 XKeyboard::heldModifiers()
+{
+    if (!connection_)
+        return 0;
+    readMappingIfDue();
+    readDevicesIfDue();
+    const quint16 held = heldServerModifiers();
+    handleLater();
+    return asModifiers(held);
+}
+
+XKeyboard::HeldKeys XKeyboard::heldKeys(xcb_query_keymap_cookie_t question)
+{
+    const auto answer = fromServer(xcb_query_keymap_reply(connection_.get(), question, nullptr));
+    HeldKeys held;
+    for (size_t keycode = 0; answer && keycode < held.size(); ++keycode)
+        held[keycode] = answer->keys[keycode / 8] & (1 << (keycode % 8));
+    handleLater();
+    return held;
+}
+
+bool XKeyboard::isHeld(VirtualKeyCode keyCode)
+{
+    if (!connection_)
+        return false;
+    readMappingIfDue();
+    const HeldKeys held = heldKeys(xcb_query_keymap(connection_.get()));
+    const QList<PhysicalKey> keys = physicalKeysOf(keyCode);
+    return std::any_of(keys.cbegin(), keys.cend(), [&](const PhysicalKey &key) {
+        const auto keycode = mapping_.keys.keycodeOf(key);
+        return keycode && held.test(*keycode);
+    });
+}
+
+bool XKeyboard::isAnythingHeldBut(quint32 modifiers)
+{
+    if (!connection_)
+        return false;
+    readMappingIfDue();
+    const auto ofPointer = xcb_query_pointer(connection_.get(), root_);
+    const HeldKeys held = heldKeys(xcb_query_keymap(connection_.get()));
+    const auto pointer = fromServer(xcb_query_pointer_reply(connection_.get(), ofPointer, nullptr));
+    if (pointer && pointer->mask & buttons)
+        return true;
+    for (size_t keycode = 0; keycode < held.size(); ++keycode) {
+        if (held.test(keycode) && !(asModifiers(modifiersOfKeys_[keycode]) & modifiers))
+            return true;
+    }
+    return false;
+}
+
+bool XKeyboard::grab()
+{
+    if (!connection_)
+        return false;
+    const auto question =
+        xcb_grab_keyboard(connection_.get(), false, root_, XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    const auto keys = xcb_query_keymap(connection_.get());
+    const auto answer = fromServer(xcb_grab_keyboard_reply(connection_.get(), question, nullptr));
+    isGrabbed_ = answer && answer->status == XCB_GRAB_STATUS_SUCCESS;
+    // What is down by then is not pressed.
+    down_ = heldKeys(keys);
+    return isGrabbed_;
+}
+
+void XKeyboard::letGo()
+{
+    if (!std::exchange(isGrabbed_, false) || !connection_)
+        return;
+    xcb_ungrab_keyboard(connection_.get(), XCB_CURRENT_TIME);
+    xcb_flush(connection_.get());
+}
+
+std::unique_ptr<Keyboard> keyboard()
+{
+    return std::make_unique<XKeyboard>();
+}

@@ -1,0 +1,121 @@
+// What the server tells, and what becomes of it.
+
+#include "agent/keys/x11/XKeyboard.h"
+
+#include <xcb/xinput.h>
+
+namespace {
+
+constexpr quint16 realModifiers = 0xff; // in a key event, buttons and the layout's group stand beside them
+constexpr quint32 firstWheelButton = 4, lastWheelButton = 7;
+
+} // namespace
+
+/// What came in while an answer was waited for makes the socket readable no more.
+void XKeyboard::handleLater()
+{
+    if (std::exchange(isHandlingDue_, true))
+        return;
+    const auto handle = [this] {
+        isHandlingDue_ = false;
+        handleEvents();
+    };
+    QMetaObject::invokeMethod(this, handle, Qt::QueuedConnection);
+}
+
+void XKeyboard::handleEvents()
+{
+    while (connection_) {
+        const auto event = fromServer(xcb_poll_for_event(connection_.get()));
+        if (xcb_connection_has_error(connection_.get()))
+            handleLoss();
+        else if (!event)
+            return;
+        else
+            handle(event.get());
+    }
+}
+
+void XKeyboard::handle(const xcb_generic_event_t *event)
+{
+    const quint8 type = event->response_type & eventTypeMask;
+    if (type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE)
+        handleGrabbedKey(reinterpret_cast<const xcb_key_press_event_t *>(event), type == XCB_KEY_PRESS);
+    else if (type == XCB_GE_GENERIC)
+        handleInputEvent(event);
+    else if (type == firstKeyboardEvent_)
+        handleKeyboardEvent(event);
+}
+
+void XKeyboard::handleKeyboardEvent(const xcb_generic_event_t *event)
+{
+    if (event->pad0 != XCB_XKB_STATE_NOTIFY) {
+        isMappingDue_ = true;
+        return;
+    }
+    readMappingIfDue();
+    const auto *state = reinterpret_cast<const xcb_xkb_state_notify_event_t *>(event);
+    Q_EMIT modifiersChanged(asModifiers(state->baseMods), state->time);
+}
+
+void XKeyboard::handleInputEvent(const xcb_generic_event_t *event)
+{
+    const auto *raw = reinterpret_cast<const xcb_input_raw_key_press_event_t *>(event);
+    if (raw->extension != inputExtension_)
+        return;
+    if (raw->event_type == XCB_INPUT_HIERARCHY) {
+        devices_.clear();
+        return;
+    }
+    // Each comes a second time, of the keyboard or pointer that unites the devices.
+    if (raw->deviceid != raw->sourceid)
+        return;
+    if (raw->event_type == XCB_INPUT_RAW_BUTTON_PRESS)
+        Q_EMIT buttonPressed(raw->detail >= firstWheelButton && raw->detail <= lastWheelButton, raw->time);
+    else if (raw->event_type == XCB_INPUT_RAW_KEY_PRESS || raw->event_type == XCB_INPUT_RAW_KEY_RELEASE)
+        handleRawKey(raw, raw->event_type == XCB_INPUT_RAW_KEY_PRESS);
+}
+
+KeyEvent XKeyboard::keyEvent(quint8 keycode, quint32 time) const
+{
+    const quint16 modifiers = modifiersOfKeys_[keycode];
+    return {mapping_.keys.virtualKeyCodeOf(keycode), modifiers != 0, asModifiers(modifiers), 0, time};
+}
+
+void XKeyboard::handleRawKey(const xcb_input_raw_key_press_event_t *event, bool isPress)
+{
+    readMappingIfDue();
+    const KeyEvent key = keyEvent(quint8(event->detail), event->time);
+    if (!isPress)
+        Q_EMIT keyReleased(key);
+    // While the keyboard is grabbed, its presses come by that.
+    else if (!isGrabbed_)
+        Q_EMIT keyPressed(key);
+}
+
+void XKeyboard::handleGrabbedKey(const xcb_key_press_event_t *event, bool isPress)
+{
+    const bool wasDown = down_.test(event->detail);
+    down_.set(event->detail, isPress);
+    // One that is on its way when the keyboard is let go goes nowhere.
+    if (!isGrabbed_ || (isPress && wasDown))
+        return;
+    readMappingIfDue();
+    KeyEvent key = keyEvent(event->detail, event->time);
+    key.held = asModifiers(event->state & realModifiers);
+    if (isPress)
+        Q_EMIT keyPressed(key);
+    else
+        Q_EMIT keyReleased(key);
+}
+
+void XKeyboard::handleLoss()
+{
+    // Later: the notifier may be the one that calls.
+    notifier_->setEnabled(false);
+    notifier_.release()->deleteLater();
+    connection_ = nullptr;
+    isGrabbed_ = false;
+    devices_.clear();
+    Q_EMIT lost();
+}
