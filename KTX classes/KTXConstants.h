@@ -62,6 +62,7 @@ inline const QString KTXVisualMode = QStringLiteral("visualMode");
 inline const QString KTXShouldToggle = QStringLiteral("Toggle");
 inline const QString KTXShouldBeep = QStringLiteral("Beep");
 inline const QString KTXTutorialDone = QStringLiteral("tutorialWasClosed");
+inline const QString KTXExcludedApplications = QStringLiteral("excludedApplications");
 
 // Notifications.
 

@@ -53,6 +53,7 @@ QList<KTXSetting> allSettings()
         {KTXShouldToggle, Boolean, false},
         {KTXShouldBeep, Boolean, false},
         {KTXTutorialDone, Boolean, false},
+        {KTXExcludedApplications, Texts, QVariantList()},
     };
     return beforeTheKeys + hotKeySettings() + afterTheKeys;
 }

@@ -16,6 +16,7 @@ enum class KTXSettingType {
     SortOrder, ///< a text that an item of the key's pop-up stores; else absent
     Color, ///< the archive of a colour; else absent
     HotKey, ///< a dictionary with a key code; else absent
+    Texts, ///< a list of texts and nothing else; else absent
 };
 
 /// A key with the value that goes where nothing is stored; no value means that there is none to go by.

@@ -7,6 +7,7 @@ const char *const agentHelp =
 
 usage: LumarooAgent [--foreground]
        LumarooAgent --print-settings
+       LumarooAgent --print-windows
        LumarooAgent --set KEY [-TYPE] VALUE
        LumarooAgent --start-at-login on|off
        LumarooAgent --quit
@@ -14,6 +15,7 @@ usage: LumarooAgent [--foreground]
   without an option      runs until it is told to quit; at most one runs in a session
   --foreground           runs, with a line on standard output for each event
   --print-settings       prints what the running agent has read, and which of its keys are registered, as JSON
+  --print-windows        prints all windows as they are now, and why some of them cannot be selected; needs no running agent
   --set                  stores a setting, tells the running agent and announces the change
   --start-at-login       whether the desktop starts the agent at login; at first it does not
   --quit                 asks the running agent to quit, and waits until it has
@@ -38,7 +40,8 @@ using Action = AgentRequest::Action;
 const QHash<QString, Action> &actions()
 {
     static const QHash<QString, Action> all{{QStringLiteral("--foreground"), Action::Run},
-        {QStringLiteral("--print-settings"), Action::PrintSettings}, {QStringLiteral("--set"), Action::Set},
+        {QStringLiteral("--print-settings"), Action::PrintSettings},
+        {QStringLiteral("--print-windows"), Action::PrintWindows}, {QStringLiteral("--set"), Action::Set},
         {QStringLiteral("--start-at-login"), Action::StartAtLogin}, {QStringLiteral("--quit"), Action::Quit},
         {QStringLiteral("--help"), Action::Help}, {QStringLiteral("-h"), Action::Help},
         {QStringLiteral("--version"), Action::Version}};

@@ -5,7 +5,7 @@
 /// What the command line asks of the program.
 struct AgentRequest
 {
-    enum class Action { Run, PrintSettings, Set, StartAtLogin, Quit, Help, Version };
+    enum class Action { Run, PrintSettings, PrintWindows, Set, StartAtLogin, Quit, Help, Version };
     Action action = Action::Run;
     bool foreground = false; ///< say on standard output what happens
     QString key; ///< what to set

@@ -1,11 +1,15 @@
 #include "agent/life/AgentCommands.h"
 
 #include "KTXConstants.h"
+#include "agent/life/AgentSettings.h"
 #include "agent/life/LoginEntry.h"
 #include "agent/life/linux/RunningAgent.h"
+#include "agent/windows/WindowSystem.h"
+#include "agent/windows/WindowTable.h"
 #include "platform/foundation/notifications/CFNotificationCenter.h"
 #include "platform/foundation/notifications/SessionBus.h"
 #include "platform/foundation/preferences/CFPreferences.h"
+#include "platform/foundation/preferences/NSUserDefaults.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -27,6 +31,16 @@ void printSettings(const AgentRequest &)
     if (answer.outcome == AgentAnswer::Outcome::Failed)
         throw CommandFailure(answer.text);
     print(answer.text.toUtf8().constData());
+}
+
+void printWindows(const AgentRequest &)
+{
+    const QVariantMap stored = NSUserDefaults::standardUserDefaults()->persistentDomainForName(KTXLMAppID);
+    QString failure;
+    const auto world = windowSystem()->read(windowChoice(effectiveSettings(stored)), &failure);
+    if (!world)
+        throw CommandFailure(QStringLiteral("the windows cannot be read: %1").arg(failure));
+    print(windowTable(*world).toUtf8().constData());
 }
 
 /// The agent that runs does not listen to what agents announce, so it is told.
@@ -86,7 +100,7 @@ void perform(const AgentRequest &request)
 {
     using Action = AgentRequest::Action;
     static const QHash<Action, void (*)(const AgentRequest &)> commands{{Action::PrintSettings, printSettings},
-        {Action::Set, setValue}, {Action::StartAtLogin, startAtLogin}, {Action::Quit, quit}, {Action::Help, help},
-        {Action::Version, version}};
+        {Action::PrintWindows, printWindows}, {Action::Set, setValue}, {Action::StartAtLogin, startAtLogin},
+        {Action::Quit, quit}, {Action::Help, help}, {Action::Version, version}};
     commands.value(request.action)(request);
 }

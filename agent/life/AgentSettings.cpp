@@ -38,6 +38,14 @@ QVariant asColor(const QVariant &value)
     return isColor ? value : QVariant();
 }
 
+QVariant asTexts(const QVariant &value)
+{
+    const auto isText = [](const QVariant &item) { return CFGetTypeID(item) == CFTypeID::String; };
+    const QVariantList items = value.toList();
+    const bool isList = CFGetTypeID(value) == CFTypeID::Array;
+    return isList && std::all_of(items.cbegin(), items.cend(), isText) ? value : QVariant();
+}
+
 /// A stored value in the form of its setting, or no value where it counts as absent.
 QVariant accepted(const KTXSetting &setting, const QVariant &value)
 {
@@ -58,6 +66,8 @@ QVariant accepted(const KTXSetting &setting, const QVariant &value)
         return asColor(value);
     case KTXSettingType::HotKey:
         return keyCodeOf(value) ? value : QVariant();
+    case KTXSettingType::Texts:
+        return asTexts(value);
     }
     return value;
 }

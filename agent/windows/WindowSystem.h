@@ -1,20 +1,11 @@
 #pragma once
 
+#include "agent/windows/WindowChoice.h"
 #include "agent/windows/WindowWorld.h"
 
 #include <QObject>
-#include <QStringList>
 #include <memory>
 #include <optional>
-
-/// Which windows can be selected.
-struct WindowChoice
-{
-    bool showsHidden = false; ///< minimised ones too
-    QStringList excludedApplications; ///< classes of programs whose windows are left out
-
-    bool operator==(const WindowChoice &) const = default;
-};
 
 /// The door to the desktop's windows. What is behind it is decided by windowSystem() alone; nothing is watched between
 /// two calls.
@@ -23,12 +14,13 @@ class WindowSystem : public QObject
     Q_OBJECT
 
 public:
-    /// All windows as they are now; no value where the desktop does not tell them, which `failure` says.
+    /// All windows as they are now; no value where the desktop does not tell them: `failure` then is a clause that says
+    /// why. Waits for the display. Once the display has gone, no later reading works.
     virtual std::optional<WindowWorld> read(const WindowChoice &choice, QString *failure) = 0;
 
     /// Turns to a window: its desktop, and it in front with the focus, also where it is minimised. `time` is that of
-    /// the key or button that decided, in the display's own clock. Returns at once; activated() or notActivated()
-    /// follows within 500 ms, unless activate() is called again before.
+    /// the key or button that decided, in the display's own clock, and never 0. Returns at once; activated() or
+    /// notActivated() follows later, within 500 ms, unless activate() is called again before.
     virtual void activate(quint32 windowID, quint32 time) = 0;
 
 Q_SIGNALS:

@@ -22,10 +22,11 @@ FromServer<Type> fromServer(Type *memory)
     return {memory, &std::free};
 }
 
-/// A connection of its own. One that failed is an object too: ask xcb_connection_has_error().
-inline XConnection connectToXServer()
+/// A connection of its own, and the number of the screen that is meant. One that failed is an object too: ask
+/// xcb_connection_has_error().
+inline XConnection connectToXServer(int *screen = nullptr)
 {
-    return {xcb_connect(nullptr, nullptr), &xcb_disconnect};
+    return {xcb_connect(nullptr, screen), &xcb_disconnect};
 }
 
 /// The part of an event's response_type that tells its kind.

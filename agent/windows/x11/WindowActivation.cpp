@@ -1,0 +1,143 @@
+#include "agent/windows/x11/WindowActivation.h"
+
+#include "agent/windows/x11/PropertyRequest.h"
+
+#include <utility>
+
+namespace {
+
+constexpr int mostMilliseconds = 500;
+constexpr quint32 fromUserByPager = 2;
+constexpr quint32 onAllDesktops = 0xffffffff;
+constexpr quint32 mostStates = 64;
+// Of dialogs on dialogs.
+constexpr int mostParents = 8;
+
+std::optional<quint32> take(const WindowServer &server, xcb_get_property_cookie_t asked, xcb_atom_t type)
+{
+    return numberOf(ReceivedProperty(server.connection, asked).bytes(), type);
+}
+
+} // namespace
+
+WindowActivation::WindowActivation(const WindowServer &server)
+    : server_(server), input_(xcb_get_file_descriptor(server.connection), QSocketNotifier::Read)
+{
+    input_.setEnabled(false);
+    limit_.setSingleShot(true);
+    connect(&input_, &QSocketNotifier::activated, this, &WindowActivation::lookAtWhatCameMeanwhile);
+    connect(&limit_, &QTimer::timeout, this, [this] { finish(isActive()); });
+}
+
+void WindowActivation::begin(xcb_window_t window, xcb_timestamp_t time)
+{
+    window_ = window;
+    const bool isAsked = time != XCB_CURRENT_TIME && ask(time);
+    limit_.start(isAsked ? mostMilliseconds : 0);
+    input_.setEnabled(isAsked);
+    // It may be the active one already, and some of the manager's answer may have been read just now.
+    if (isAsked)
+        QMetaObject::invokeMethod(this, &WindowActivation::look, Qt::QueuedConnection);
+}
+
+/// False where the window has gone.
+bool WindowActivation::ask(xcb_timestamp_t time)
+{
+    const xcb_window_t root = server_.screen->root;
+    watchRoot(XCB_EVENT_MASK_PROPERTY_CHANGE);
+    const auto askedCurrent = askProperty(server_.connection, root, server_.atoms.currentDesktop, 1);
+    const ReceivedProperty own(
+        server_.connection, askProperty(server_.connection, window_, server_.atoms.windowDesktop, 1));
+    const auto current = take(server_, askedCurrent, XCB_ATOM_CARDINAL);
+    if (!own.isAnswered())
+        return false;
+    // First its desktop: else some managers refuse, and others bring the window to the desktop that is seen.
+    const auto desktop = numberOf(own.bytes(), XCB_ATOM_CARDINAL);
+    if (desktop && current && desktop != current && *desktop != onAllDesktops)
+        send(root, server_.atoms.currentDesktop, {.data32 = {*desktop, time}});
+    send(window_, server_.atoms.activeWindow, {.data32 = {fromUserByPager, time, XCB_WINDOW_NONE}});
+    return xcb_flush(server_.connection) > 0;
+}
+
+void WindowActivation::send(xcb_window_t window, xcb_atom_t message, const xcb_client_message_data_t &data)
+{
+    constexpr quint32 toManager = XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+    xcb_client_message_event_t event{};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 32;
+    event.window = window;
+    event.type = message;
+    event.data = data;
+    xcb_send_event(server_.connection, false, server_.screen->root, toManager, reinterpret_cast<const char *>(&event));
+}
+
+void WindowActivation::watchRoot(quint32 events)
+{
+    xcb_change_window_attributes(server_.connection, server_.screen->root, XCB_CW_EVENT_MASK, &events);
+}
+
+void WindowActivation::lookAtWhatCameMeanwhile()
+{
+    const bool isToLook = hasActiveWindowChanged();
+    if (window_ == XCB_WINDOW_NONE)
+        return;
+    if (xcb_connection_has_error(server_.connection))
+        finish(false);
+    else if (isToLook)
+        look();
+}
+
+/// Takes all events.
+bool WindowActivation::hasActiveWindowChanged()
+{
+    bool hasChanged = false;
+    while (const auto event = fromServer(xcb_poll_for_event(server_.connection))) {
+        const auto *change = reinterpret_cast<const xcb_property_notify_event_t *>(event.get());
+        hasChanged = hasChanged
+            || ((event->response_type & eventTypeMask) == XCB_PROPERTY_NOTIFY
+                && change->atom == server_.atoms.activeWindow);
+    }
+    return hasChanged;
+}
+
+void WindowActivation::look()
+{
+    // What comes in while an answer is waited for makes the socket readable no more.
+    do {
+        if (window_ != XCB_WINDOW_NONE && isActive())
+            finish(true);
+    } while (hasActiveWindowChanged());
+}
+
+bool WindowActivation::isActive() const
+{
+    const auto asked = askProperty(server_.connection, server_.screen->root, server_.atoms.activeWindow, 1);
+    const auto active = take(server_, asked, XCB_ATOM_WINDOW).value_or(XCB_WINDOW_NONE);
+    return active != XCB_WINDOW_NONE && (active == window_ || isModalChild(active));
+}
+
+bool WindowActivation::isModalChild(xcb_window_t window) const
+{
+    const auto askedState = askProperty(server_.connection, window, server_.atoms.windowState, mostStates);
+    const ReceivedProperty state(server_.connection, askedState);
+    if (!numbersOf(state.bytes(), XCB_ATOM_ATOM).value_or(QList<quint32>()).contains(server_.atoms.stateModal))
+        return false;
+    for (int step = 0; step < mostParents && window != XCB_WINDOW_NONE && window != window_; ++step) {
+        const auto asked = askProperty(server_.connection, window, XCB_ATOM_WM_TRANSIENT_FOR, 1);
+        window = take(server_, asked, XCB_ATOM_WINDOW).value_or(XCB_WINDOW_NONE);
+    }
+    return window == window_;
+}
+
+void WindowActivation::finish(bool isActive)
+{
+    const xcb_window_t window = std::exchange(window_, XCB_WINDOW_NONE);
+    limit_.stop();
+    input_.setEnabled(false);
+    watchRoot(XCB_EVENT_MASK_NO_EVENT);
+    xcb_flush(server_.connection);
+    if (isActive)
+        Q_EMIT activated(window);
+    else
+        Q_EMIT notActivated(window);
+}

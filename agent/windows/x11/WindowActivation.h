@@ -1,0 +1,40 @@
+#pragma once
+
+#include "agent/windows/x11/WindowServer.h"
+
+#include <QObject>
+#include <QSocketNotifier>
+#include <QTimer>
+
+/// Asks the window manager to turn to a window, and sees whether it has. Nothing is watched in between.
+class WindowActivation : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit WindowActivation(const WindowServer &server);
+
+    /// Gives up what was begun before.
+    void begin(xcb_window_t window, xcb_timestamp_t time);
+    /// To be called whenever answers have been waited for on the same connection.
+    void lookAtWhatCameMeanwhile();
+
+Q_SIGNALS:
+    void activated(quint32 windowID);
+    void notActivated(quint32 windowID);
+
+private:
+    bool ask(xcb_timestamp_t time);
+    void send(xcb_window_t window, xcb_atom_t message, const xcb_client_message_data_t &data);
+    void watchRoot(quint32 events);
+    void look();
+    bool hasActiveWindowChanged();
+    bool isActive() const;
+    bool isModalChild(xcb_window_t window) const;
+    void finish(bool isActive);
+
+    WindowServer server_;
+    xcb_window_t window_ = XCB_WINDOW_NONE; ///< the one that is turned to; none at rest
+    QSocketNotifier input_;
+    QTimer limit_;
+};

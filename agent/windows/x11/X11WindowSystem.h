@@ -1,0 +1,24 @@
+#pragma once
+
+#include "agent/windows/WindowSystem.h"
+#include "agent/windows/x11/WindowActivation.h"
+
+/// The windows of an X server, as its window manager tells them (EWMH).
+class X11WindowSystem : public WindowSystem
+{
+    Q_OBJECT
+
+public:
+    X11WindowSystem();
+
+    std::optional<WindowWorld> read(const WindowChoice &choice, QString *failure) override;
+    void activate(quint32 windowID, quint32 time) override;
+
+private:
+    bool open();
+
+    XConnection connection_; ///< null without a server
+    QString failure_; ///< why there is none
+    WindowServer server_{};
+    std::unique_ptr<WindowActivation> activation_;
+};
