@@ -1,50 +1,9 @@
-#include "ExpectedFrame.h"
-#include "KeyPress.h"
-#include "OtherClient.h"
-#include "ScreenPicture.h"
-#include "Wait.h"
-#include "agent/overlay/Overlay.h"
+#include "MarkOnGround.h"
 
-#include <QGuiApplication>
-#include <QScreen>
-#include <gtest/gtest.h>
-
-namespace {
-
-constexpr QRgb light = 0xfff4f4f4, dark = 0xff101418, blue = 0xff2060c0, yellow = 0xffffe040, black = 0xff000000,
-               white = 0xffffffff;
-
-NSColorRef colorOf(QRgb color, float alpha = 1)
-{
-    return NSColor::colorWithDeviceRGBA(
-        float(qRed(color)) / 255, float(qGreen(color)) / 255, float(qBlue(color)) / 255, alpha);
-}
-
-OverlayView viewOf(const QRect &rect, double scale = 1)
-{
-    OverlayView view;
-    view.windowRect = rect;
-    view.monitor = {QGuiApplication::primaryScreen()->geometry(), scale, 60};
-    return view;
-}
-
-/// The mark over a plain ground, without a compositor: nothing is seen through.
-class Frame : public testing::TestWithParam<QRgb>
-{
-protected:
-    void mark(const QRect &rect, double scale = 1) { overlay_->showOverlay(viewOf(rect, scale)); }
-    void useColor(QRgb color, float alpha = 1) { overlay_->setStyle({colorOf(color, alpha), false}); }
-    ExpectedFrame expected(const QRect &rect) const { return {rect, GetParam(), blue, white}; }
-
-    ScreenGround ground_{GetParam()};
-    std::unique_ptr<Overlay> overlay_ = overlay();
-};
-
-} // namespace
+using Frame = Mark;
 
 TEST_P(Frame, isDrawnInTheColourWithALineOnBothSides)
 {
-    useColor(blue);
     mark({100, 80, 400, 300});
     EXPECT_TRUE(showsOnScreen(expected({100, 80, 400, 300})));
 }
@@ -58,14 +17,13 @@ TEST_P(Frame, ofALightColourHasBlackLines)
 
 TEST_P(Frame, isNotSeenThroughWithoutACompositor)
 {
-    useColor(blue, 0.2F);
+    useColor(blue, 0.2);
     mark({100, 80, 400, 300});
     EXPECT_TRUE(showsOnScreen(expected({100, 80, 400, 300})));
 }
 
 TEST_P(Frame, isAsWideAsTheMonitorIsDense)
 {
-    useColor(blue);
     ExpectedFrame frame = expected({100, 80, 400, 300});
     mark(frame.rect, 2);
     frame.line = 2;
@@ -81,7 +39,6 @@ TEST_P(Frame, isAsWideAsTheMonitorIsDense)
 
 TEST_P(Frame, goesWhereItIsShownNext)
 {
-    useColor(blue);
     mark({100, 80, 400, 300});
     mark({200, 150, 400, 300});
     EXPECT_TRUE(showsOnScreen(expected({200, 150, 400, 300})));
@@ -103,14 +60,12 @@ TEST_P(Frame, takesAnotherColourAtTheNextShowing)
 TEST_P(Frame, reachesOverTheWholeDesktop)
 {
     const QRect desktop = screenPicture().rect();
-    useColor(blue);
     mark(desktop);
     EXPECT_TRUE(showsOnScreen(expected(desktop)));
 }
 
 TEST_P(Frame, ofASmallWindowFillsIt)
 {
-    useColor(blue);
     for (int side = 1; side <= 20; ++side) {
         ExpectedFrame frame = expected({100, 80, side, side + 3});
         mark(frame.rect);
@@ -123,7 +78,6 @@ TEST_P(Frame, ofASmallWindowFillsIt)
 TEST_P(Frame, thatIsHiddenLeavesNothing)
 {
     const QImage before = screenPicture();
-    useColor(blue);
     mark({100, 80, 400, 300});
     EXPECT_TRUE(showsOnScreen(expected({100, 80, 400, 300})));
     overlay_->hideOverlay();
@@ -135,7 +89,6 @@ TEST_P(Frame, thatIsHiddenLeavesNothing)
 TEST_P(Frame, isGoneWithItsOwner)
 {
     const QImage before = screenPicture();
-    useColor(blue);
     mark({100, 80, 400, 300});
     EXPECT_TRUE(showsOnScreen(expected({100, 80, 400, 300})));
     overlay_.reset();
@@ -145,14 +98,12 @@ TEST_P(Frame, isGoneWithItsOwner)
 TEST_P(Frame, comesAboveWhatCameUpMeanwhile)
 {
     const QRect rect(100, 80, 400, 300);
-    useColor(blue);
     mark(rect);
     ASSERT_TRUE(showsOnScreen(expected(rect)));
-    const ScreenGround above(dark);
-    const auto plain = [](QPoint) { return dark; };
-    ASSERT_TRUE(showsOnScreen(plain));
+    const ScreenGround above(darkGround);
+    ASSERT_TRUE(showsOnScreen([](QPoint) { return darkGround; }));
     mark(rect);
-    EXPECT_TRUE(showsOnScreen(ExpectedFrame{rect, dark, blue, white}));
+    EXPECT_TRUE(showsOnScreen(ExpectedFrame{rect, darkGround, blue, white}));
 }
 
-INSTANTIATE_TEST_SUITE_P(Ground, Frame, testing::Values(light, dark));
+INSTANTIATE_TEST_SUITE_P(Ground, Frame, testing::Values(lightGround, darkGround));

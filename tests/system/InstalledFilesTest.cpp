@@ -97,6 +97,7 @@ TEST_F(InstalledFiles, thePaneHasTheAgentAndTheLibraryItRunsWith)
     EXPECT_THAT(files(),
         testing::IsSupersetOf({agent + "Info.plist", agent + "Linux/LumarooAgent", contents + "Resources/launcher",
             contents + "Resources/installer", contents + "Frameworks/liblumaroo-foundation.so.1",
+            contents + "Frameworks/liblumaroo-overlay-pictures.so.100",
             QString("share/dbus-1/interfaces/com.quorvane.LumarooAgent.xml")}));
 }
 

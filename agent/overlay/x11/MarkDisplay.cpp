@@ -53,7 +53,7 @@ bool MarkDisplay::start()
     xcb_prefetch_extension_data(server(), &xcb_shape_id);
     xcb_prefetch_extension_data(server(), &xcb_xfixes_id);
     findScreen();
-    if (!findVisual())
+    if (!findVisual() || !findFormat())
         return false;
     internAtoms();
     if (!letsClicksThrough())
@@ -103,6 +103,19 @@ bool MarkDisplay::takeVisual(quint8 depth)
         }
     }
     return visual_ != 0;
+}
+
+/// Of whole bytes, as they are with true colours.
+bool MarkDisplay::findFormat()
+{
+    for (auto formats = xcb_setup_pixmap_formats_iterator(xcb_get_setup(server())); formats.rem > 0;
+         xcb_format_next(&formats)) {
+        if (formats.data->depth != depth_)
+            continue;
+        pixelBytes_ = formats.data->bits_per_pixel / 8;
+        rowMultiple_ = formats.data->scanline_pad / 8;
+    }
+    return pixelBytes_ > 0 && rowMultiple_ > 0;
 }
 
 void MarkDisplay::internAtoms()
@@ -162,4 +175,17 @@ quint32 MarkDisplay::pixel(quint32 color) const
 {
     return channel(color >> 16 & 0xff, masks_[0]) | channel(color >> 8 & 0xff, masks_[1])
         | channel(color & 0xff, masks_[2]);
+}
+
+QByteArray MarkDisplay::imageRow(const quint32 *colors, int count) const
+{
+    const int length = (count * pixelBytes_ + rowMultiple_ - 1) / rowMultiple_ * rowMultiple_;
+    QByteArray row(length, 0);
+    const bool isLittleEndian = xcb_get_setup(server())->image_byte_order == XCB_IMAGE_ORDER_LSB_FIRST;
+    for (int place = 0; colors && place < count; ++place) {
+        const quint32 value = pixel(colors[place]);
+        for (int byte = 0; byte < pixelBytes_; ++byte)
+            row[place * pixelBytes_ + byte] = char(value >> 8 * (isLittleEndian ? byte : pixelBytes_ - 1 - byte));
+    }
+    return row;
 }

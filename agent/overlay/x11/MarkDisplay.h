@@ -2,6 +2,7 @@
 
 #include "platform/foundation/system/X11.h"
 
+#include <QByteArray>
 #include <QString>
 #include <memory>
 #include <utility>
@@ -32,6 +33,8 @@ public:
 
     /// Of 0xRRGGBB.
     quint32 pixel(quint32 color) const;
+    /// A row of pixels, each 0xRRGGBB, as the server takes them in an image; without any, one that is as long.
+    QByteArray imageRow(const quint32 *colors, int count) const;
 
     /// As far as the events go that have come in by now.
     bool isComposited();
@@ -42,6 +45,7 @@ private:
     void findScreen();
     bool findVisual();
     bool takeVisual(quint8 depth);
+    bool findFormat();
     void internAtoms();
     bool letsClicksThrough();
     void followCompositor();
@@ -52,6 +56,7 @@ private:
     xcb_visualid_t visual_ = 0;
     quint32 masks_[3]{}; ///< of red, green and blue in a pixel
     quint8 depth_ = 0;
+    int pixelBytes_ = 0, rowMultiple_ = 0; ///< in an image
     xcb_colormap_t colormap_ = 0;
     MarkAtoms atoms_;
     quint8 compositorEvent_ = 0;

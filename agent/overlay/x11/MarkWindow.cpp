@@ -63,11 +63,21 @@ void MarkWindow::setProperty(xcb_atom_t name, xcb_atom_t type, quint32 value)
     xcb_change_property(display_.server(), XCB_PROP_MODE_REPLACE, id_, name, type, 32, 1, &value);
 }
 
+void MarkWindow::setBackground(xcb_cw_t kind, quint32 value)
+{
+    xcb_change_window_attributes(display_.server(), id_, kind, &value);
+    // What is on screen is drawn anew.
+    xcb_clear_area(display_.server(), false, id_, 0, 0, 0, 0);
+}
+
 void MarkWindow::setColor(quint32 color)
 {
-    const quint32 pixel = display_.pixel(color);
-    xcb_change_window_attributes(display_.server(), id_, XCB_CW_BACK_PIXEL, &pixel);
-    xcb_clear_area(display_.server(), false, id_, 0, 0, 0, 0);
+    setBackground(XCB_CW_BACK_PIXEL, display_.pixel(color));
+}
+
+void MarkWindow::setBackground(xcb_pixmap_t pixmap)
+{
+    setBackground(XCB_CW_BACK_PIXMAP, pixmap);
 }
 
 void MarkWindow::setOpacity(double opacity)

@@ -28,6 +28,8 @@ public:
 
     /// 0xRRGGBB.
     void setColor(quint32 color);
+    /// Of the display's depth; the server keeps it.
+    void setBackground(xcb_pixmap_t pixmap);
     /// Counts with a compositor.
     void setOpacity(double opacity);
     /// Shows it above all others, cut to a region within its rectangle. Where only its place differs, it is moved.
@@ -35,6 +37,7 @@ public:
     void hide();
 
 private:
+    void setBackground(xcb_cw_t kind, quint32 value);
     void setProperty(xcb_atom_t name, xcb_atom_t type, quint32 value);
     void place(const QRect &rect);
 

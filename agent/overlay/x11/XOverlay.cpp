@@ -1,11 +1,14 @@
 #include "agent/overlay/x11/XOverlay.h"
 
-XOverlay::XOverlay(std::unique_ptr<MarkDisplay> display) : display_(std::move(display)), frame_(*display_)
+XOverlay::XOverlay(std::unique_ptr<MarkDisplay> display)
+    : display_(std::move(display)), frame_(*display_), texts_(*display_)
 {
     frame_.setColors(colors_);
     display_->flush();
     motionSteps_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&motionSteps_, &QTimer::timeout, &motionSteps_, [this] { takeStep(); });
+    textsLater_.setSingleShot(true);
+    QObject::connect(&textsLater_, &QTimer::timeout, &textsLater_, [this] { showTexts(); });
 }
 
 void XOverlay::showOverlay(const OverlayView &view)
@@ -17,13 +20,18 @@ void XOverlay::showOverlay(const OverlayView &view)
     useColors();
     view_ = view;
     showFrame();
+    texts_.hideOutdated(view);
     display_->flush();
+    if (!motionSteps_.isActive())
+        textsLater_.start();
 }
 
 void XOverlay::hideOverlay()
 {
     motionSteps_.stop();
+    textsLater_.stop();
     frame_.hide();
+    texts_.hide();
     display_->flush();
 }
 
@@ -74,6 +82,14 @@ void XOverlay::takeStep()
     if (isLast)
         motionSteps_.stop();
     placeFrame(isLast ? motion_.to : motion_.rectAt(motionTime_.elapsed()), Resizing::OnScreen);
+    display_->flush();
+    if (isLast)
+        textsLater_.start();
+}
+
+void XOverlay::showTexts()
+{
+    texts_.show(view_, colors_);
     display_->flush();
 }
 

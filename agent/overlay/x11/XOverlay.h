@@ -3,6 +3,7 @@
 #include "agent/overlay/Overlay.h"
 #include "agent/overlay/OverlayMotion.h"
 #include "agent/overlay/x11/FrameWindow.h"
+#include "agent/overlay/x11/OverlayTexts.h"
 
 #include <QElapsedTimer>
 #include <QTimer>
@@ -25,9 +26,11 @@ private:
     void startMotion(const QRect &to);
     void takeStep();
     void endMotion();
+    void showTexts();
 
     const std::unique_ptr<MarkDisplay> display_;
     FrameWindow frame_;
+    OverlayTexts texts_;
     OverlayStyle style_;
     OverlayColors colors_; ///< that the windows have
     OverlayView view_;
@@ -36,4 +39,5 @@ private:
     QElapsedTimer motionTime_;
     QTimer motionSteps_; ///< runs during a motion only
     int step_ = 0;
+    QTimer textsLater_; ///< texts take their time, which the frame does not wait for
 };

@@ -1,9 +1,9 @@
 #include "platform/appkit/help/NSHelpManager.h"
 
-#include "platform/appkit/LibraryBeside.h"
 #include "platform/appkit/NSBeep.h"
 #include "platform/appkit/help/internal/HelpViewer.h"
 #include "platform/appkit/web/NSWorkspace.h"
+#include "platform/foundation/system/LibraryBeside.h"
 #include "platform/foundation/system/NSLog.h"
 
 #include <QApplication>

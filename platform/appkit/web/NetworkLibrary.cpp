@@ -1,7 +1,7 @@
 #include "platform/appkit/web/internal/NetworkLibrary.h"
 
-#include "platform/appkit/LibraryBeside.h"
 #include "platform/appkit/web/NSURLConnectionAvailability.h"
+#include "platform/foundation/system/LibraryBeside.h"
 
 NetworkAnswer networkAnswer(const NSMutableURLRequest &request)
 {

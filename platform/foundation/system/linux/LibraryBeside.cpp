@@ -1,4 +1,4 @@
-#include "platform/appkit/LibraryBeside.h"
+#include "platform/foundation/system/LibraryBeside.h"
 
 #include <QFile>
 #include <QFileInfo>
