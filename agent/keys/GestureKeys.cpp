@@ -106,6 +106,11 @@ QSet<int> GestureKeys::takenDigits() const
     return taken;
 }
 
+void GestureKeys::ring()
+{
+    keyboard_->ring();
+}
+
 void GestureKeys::end()
 {
     isOn_ = false;

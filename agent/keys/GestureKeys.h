@@ -47,6 +47,9 @@ public:
     /// Those that it got: not the key of an action, and nobody else's.
     QSet<int> takenDigits() const;
 
+    /// The keyboard's bell: a key leads nowhere.
+    void ring();
+
     /// The gesture is over: gives back everything, ends all repeats, tells of no release. Harmless at any time.
     void end();
 

@@ -49,6 +49,9 @@ public:
     /// Harmless when it is not grabbed.
     virtual void letGo() = 0;
 
+    /// Rings its bell, as loud as its user has set it.
+    virtual void ring() = 0;
+
 Q_SIGNALS:
     /// Those that are held from now on.
     void modifiersChanged(quint32 held, quint32 time);

@@ -34,6 +34,7 @@ void announce(const QString &name, const QVariantMap &userInfo = {})
 Agent::Agent(AgentName &name)
     : name_(name), bundlePath_(NSBundle::mainBundle()->bundlePath()), version_(loadedVersion())
 {
+    connect(&gestures_, &Gestures::over, this, &Agent::followSettingsAfterGesture);
 }
 
 void Agent::launch()
@@ -64,9 +65,25 @@ void Agent::readSettings()
     if (hasEnded_)
         return;
     settings_.follow(NSUserDefaults::standardUserDefaults()->persistentDomainForName(KTXLMAppID));
-    hotKeys_.apply(settings());
+    followSettings();
     ++readings_;
     Q_EMIT settingsRead();
+}
+
+void Agent::followSettings()
+{
+    isBehind_ = gestures_.isOn();
+    if (isBehind_)
+        return;
+    hotKeys_.apply(settings());
+    gestureKeys_.apply(settings());
+    gestures_.apply(settings());
+}
+
+void Agent::followSettingsAfterGesture()
+{
+    if (isBehind_ && !hasEnded_)
+        followSettings();
 }
 
 void Agent::readChange()
@@ -100,6 +117,7 @@ void Agent::announceEnd()
 {
     announce(KTXLMAgentIsTerminating);
     Q_EMIT terminating();
+    gestures_.cancel();
     hotKeys_.release();
     // The bus handles our messages in order: with its answer it has taken the announcement too.
     name_.release();
@@ -155,7 +173,7 @@ void Agent::goOn(const QString &program, const QString &error)
               .arg(program, error)
               .arg(version_));
     if (name_.takeAtOnce()) {
-        hotKeys_.apply(settings());
+        followSettings();
         announceLaunch();
         return;
     }

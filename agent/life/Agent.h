@@ -1,5 +1,6 @@
 #pragma once
 
+#include "agent/gestures/Gestures.h"
 #include "agent/keys/AgentHotKeys.h"
 #include "agent/life/AgentSettings.h"
 
@@ -23,10 +24,13 @@ public:
     qint64 readings() const { return readings_; }
     /// The keys of its actions, and whether they work.
     const AgentHotKeys &hotKeys() const { return hotKeys_; }
+    /// What its user does with windows.
+    const Gestures &gestures() const { return gestures_; }
 
     /// Reads the settings, observes the pane and announces itself. Called once, when the name is owned.
     void launch();
-    /// Reads the settings as they are stored now, and has its keys follow them.
+    /// Reads the settings as they are stored now, and has its keys follow them: during a gesture as soon as that is
+    /// over.
     void readSettings();
     /// Announces its end, gives keys and name back and emits ended(); the bus has taken all of that when it returns.
     void terminate();
@@ -41,6 +45,8 @@ Q_SIGNALS:
 
 private:
     void observePane();
+    void followSettings();
+    void followSettingsAfterGesture();
     void meetPane();
     void readChange();
     void markFirstLaunch();
@@ -57,7 +63,12 @@ private:
     const int version_;
     EffectiveSettings settings_;
     AgentHotKeys hotKeys_;
+    GestureKeys gestureKeys_{hotKeys_};
+    const std::unique_ptr<WindowSystem> windows_ = windowSystem();
+    const std::unique_ptr<Overlay> overlay_ = overlay();
+    Gestures gestures_{*windows_, *overlay_, gestureKeys_};
     qint64 readings_ = 0;
+    bool isBehind_ = false; ///< what was read last is still to be followed
     bool hasEnded_ = false;
     bool markIsPending_ = false; ///< of the first launch, since it could not be stored
     bool paneIsOpening_ = false; ///< since it said so, until it has announced its settings

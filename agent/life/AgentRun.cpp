@@ -26,6 +26,20 @@ void printText(const QString &text)
     std::fflush(stdout);
 }
 
+/// Each step of a gesture.
+void printGestures(const Agent &agent)
+{
+    const Gestures *gestures = &agent.gestures();
+    const auto printed = [](const char *format) {
+        return [format](const QString &text) { printText(QString::fromLatin1(format).arg(text)); };
+    };
+    QObject::connect(gestures, &Gestures::began, &agent, [] { printLine("began\n"); });
+    QObject::connect(gestures, &Gestures::moved, &agent, printed("moved to %1\n"));
+    QObject::connect(gestures, &Gestures::accepted, &agent, printed("accepted %1\n"));
+    QObject::connect(gestures, &Gestures::cancelled, &agent, [] { printLine("cancelled\n"); });
+    QObject::connect(gestures, &Gestures::refused, &agent, printed("refused: %1\n"));
+}
+
 /// Says what happens, for people and tests.
 void printEvents(const Agent &agent)
 {
@@ -38,6 +52,7 @@ void printEvents(const Agent &agent)
         &agent.hotKeys(), &AgentHotKeys::pressed, &agent, [](const QString &action, const QString &combination) {
             printText(QStringLiteral("pressed %1 (%2)\n").arg(action, combination));
         });
+    printGestures(agent);
     QObject::connect(&agent, &Agent::tutorialRequested, &agent, [] { printLine("tutorial requested\n"); });
 }
 

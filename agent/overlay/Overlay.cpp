@@ -21,6 +21,7 @@ std::unique_ptr<Overlay> overlay()
     QString failure;
     if (auto display = MarkDisplay::open(&failure))
         return std::make_unique<XOverlay>(std::move(display));
-    NSLog(QStringLiteral("lumaroo: agent: selected windows are not marked: %1").arg(failure));
+    if (!failure.isEmpty())
+        NSLog(QStringLiteral("lumaroo: agent: selected windows are not marked: %1").arg(failure));
     return std::make_unique<NoOverlay>();
 }

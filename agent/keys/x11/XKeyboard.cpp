@@ -247,6 +247,14 @@ void XKeyboard::letGo()
     xcb_flush(connection_.get());
 }
 
+void XKeyboard::ring()
+{
+    if (!connection_)
+        return;
+    xcb_bell(connection_.get(), 0);
+    xcb_flush(connection_.get());
+}
+
 std::unique_ptr<Keyboard> keyboard()
 {
     return std::make_unique<XKeyboard>();

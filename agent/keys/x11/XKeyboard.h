@@ -28,6 +28,7 @@ public:
     bool isAnythingHeldBut(quint32 modifiers) override;
     bool grab() override;
     void letGo() override;
+    void ring() override;
 
 private:
     using HeldKeys = std::bitset<256>;

@@ -15,7 +15,14 @@ constexpr qsizetype largestAnswer = 1024 * 1024;
 
 AgentObject::AgentObject(Agent &agent) : agent_(agent)
 {
-    QDBusConnection::sessionBus().registerObject(agentPath(), this, QDBusConnection::ExportScriptableSlots);
+    const Gestures *gestures = &agent.gestures();
+    connect(gestures, &Gestures::began, this, &AgentObject::SelectionBegan);
+    connect(gestures, &Gestures::moved, this, &AgentObject::SelectionMoved);
+    connect(gestures, &Gestures::accepted, this, &AgentObject::SelectionAccepted);
+    connect(gestures, &Gestures::cancelled, this, &AgentObject::SelectionCancelled);
+    connect(gestures, &Gestures::refused, this, &AgentObject::SelectionRefused);
+    QDBusConnection::sessionBus().registerObject(
+        agentPath(), this, QDBusConnection::ExportScriptableSlots | QDBusConnection::ExportScriptableSignals);
 }
 
 AgentObject::~AgentObject()

@@ -16,6 +16,14 @@ public:
     explicit AgentObject(Agent &agent);
     ~AgentObject() override;
 
+Q_SIGNALS:
+    // Without the windows' titles: everybody on the bus hears them.
+    Q_SCRIPTABLE void SelectionBegan();
+    Q_SCRIPTABLE void SelectionMoved();
+    Q_SCRIPTABLE void SelectionAccepted();
+    Q_SCRIPTABLE void SelectionCancelled();
+    Q_SCRIPTABLE void SelectionRefused();
+
 public Q_SLOTS:
     // The interface on the bus.
     Q_SCRIPTABLE int Version() const;

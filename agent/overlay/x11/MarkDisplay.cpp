@@ -36,10 +36,8 @@ quint32 channel(quint32 byte, quint32 mask)
 std::unique_ptr<MarkDisplay> MarkDisplay::open(QString *failure)
 {
     std::unique_ptr<MarkDisplay> display(new MarkDisplay(connectToXServer()));
-    if (display->isLost()) {
-        *failure = QStringLiteral("there is no X server");
+    if (display->isLost())
         return nullptr;
-    }
     if (display->start())
         return display;
     *failure = display->isLost()

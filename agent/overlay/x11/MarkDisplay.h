@@ -18,7 +18,8 @@ struct MarkAtoms
 class MarkDisplay
 {
 public:
-    /// Null, with the reason, where no mark can be drawn that lets clicks through.
+    /// Null, with the reason, where no mark can be drawn that lets clicks through. Without an X server there is none to
+    /// give: that is the hot keys' to tell.
     static std::unique_ptr<MarkDisplay> open(QString *failure);
 
     xcb_connection_t *server() const { return connection_.get(); }

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "agent/gestures/GestureSettings.h"
+#include "agent/keys/GestureKeys.h"
+
+#include <QHash>
+#include <QObject>
+#include <QTimer>
+#include <optional>
+
+/// Leads a gesture: from the keyboard through the rule of movement to the mark on screen and the window turned to. Each
+/// key is one reading of all windows, and nothing goes on between two gestures.
+class Gestures : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All three outlive it.
+    Gestures(WindowSystem &windows, Overlay &overlay, GestureKeys &keys);
+    ~Gestures() override;
+
+    bool isOn() const { return gesture_.state() != Gesture::State::Idle; }
+    /// Goes by these settings from the next gesture on.
+    void apply(const QVariantMap &settings);
+    /// Ends the gesture that is on as if nothing had been; harmless where none is.
+    void cancel();
+
+Q_SIGNALS:
+    void began();
+    /// Another window is selected. Titles are of one line.
+    void moved(const QString &title);
+    void accepted(const QString &title);
+    void cancelled();
+    /// Nothing came of it, or not what was meant: a sentence without its full stop.
+    void refused(const QString &reason);
+    /// None is on any more.
+    void over();
+
+private:
+    /// What one gesture knows; gone with it.
+    struct Run
+    {
+        explicit Run(const GestureSettings &chosen) : settings(chosen), selection(chosen.selection) { }
+
+        GestureSettings settings;
+        Selection selection;
+        WindowWorld world;
+        bool isCurrent = false; ///< read for the event that is being taken
+        quint32 origin = 0; ///< the window with the focus when it began
+        QHash<int, quint32> labels; ///< digits with their windows
+    };
+
+    void hearPress(const QString &action, quint32 time);
+    void take(const GestureEvent &event);
+    bool perform(GestureStep step, const GestureEvent &event);
+    bool begin();
+    bool move(const GestureEvent &event);
+    bool read();
+    void show();
+    void label();
+    void choose(int digit);
+    void accept(quint32 time);
+    void goBack(quint32 time);
+    void finish();
+    void interrupt(quint32 time) { take({.kind = GestureEvent::Kind::Interrupted, .time = time}); }
+    QString title(quint32 windowID) const;
+
+    WindowSystem &windows_;
+    Overlay &overlay_;
+    GestureKeys &keys_;
+    GestureSettings settings_;
+    Gesture gesture_;
+    std::optional<Run> run_;
+    quint32 before_ = 0; ///< the window with the focus before the last one that was accepted
+    QHash<quint32, QString> turnedTo_; ///< the title of the window that is being turned to
+    QTimer labels_;
+    QTimer limit_;
+};
