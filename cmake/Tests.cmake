@@ -20,6 +20,12 @@ function(lumaroo_add_test name source)
     endif()
     target_link_libraries(${name} PRIVATE test-support ${arg_LIBRARIES})
     target_precompile_headers(${name} REUSE_FROM test-support)
-    add_test(NAME ${name} COMMAND ${CMAKE_SOURCE_DIR}/tests/support/with-session ${arg_SESSION} -- $<TARGET_FILE:${name}>)
+    lumaroo_add_run(${name} ${name} SESSION ${arg_SESSION})
+endfunction()
+
+# lumaroo_add_run(<name> <program> [SESSION <options>]): a ctest test that runs a test's program.
+function(lumaroo_add_run name program)
+    cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "SESSION")
+    add_test(NAME ${name} COMMAND ${CMAKE_SOURCE_DIR}/tests/support/with-session ${arg_SESSION} -- $<TARGET_FILE:${program}>)
     set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT "LUMAROO_BUILD=${CMAKE_BINARY_DIR};LUMAROO_SOURCE=${CMAKE_SOURCE_DIR}")
 endfunction()

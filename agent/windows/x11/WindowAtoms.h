@@ -9,7 +9,7 @@ struct WindowAtoms
 {
     xcb_atom_t utf8Text;
 
-    xcb_atom_t supportingManager, clientList, clientsByStack, activeWindow, currentDesktop;
+    xcb_atom_t supported, supportingManager, clientList, clientsByStack, activeWindow, currentDesktop;
 
     xcb_atom_t windowType, windowState, windowDesktop, windowPID, windowName;
     xcb_atom_t frameExtents, shadowExtents;

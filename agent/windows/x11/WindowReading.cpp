@@ -13,12 +13,14 @@ namespace {
 
 // Nobody has so many; a list that is longer is damaged.
 constexpr quint32 mostWindows = 16384;
+constexpr quint32 mostSupported = 1024;
 
 /// What the manager says on the root.
 struct Desktop
 {
     xcb_window_t manager = XCB_WINDOW_NONE; ///< a window of its own by which it shows that it runs
-    std::optional<QList<xcb_window_t>> clients; ///< bottom to top, or oldest first
+    bool tellsClients = false; ///< some take the list away with the last window
+    QList<xcb_window_t> clients; ///< bottom to top, or oldest first
     bool isStack = false;
     quint32 activeWindow = XCB_WINDOW_NONE;
     std::optional<quint32> currentDesktop;
@@ -29,6 +31,7 @@ Desktop readDesktop(const WindowServer &server)
     const auto ask = [&server](xcb_atom_t property, quint32 units) {
         return askProperty(server.connection, server.screen->root, property, units);
     };
+    const auto supported = ask(server.atoms.supported, mostSupported);
     const auto manager = ask(server.atoms.supportingManager, 1);
     const auto byStack = ask(server.atoms.clientsByStack, mostWindows);
     const auto byAge = ask(server.atoms.clientList, mostWindows);
@@ -37,14 +40,16 @@ Desktop readDesktop(const WindowServer &server)
     const auto number = [&server](xcb_get_property_cookie_t asked, xcb_atom_t type) {
         return numberOf(ReceivedProperty(server.connection, asked).bytes(), type);
     };
-    const auto windows = [&server](xcb_get_property_cookie_t asked) {
-        return numbersOf(ReceivedProperty(server.connection, asked).bytes(), XCB_ATOM_WINDOW);
+    const auto list = [&server](xcb_get_property_cookie_t asked, xcb_atom_t type) {
+        return numbersOf(ReceivedProperty(server.connection, asked).bytes(), type);
     };
     Desktop desktop;
+    const auto features = list(supported, XCB_ATOM_ATOM).value_or(QList<quint32>());
     desktop.manager = number(manager, XCB_ATOM_WINDOW).value_or(XCB_WINDOW_NONE);
-    const auto stack = windows(byStack);
-    const auto list = windows(byAge);
-    desktop.clients = stack ? stack : list;
+    const auto stack = list(byStack, XCB_ATOM_WINDOW);
+    const auto clients = list(byAge, XCB_ATOM_WINDOW);
+    desktop.tellsClients = stack || clients || features.contains(server.atoms.clientList);
+    desktop.clients = stack ? *stack : clients.value_or(QList<xcb_window_t>());
     desktop.isStack = stack.has_value();
     desktop.activeWindow = number(active, XCB_ATOM_WINDOW).value_or(XCB_WINDOW_NONE);
     desktop.currentDesktop = number(current, XCB_ATOM_CARDINAL);
@@ -127,7 +132,7 @@ std::optional<WindowWorld> readWindows(const WindowServer &server, const WindowC
     const Desktop desktop = readDesktop(server);
     monitors.goOn();
 
-    auto clients = withoutRepetitions(desktop.clients.value_or(QList<xcb_window_t>()), server.screen->root);
+    auto clients = withoutRepetitions(desktop.clients, server.screen->root);
     if (!desktop.isStack)
         clients = orderedByStack(server, clients);
     const auto manager = askProperty(server.connection, desktop.manager, server.atoms.supportingManager, 1);
@@ -142,7 +147,7 @@ std::optional<WindowWorld> readWindows(const WindowServer &server, const WindowC
         *failure = QStringLiteral("the X server has gone");
         return std::nullopt;
     }
-    if (!hasManager || !desktop.clients) {
+    if (!hasManager || !desktop.tellsClients) {
         *failure = hasManager ? QStringLiteral("the window manager does not tell which windows there are")
                               : QStringLiteral("no window manager runs that tells which windows there are");
         return std::nullopt;
