@@ -46,8 +46,18 @@ bool OtherClient::isHeldElsewhere(int evdevCode, quint16 modifiers, int screen)
 
 bool OtherClient::grabKeyboard()
 {
-    const auto grab = xcb_grab_keyboard(
-        connection_.get(), false, rootOf(0), XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    return grabKeyboard(XCB_GRAB_MODE_ASYNC);
+}
+
+bool OtherClient::grabKeyboardHoldingUpKeys()
+{
+    return grabKeyboard(XCB_GRAB_MODE_SYNC);
+}
+
+bool OtherClient::grabKeyboard(xcb_grab_mode_t keys)
+{
+    const auto grab =
+        xcb_grab_keyboard(connection_.get(), false, rootOf(0), XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, quint8(keys));
     const auto reply = fromServer(xcb_grab_keyboard_reply(connection_.get(), grab, nullptr));
     return reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
 }
@@ -63,7 +73,8 @@ void OtherClient::takeFocus(int screen)
     xcb_connection_t *const server = connection_.get();
     window_ = xcb_generate_id(server);
     // Without a window manager's help.
-    const quint32 values[]{true, XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_PROPERTY_CHANGE};
+    const quint32 values[]{
+        true, XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_PROPERTY_CHANGE};
     xcb_create_window(server, XCB_COPY_FROM_PARENT, window_, rootOf(screen), 0, 0, 100, 100, 0,
         XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values);
     xcb_map_window(server, window_);
@@ -77,6 +88,12 @@ QList<int> OtherClient::pressedKeys()
     return pressedKeys_;
 }
 
+int OtherClient::clicks()
+{
+    takeEvents();
+    return clicks_;
+}
+
 void OtherClient::takeEvents()
 {
     fromServer(xcb_get_input_focus_reply(connection_.get(), xcb_get_input_focus(connection_.get()), nullptr));
@@ -84,16 +101,34 @@ void OtherClient::takeEvents()
         const quint8 type = event->response_type & eventTypeMask;
         if (type == XCB_KEY_PRESS)
             pressedKeys_.append(reinterpret_cast<const xcb_key_press_event_t *>(event.get())->detail - evdevToX11);
+        else if (type == XCB_BUTTON_PRESS)
+            ++clicks_;
         else if (type == XCB_PROPERTY_NOTIFY)
             lastTime_ = reinterpret_cast<const xcb_property_notify_event_t *>(event.get())->time;
     }
 }
 
+void OtherClient::useKeyboardExtension()
+{
+    const auto use = xcb_xkb_use_extension(connection_.get(), XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION);
+    fromServer(xcb_xkb_use_extension_reply(connection_.get(), use, nullptr));
+}
+
+void OtherClient::setStickyKeys(bool areOn)
+{
+    useKeyboardExtension();
+    constexpr quint32 sticky = XCB_XKB_BOOL_CTRL_STICKY_KEYS;
+    constexpr quint8 perKeyRepeat[32]{};
+    const auto set = xcb_xkb_set_controls_checked(connection_.get(), XCB_XKB_ID_USE_CORE_KBD, 0, 0, 0, 0, 0, 0, 0, 0, 0,
+        0, 0, sticky, areOn ? sticky : 0, XCB_XKB_CONTROL_CONTROLS_ENABLED, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0,
+        perKeyRepeat);
+    EXPECT_FALSE(fromServer(xcb_request_check(connection_.get(), set)));
+}
+
 void OtherClient::setKeyRepeat(quint16 delay, quint16 interval)
 {
     xcb_connection_t *const server = connection_.get();
-    fromServer(xcb_xkb_use_extension_reply(
-        server, xcb_xkb_use_extension(server, XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION), nullptr));
+    useKeyboardExtension();
     constexpr quint8 perKeyRepeat[32]{};
     const auto set = xcb_xkb_set_controls_checked(server, XCB_XKB_ID_USE_CORE_KBD, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0,
         0, XCB_XKB_BOOL_CTRL_REPEAT_KEYS, delay, interval, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, perKeyRepeat);

@@ -20,15 +20,21 @@ public:
     bool isHeldElsewhere(int evdevCode, quint16 modifiers, int screen = 0);
     /// The whole keyboard, as an open menu does; false when somebody else holds it.
     bool grabKeyboard();
+    /// And has every key wait until it is let go, as a program does that asks what a key means here.
+    bool grabKeyboardHoldingUpKeys();
     void ungrabKeyboard();
 
     /// Shows a window on a screen and gives it the focus.
     void takeFocus(int screen = 0);
     /// The keys whose presses it has received, in order.
     QList<int> pressedKeys();
+    /// How many presses of mouse buttons it has received.
+    int clicks();
 
     /// How soon and how fast the keyboard repeats a key, in milliseconds.
     void setKeyRepeat(quint16 delay, quint16 interval);
+    /// Whether a modifier that is pressed and released counts for the next key.
+    void setStickyKeys(bool areOn);
     /// The server's clock, in milliseconds.
     quint32 serverTime();
 
@@ -41,10 +47,13 @@ public:
 
 private:
     xcb_window_t rootOf(int screen) const;
+    bool grabKeyboard(xcb_grab_mode_t keys);
+    void useKeyboardExtension();
     void takeEvents();
 
     XConnection connection_;
     QList<int> pressedKeys_;
+    int clicks_ = 0;
     xcb_window_t window_ = 0;
     quint32 lastTime_ = 0;
 };
