@@ -14,7 +14,7 @@ ChordPresses::Outcome ChordPresses::modifiersDidChange(quint32 held, quint32 tim
     if (wanted_ == 0)
         return Outcome::Nothing;
     if (held & ~wanted_)
-        somethingElseWasPressed();
+        spoil();
     releasedSince_ |= wanted_ & ~held;
     if (before == wanted_)
         chordEnded(time);
@@ -25,7 +25,14 @@ ChordPresses::Outcome ChordPresses::modifiersDidChange(quint32 held, quint32 tim
     return Outcome::Nothing;
 }
 
-void ChordPresses::somethingElseWasPressed()
+void ChordPresses::somethingElseWasPressed(quint32 time)
+{
+    const bool isOlder = first_ && qint32(time - *first_) < 0;
+    if (!isOlder)
+        spoil();
+}
+
+void ChordPresses::spoil()
 {
     isSpoiled_ = held_ != 0;
     first_.reset();
@@ -49,7 +56,7 @@ ChordPresses::Outcome ChordPresses::chordBegan(quint32 time)
 void ChordPresses::chordEnded(quint32 time)
 {
     if (latest_ && quint32(time - *latest_) < shortest)
-        somethingElseWasPressed();
+        spoil();
 }
 
 ChordPresses::Outcome ChordPresses::allReleased(quint32 time)

@@ -18,13 +18,14 @@ public:
     void setModifiers(quint32 modifiers);
     /// Which of all modifiers are held from now on.
     Outcome modifiersDidChange(quint32 held, quint32 time);
-    /// Another key or a button was pressed.
-    void somethingElseWasPressed();
+    /// Another key or a button was pressed; told late, perhaps, and then what began since is not concerned.
+    void somethingElseWasPressed(quint32 time);
 
     /// Whether it matters what else is pressed.
     bool isWaiting(quint32 time) const { return first_ && quint32(time - *first_) <= longestDouble; }
 
 private:
+    void spoil();
     Outcome chordBegan(quint32 time);
     void chordEnded(quint32 time);
     Outcome allReleased(quint32 time);

@@ -123,7 +123,7 @@ void GestureKeys::end()
 void GestureKeys::handleHotKey(const QString &action, quint32 time)
 {
     note(time);
-    somethingElseWasPressed();
+    somethingElseWasPressed(time);
     Q_EMIT pressed(action, time);
     if (isOn_)
         startRepeat(action);
@@ -152,10 +152,11 @@ void GestureKeys::tellChord(ChordPresses::Outcome outcome, quint32 time)
         Q_EMIT doublePressed(time);
 }
 
-void GestureKeys::somethingElseWasPressed()
+void GestureKeys::somethingElseWasPressed(quint32 time)
 {
-    chord_.somethingElseWasPressed();
-    chordWatch_.stop();
+    chord_.somethingElseWasPressed(time);
+    if (!chord_.isWaiting(time))
+        chordWatch_.stop();
     updateWatch();
 }
 
@@ -164,7 +165,7 @@ void GestureKeys::handleKey(const KeyEvent &key)
     if (key.modifier & keys_.modifiers())
         return;
     note(key.time);
-    somethingElseWasPressed();
+    somethingElseWasPressed(key.time);
     if (isGrabbed_ && !key.isModifier)
         handleOurKey(key);
 }
@@ -198,7 +199,7 @@ void GestureKeys::handleRelease(const KeyEvent &key)
 void GestureKeys::handleButton(bool isWheel, quint32 time)
 {
     note(time);
-    somethingElseWasPressed();
+    somethingElseWasPressed(time);
     if (isGrabbed_ && !isWheel)
         Q_EMIT somethingElse(time);
 }

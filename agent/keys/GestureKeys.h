@@ -95,7 +95,7 @@ private:
     void checkRelease();
     void tellRelease(quint32 time);
     void tellChord(ChordPresses::Outcome outcome, quint32 time);
-    void somethingElseWasPressed();
+    void somethingElseWasPressed(quint32 time);
     void tryToGrab();
     void note(quint32 time);
     quint32 timeNow() const;

@@ -55,6 +55,9 @@ const Case cases[]{
     {"one of them twice, the other held", both, {{100, both}, {150, control}, {200, both}, {250, 0}}, {"single 250"}},
     {"both anew, though never both up", both, {{100, both}, {150, control}, {160, 0}, {170, option}, {200, both}},
         {"single 160", "double 200"}},
+    {"another key, told late", both,
+        {{100, both}, {120, control}, {130, 0}, {600, both}, {599, somethingElse}, {650, 0}},
+        {"single 130", "single 650"}},
     {"with a third modifier first", both, {{90, shift}, {100, both | shift}, {150, 0}}, {}},
     {"with a third one last", both, {{100, both}, {120, both | shift}, {150, both}, {160, 0}}, {}},
     {"with a third one in between", both, {{100, both}, {150, 0}, {170, shift}, {180, 0}, {200, both}}, {"single 150"}},
@@ -87,7 +90,7 @@ TEST_P(ChordPressesCases, areToldAsTheyAreMeant)
     QStringList told;
     for (const Step &step : GetParam().steps) {
         if (step.held == somethingElse) {
-            chord.somethingElseWasPressed();
+            chord.somethingElseWasPressed(step.time);
             continue;
         }
         const auto outcome = chord.modifiersDidChange(step.held, step.time);
@@ -109,7 +112,7 @@ TEST(ChordPresses, waitForOtherKeysFromTheFirstTimeOnUntilTheyAreTooLate)
     chord.modifiersDidChange(both, 110);
     EXPECT_TRUE(chord.isWaiting(510));
     EXPECT_FALSE(chord.isWaiting(511));
-    chord.somethingElseWasPressed();
+    chord.somethingElseWasPressed(115);
     EXPECT_FALSE(chord.isWaiting(120));
 }
 
