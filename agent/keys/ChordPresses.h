@@ -21,6 +21,8 @@ public:
     /// Another key or a button was pressed; told late, perhaps, and then what began since is not concerned.
     void somethingElseWasPressed(quint32 time);
 
+    /// Whether a first time counts so far; it may be long ago.
+    bool hasBegun() const { return first_.has_value(); }
     /// Whether it matters what else is pressed.
     bool isWaiting(quint32 time) const { return first_ && quint32(time - *first_) <= longestDouble; }
 

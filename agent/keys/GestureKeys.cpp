@@ -155,7 +155,7 @@ void GestureKeys::tellChord(ChordPresses::Outcome outcome, quint32 time)
 void GestureKeys::somethingElseWasPressed(quint32 time)
 {
     chord_.somethingElseWasPressed(time);
-    if (!chord_.isWaiting(time))
+    if (!chord_.hasBegun())
         chordWatch_.stop();
     updateWatch();
 }
