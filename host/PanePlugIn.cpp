@@ -47,11 +47,13 @@ PaneFailureReport initializeOnce(NSPrincipalClass *principalClass)
 
 void loadCode(PanePlugIn &plugIn)
 {
-    nameInCrashLogs(plugIn.bundle->bundleIdentifier());
+    const bool isNewInLogs = nameInCrashLogs(plugIn.bundle->bundleIdentifier());
     QPluginLoader loader(plugIn.bundle->executablePath());
     // Code that lacks a function of ours must fail here, not end the process when it first calls it.
     loader.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
     QObject *instance = loader.instance();
+    if (isNewInLogs && !loader.isLoaded())
+        doNotNameInCrashLogs(plugIn.bundle->bundleIdentifier());
     if (!instance) {
         plugIn.report = {PaneFailure::Damaged, loader.errorString()};
         return;

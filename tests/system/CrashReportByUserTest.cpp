@@ -1,111 +1,8 @@
 // The real settings crash with the pane in them; the next ones show the report, and its user decides what becomes of
 // it.
 
-#include "CrashProgram.h"
-#include "InstalledProduct.h"
-#include "KeyPress.h"
+#include "CrashReportByUser.h"
 #include "ReportServer.h"
-#include "TestBundle.h"
-#include "Wait.h"
-
-#include "KTXConstants.h"
-#include "crashreporter/QBCrashReporter.h"
-#include "platform/foundation/preferences/CFPreferences.h"
-
-#include <linux/input-event-codes.h>
-
-namespace {
-
-const QString logFile = QStringLiteral("/Library/Logs/CrashReporter/lumaroo-settings.crash.log");
-
-class CrashReportByUser : public InstalledProduct
-{
-protected:
-    CrashReportByUser()
-    {
-        qputenv("HOME", QFile::encodeName(home_.path()));
-        qputenv("LUMAROO_SYSTEM_ROOT", QFile::encodeName(home_.filePath("root")));
-        setSystemVersion("12");
-        storeOutside(KTXFirstLaunch, true);
-    }
-    ~CrashReportByUser() override
-    {
-        qputenv("HOME", previousHome_);
-        qunsetenv("LUMAROO_SYSTEM_ROOT");
-    }
-
-    QString home() const { return home_.path(); }
-    void setSystemVersion(const QByteArray &version) const
-    {
-        ASSERT_TRUE(QDir().mkpath(home_.filePath("root/etc")));
-        QFile file(home_.filePath("root/etc/os-release"));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("VERSION_ID=\"" + version + "\"\n");
-    }
-    /// Where reports go, and buttons with keys of their own.
-    void sendReportsTo(const QUrl &address) const
-    {
-        const TestBundle texts("Texts");
-        texts.writeStringTable("en", "QBCrashReporter",
-            {{"CRASH_REPORT_CGI_URL", address.toString()}, {"WANT_TO_SEND_CRASH_SEND", "&Send"},
-                {"WANT_TO_SEND_CRASH_SEND_LATER", "&Later"}, {"WANT_TO_SEND_CRASH_DONT_SEND", "&Never"},
-                {"CRASH_MESSAGE_TEXT", "What I did"}, {"COULDNT_SEND_CRASH_REPORT_ERROR", "Not sent"},
-                {"COULDNT_SEND_CRASH_REPORT_ERROR_OK", "&OK"}});
-        const QString file = pane() + "/Contents/Resources/en.lproj/QBCrashReporter.qm";
-        ASSERT_TRUE(QFile::remove(file));
-        ASSERT_TRUE(QFile::copy(texts.resourcePath() + "/en.lproj/QBCrashReporter.qm", file));
-    }
-    void open() { settings = std::make_unique<SettingsProgram>(QStringList{pane()}); }
-    /// Starts the settings and lets them crash once the pane is there.
-    void crash()
-    {
-        open();
-        ASSERT_TRUE(settings->waitForWindows(1));
-        settings->signal(SIGABRT);
-        EXPECT_EQ(settings->exitStatus(), -1);
-    }
-    /// Starts them again; whether they show the report beside their window, with the keyboard.
-    bool opensWithReport()
-    {
-        open();
-        return waitUntil([this] { return settings->windows().size() == 2 && reportHasKeyboard(); });
-    }
-    bool reportHasKeyboard() const
-    {
-        const QList<DesktopWindow> windows = settings->windows();
-        return std::any_of(windows.begin(), windows.end(), [](const DesktopWindow &window) {
-            return window.title != "Lumaroo" && window.id == windowWithKeyboard() && window.id == activeWindow();
-        });
-    }
-    bool opensWithoutReport()
-    {
-        open();
-        return settings->waitForWindows(1) && activeWindowTitle() == "Lumaroo";
-    }
-    bool closesReport() const
-    {
-        return waitUntil([this] { return settings->windows().size() == 1; });
-    }
-    void quit()
-    {
-        ASSERT_TRUE(settings->waitForWindows(1));
-        pressKey(KEY_Q, {KEY_LEFTCTRL});
-        ASSERT_EQ(settings->exitStatus(), 0);
-    }
-    static QDateTime remembered()
-    {
-        return CFPreferencesCopyAppValue(QBCrashReporterLastCrashReportDate, KTXLMAppID).toDateTime();
-    }
-    bool logHas(const QByteArray &text) const { return CrashProgram::contentOf(home() + logFile).contains(text); }
-
-    std::unique_ptr<SettingsProgram> settings;
-
-private:
-    QTemporaryDir home_;
-    QByteArray previousHome_ = qgetenv("HOME");
-};
-
-} // namespace
 
 TEST_F(CrashReportByUser, aCrashLeavesALogThatNamesThePane)
 {
@@ -134,7 +31,7 @@ TEST_F(CrashReportByUser, aReportIsSentWhenItsUserSaysSoAndNotOfferedAgain)
     ASSERT_TRUE(closesReport());
     ASSERT_EQ(server.requests.size(), 1);
     EXPECT_TRUE(server.requests.first().contains("What I did"));
-    EXPECT_TRUE(server.requests.first().contains(CrashProgram::contentOf(home() + logFile))) << "the log, whole";
+    EXPECT_TRUE(server.requests.first().contains(CrashProgram::contentOf(logFile()))) << "the log, whole";
     EXPECT_GE(remembered(), before);
     quit();
     EXPECT_TRUE(opensWithoutReport());
@@ -216,17 +113,46 @@ TEST_F(CrashReportByUser, aCrashWithoutThePaneIsNotOffered)
     EXPECT_TRUE(opensWithoutReport());
 }
 
+TEST_F(CrashReportByUser, aPaneThatCouldNotBeLoadedIsNotNamed)
+{
+    const QString code = pane() + "/Contents/Linux/Lumaroo";
+    ASSERT_TRUE(QFile::remove(code));
+    ASSERT_TRUE(QFile::copy(qEnvironmentVariable("LUMAROO_BUILD") + "/tests/panes/Unresolved.so", code));
+    open();
+    ASSERT_TRUE(settings->waitForWindows(1));
+    settings->signal(SIGABRT);
+    EXPECT_EQ(settings->exitStatus(), -1);
+    EXPECT_TRUE(logHas("Process:"));
+    EXPECT_FALSE(logHas("PlugIn Identifier"));
+}
+
 TEST_F(CrashReportByUser, theSettingsKeepTheLast20Records)
 {
     const QByteArray separator = "\n\n**********\n\n";
     ASSERT_TRUE(QDir().mkpath(home() + "/Library/Logs/CrashReporter"));
-    QFile file(home() + logFile);
+    QFile file(logFile());
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(("record" + separator).repeated(24) + "last");
     file.close();
     open();
     ASSERT_TRUE(settings->waitForWindows(1));
-    EXPECT_EQ(CrashProgram::contentOf(home() + logFile), ("record" + separator).repeated(19) + "last");
+    EXPECT_EQ(CrashProgram::contentOf(logFile()), ("record" + separator).repeated(19) + "last");
+}
+
+TEST_F(CrashReportByUser, theSettingsKeepTheLast20LogsWhereEachCrashHasAFile)
+{
+    setSystemVersion("10.5");
+    const QDir folder(home() + "/Library/Logs/CrashReporter");
+    ASSERT_TRUE(folder.mkpath("."));
+    for (int i = 10; i < 35; ++i) {
+        QFile file(folder.filePath(QStringLiteral("lumaroo-settings_%1.crash").arg(i)));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_TRUE(file.setFileTime(QDateTime::fromSecsSinceEpoch(i), QFileDevice::FileModificationTime));
+    }
+    open();
+    ASSERT_TRUE(settings->waitForWindows(1));
+    EXPECT_EQ(folder.entryList(QDir::Files).size(), 20);
+    EXPECT_EQ(folder.entryList(QDir::Files, QDir::Name).value(0), "lumaroo-settings_15.crash");
 }
 
 TEST_F(CrashReportByUser, anAgentsCrashLeavesALogAndIsNotOffered)

@@ -55,11 +55,24 @@ INSTANTIATE_TEST_SUITE_P(All, CrashLogOfAWay,
         Way{"division", SIGFPE, "SIGFPE (8): sent by a program"},
         Way{"end-of-file", SIGBUS, "SIGBUS (7): nothing is behind the address"},
         Way{"thread", SIGSEGV, "SIGSEGV (11): "}, Way{"threads", SIGSEGV, "SIGSEGV (11): "},
-        Way{"stack", SIGILL, "SIGILL (4): ill"}),
+        Way{"stack", SIGILL, "SIGILL (4): ill"}, Way{"in-thread-call-null", SIGSEGV, "SIGSEGV (11): nothing"},
+        Way{"in-thread-abort", SIGABRT, "SIGABRT (6): the program gave up"},
+        Way{"in-thread-exception", SIGABRT, "SIGABRT (6): "}, Way{"in-thread-noexcept", SIGABRT, "SIGABRT (6): "},
+        Way{"in-thread-illegal", SIGILL, "SIGILL (4): ill"},
+        Way{"in-thread-end-of-file", SIGBUS, "SIGBUS (7): nothing is behind the address"}),
     [](const auto &way) {
         QString name = way.param.name;
         return name.replace('-', '_').toStdString();
     });
+
+#if defined(__x86_64__)
+TEST_F(CrashLog, tellsWhatTheProcessorTakesForAFailure)
+{
+    EXPECT_EQ(program.crash("division-by-zero"), SIGFPE);
+    EXPECT_EQ(program.value("Signal"), "SIGFPE (8): division by zero");
+    EXPECT_GE(frames().size(), 2);
+}
+#endif
 
 TEST_F(CrashLog, tellsTheProgramItsVersionAndTheTime)
 {
@@ -94,6 +107,48 @@ TEST_F(CrashLog, leavesOutThePlugInsThatItHasNoRoomFor)
     program.crash("null", {"a", longName, longName, "b"});
     EXPECT_EQ(linesWith("PlugIn"),
         (QStringList{"PlugIn Identifier: a", "PlugIn Identifier: " + longName, "PlugIn Identifier: b"}));
+}
+
+TEST_F(CrashLog, namesAPlugInOnceHoweverOftenItIsLoaded)
+{
+    program.crash("null", {"com.example.one", "com.example", "com.example.one", "com.example"});
+    EXPECT_EQ(
+        linesWith("PlugIn"), (QStringList{"PlugIn Identifier: com.example.one", "PlugIn Identifier: com.example"}));
+}
+
+TEST_F(CrashLog, namesNoPlugInThatWasTakenBack)
+{
+    program.crash("null", {"a", "longer", "c", "-longer", "-never", "-a", "d", "-d", "e"});
+    EXPECT_EQ(linesWith("PlugIn"), (QStringList{"PlugIn Identifier: c", "PlugIn Identifier: e"}));
+}
+
+TEST_F(CrashLog, isGivenUpWhereItsWritingIsHeldUp)
+{
+    EXPECT_EQ(program.crash("held-up"), SIGSEGV) << "also where other threads crash and wait for it";
+    EXPECT_EQ(linesWith("Process: ").size(), 0) << "it was";
+}
+
+TEST_F(CrashLog, isMadeWithoutTheLoader)
+{
+    const QString bindings = program.home() + "/bindings";
+    qputenv("LD_DEBUG", "bindings");
+    qputenv("LD_DEBUG_OUTPUT", QFile::encodeName(bindings));
+    EXPECT_EQ(program.crash("look-up"), SIGSEGV);
+    qunsetenv("LD_DEBUG");
+    qunsetenv("LD_DEBUG_OUTPUT");
+    const QByteArray told = CrashProgram::contentOf(bindings + '.' + QString::number(program.processId));
+    const qsizetype last = told.indexOf("`getdomainname'");
+    ASSERT_GE(last, 0);
+    EXPECT_EQ(told.mid(last).count("symbol `"), 0) << told.mid(last).toStdString();
+    EXPECT_GE(frames().size(), 2);
+}
+
+TEST_F(CrashLog, tellsWhichThreadCrashedAndItsException)
+{
+    program.crash("in-thread-exception");
+    EXPECT_EQ(program.value("Exception"), "std::out_of_range: the text");
+    EXPECT_FALSE(program.value("Thread").contains("main"));
+    EXPECT_NE(program.value("Thread"), QString::number(program.processId));
 }
 
 TEST_F(CrashLog, leadsFromTheFrameThatCrashedToItsFunction)

@@ -13,6 +13,7 @@
 namespace {
 
 constexpr int mostLogs = 20;
+constexpr unsigned mostSeconds = 10;
 
 QString infoText(const char *key)
 {
@@ -47,13 +48,20 @@ void installCrashLogWriter()
         .home = kept(QFile::encodeName(QDir::homePath())),
         .folder = kept(QFile::encodeName(place.folder)),
         .hasFileForEach = place.form == CrashLogPlace::Form::FileForEach,
+        .mostSeconds = mostSeconds,
     });
 }
 
-void nameInCrashLogs(const QString &plugInIdentifier)
+bool nameInCrashLogs(const QString &plugInIdentifier)
 {
     const QByteArray identifier = plugInIdentifier.toUtf8();
-    addPlugInToCrashLog(identifier.constData(), size_t(identifier.size()));
+    return addPlugInToCrashLog(identifier.constData(), size_t(identifier.size()));
+}
+
+void doNotNameInCrashLogs(const QString &plugInIdentifier)
+{
+    const QByteArray identifier = plugInIdentifier.toUtf8();
+    removePlugInFromCrashLog(identifier.constData(), size_t(identifier.size()));
 }
 
 void trimCrashLogs()

@@ -1,5 +1,6 @@
 // A program that crashes as it is told, with the crash handler installed: crash HOME FORM WAY [PLUG-IN...]
-// FORM is "one" file, or a "file" for each. It is built without sanitizers, which have handlers of their own.
+// FORM is "one" file, or a "file" for each. A WAY that begins with "in-thread-" is gone in another thread than the main
+// one; a PLUG-IN that begins with "-" is taken back. It is built without sanitizers, which have handlers of their own.
 
 #include "platform/foundation/crashlogs/linux/CrashHandler.h"
 
@@ -7,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <dlfcn.h>
 #include <map>
 #include <pthread.h>
 #include <stdexcept>
@@ -92,12 +94,30 @@ void crashInManyThreads()
     pthread_join(thread, nullptr);
 }
 
-void readBehindTheEndOfAFile()
+const char *memoryBehindTheEndOfAFile()
 {
     FILE *file = std::tmpfile();
-    const auto *memory =
-        static_cast<volatile const char *>(mmap(nullptr, 4096, PROT_READ, MAP_PRIVATE, fileno(file), 0));
-    std::printf("%d", *memory);
+    return static_cast<const char *>(mmap(nullptr, 4096, PROT_READ, MAP_PRIVATE, fileno(file), 0));
+}
+
+void readBehindTheEndOfAFile()
+{
+    std::printf("%d", *static_cast<volatile const char *>(memoryBehindTheEndOfAFile()));
+}
+
+/// By the processor, where it knows that as a failure.
+void divideByZero()
+{
+#if defined(__x86_64__)
+    __asm__ volatile("xor %%ecx, %%ecx\n\tmov $1, %%eax\n\tcltd\n\tidiv %%ecx" ::: "eax", "ecx", "edx");
+#endif
+}
+
+/// The loader tells of each function that it finds, where it is asked to; the last one is this.
+void crashAfterLookingUpAFunction()
+{
+    dlsym(RTLD_DEFAULT, "getdomainname");
+    writeToNull();
 }
 
 /// The stack leads nowhere: whoever goes up it crashes as well.
@@ -150,9 +170,12 @@ const std::map<std::string, void (*)()> ways{
     {"terminate", [] { std::terminate(); }},
     {"illegal", [] { __builtin_trap(); }},
     {"division", [] { std::raise(SIGFPE); }},
+    {"division-by-zero", divideByZero},
+    {"look-up", crashAfterLookingUpAFunction},
     {"end-of-file", readBehindTheEndOfAFile},
     {"thread", crashInAnotherThread},
     {"threads", crashInManyThreads},
+    {"held-up", crashInManyThreads},
     {"stack", breakStack},
     {"stack-push", breakStackAndPush},
     {"child", crashInAChild},
@@ -160,24 +183,63 @@ const std::map<std::string, void (*)()> ways{
     {"other-handler", [] { std::raise(SIGILL); }},
 };
 
+void crashIn(void (*way)(), bool inThread)
+{
+    if (!inThread) {
+        way();
+        return;
+    }
+    static void (*wayOfThread)() = way;
+    pthread_t thread = {};
+    pthread_create(
+        &thread, nullptr,
+        [](void *) -> void * {
+            wayOfThread();
+            return nullptr;
+        },
+        nullptr);
+    pthread_join(thread, nullptr);
+}
+
+/// Whoever reads the identifier for the record stays there.
+const char *identifierFor(const std::string &way)
+{
+    if (way != "held-up")
+        return "com.example.crash";
+    std::signal(SIGBUS, [](int) {
+        for (;;)
+            pause();
+    });
+    return memoryBehindTheEndOfAFile();
+}
+
 } // namespace
 
 int main(int argumentCount, char **arguments)
 {
-    if (argumentCount < 4 || !ways.contains(arguments[3]))
+    const std::string inThread = "in-thread-";
+    std::string way = argumentCount < 4 ? "" : arguments[3];
+    const bool isInThread = way.compare(0, inThread.size(), inThread) == 0;
+    if (isInThread)
+        way.erase(0, inThread.size());
+    if (ways.count(way) == 0)
         return 2;
     const rlimit noCore = {0, 0};
     setrlimit(RLIMIT_CORE, &noCore);
-    if (std::strcmp(arguments[3], "other-handler") == 0)
+    if (way == "other-handler")
         std::signal(SIGILL, [](int) { _exit(5); });
     installCrashHandler({.program = "crash",
-        .identifier = "com.example.crash",
+        .identifier = identifierFor(way),
         .version = "1.0 (7)",
         .home = arguments[1],
         .folder = "Library/Logs/Here/",
-        .hasFileForEach = std::strcmp(arguments[2], "file") == 0});
-    for (int i = 4; i < argumentCount; ++i)
-        addPlugInToCrashLog(arguments[i], std::strlen(arguments[i]));
-    ways.at(arguments[3])();
+        .hasFileForEach = std::strcmp(arguments[2], "file") == 0,
+        .mostSeconds = way == "held-up" ? 1U : 60U});
+    for (int i = 4; i < argumentCount; ++i) {
+        const char *name = arguments[i];
+        *name == '-' ? removePlugInFromCrashLog(name + 1, std::strlen(name + 1))
+                     : void(addPlugInToCrashLog(name, std::strlen(name)));
+    }
+    crashIn(ways.at(way), isInThread);
     return 1;
 }

@@ -34,7 +34,7 @@ pid_t thisThread()
     return pid_t(::syscall(SYS_gettid));
 }
 
-/// The process ends here.
+/// The process ends here, whichever thread it is.
 void letDefaultHappen(int signal)
 {
     struct sigaction asDefault = {};
@@ -46,6 +46,24 @@ void letDefaultHappen(int signal)
     ::sigaddset(&set, signal);
     ::pthread_sigmask(SIG_UNBLOCK, &set, nullptr);
     ::syscall(SYS_tgkill, ::getpid(), thisThread(), signal);
+}
+
+void giveUp(int)
+{
+    letDefaultHappen(crash.signal);
+}
+
+/// From now on the record may be held up: by the disk, or by what is broken.
+void limitTime()
+{
+    struct sigaction end = {};
+    end.sa_handler = giveUp;
+    ::sigaction(SIGALRM, &end, nullptr);
+    sigset_t set;
+    ::sigemptyset(&set);
+    ::sigaddset(&set, SIGALRM);
+    ::pthread_sigmask(SIG_UNBLOCK, &set, nullptr);
+    ::alarm(programFacts.mostSeconds);
 }
 
 void rememberCrash(const siginfo_t &information, const void *context)
@@ -61,6 +79,7 @@ void rememberCrash(const siginfo_t &information, const void *context)
     crash.thread = thisThread();
     crash.exception = exceptionText.data();
     crash.plugIns = plugIns.data();
+    limitTime();
 }
 
 void handleCrash(int signal, siginfo_t *information, void *context)
@@ -72,7 +91,8 @@ void handleCrash(int signal, siginfo_t *information, void *context)
     pid_t nobody = 0;
     if (crashedThread.compare_exchange_strong(nobody, thisThread()))
         rememberCrash(*information, context);
-    // Another thread's crash: the first one ends the process. Our own, within the writing: it goes on after that.
+    // Another thread's crash: the first one ends the process, or its time does. Our own, within the writing: it goes on
+    // after that.
     while (crashedThread != thisThread())
         ::pause();
     while (writeNextSection(programFacts, crash)) { }
@@ -145,22 +165,47 @@ void handleSignals()
     }
 }
 
+/// Null where it is not named.
+char *placeOfPlugIn(const char *identifier, size_t length)
+{
+    char *end = plugIns.data() + plugInsLength;
+    for (char *name = plugIns.data(); name != end; name += std::strlen(name) + 1) {
+        if (std::strlen(name) == length && std::memcmp(name, identifier, length) == 0)
+            return name;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 void installCrashHandler(const CrashLogFacts &facts)
 {
     programFacts = facts;
     program = ::getpid();
+    prepareCrashRecord();
     makeStack();
     handleSignals();
     previousTerminate = std::set_terminate(handleUncaughtException);
 }
 
-void addPlugInToCrashLog(const char *identifier, size_t length)
+bool addPlugInToCrashLog(const char *identifier, size_t length)
 {
     // Two zeros end the list.
-    if (length == 0 || length + 2 > plugIns.size() - plugInsLength)
-        return;
+    if (length == 0 || length + 2 > plugIns.size() - plugInsLength || placeOfPlugIn(identifier, length))
+        return false;
     std::memcpy(plugIns.data() + plugInsLength, identifier, length);
     plugInsLength += length + 1;
+    return true;
+}
+
+void removePlugInFromCrashLog(const char *identifier, size_t length)
+{
+    char *place = placeOfPlugIn(identifier, length);
+    if (!place)
+        return;
+    char *next = place + length + 1;
+    char *end = plugIns.data() + plugInsLength;
+    std::memmove(place, next, size_t(end - next));
+    std::memset(end - length - 1, 0, length + 1);
+    plugInsLength -= length + 1;
 }

@@ -15,10 +15,13 @@ struct CrashLogFacts
     const char
         *folder; ///< below the home folder, with a slash at its end; made at the first crash, with those above it
     bool hasFileForEach;
+    unsigned mostSeconds; ///< a record that takes longer is given up
 };
 
 /// Installs the handlers of the signals that nobody handles yet. Called once.
 void installCrashHandler(const CrashLogFacts &facts);
 
-/// Adds a plug-in to what a log names.
-void addPlugInToCrashLog(const char *identifier, size_t length);
+/// Adds a plug-in to what a log names. False where it is named already, or there is no room for it.
+bool addPlugInToCrashLog(const char *identifier, size_t length);
+/// Takes back what was added.
+void removePlugInFromCrashLog(const char *identifier, size_t length);

@@ -258,6 +258,15 @@ constexpr Section sections[] = {openLog, addProgram, addPlugIns, addReason, addR
 
 } // namespace
 
+void prepareCrashRecord()
+{
+    // Our own calls are bound when we are loaded; those of the unwinder when it makes them first.
+    const auto goOn = [](_Unwind_Context *frame, void *) {
+        return _Unwind_GetIP(frame) ? _URC_NO_REASON : _URC_END_OF_STACK;
+    };
+    _Unwind_Backtrace(goOn, nullptr);
+}
+
 bool writeNextSection(const CrashLogFacts &facts, const Crash &crash)
 {
     static volatile unsigned next = 0;
