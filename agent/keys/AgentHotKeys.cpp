@@ -223,7 +223,7 @@ QString AgentHotKeys::text(Refusal refusal)
     case Refusal::NoModifiers:
         return QStringLiteral("no modifiers are chosen");
     case Refusal::DoublePressAlone:
-        return QStringLiteral("pressing the modifiers twice is what begins");
+        return QStringLiteral("only pressing the modifiers twice begins a selection");
     case Refusal::OtherAction:
         return QStringLiteral("another action has the same key");
     case Refusal::Typing:

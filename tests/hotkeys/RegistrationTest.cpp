@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr quint32 A = 0, S = 1;
+constexpr quint32 A = 0, S = 1, Unknown = 200;
 constexpr quint32 f13 = 105, OtherEnter = 52, Enter = 76;
 constexpr quint16 control = XCB_MOD_MASK_CONTROL, numLock = XCB_MOD_MASK_2;
 
@@ -166,6 +166,34 @@ TEST_F(Registration, givingUpAStaleOrNullReferenceIsAnErrorAndHarmsNothing)
     EXPECT_EQ(UnregisterEventHotKey(stale), eventHotKeyInvalidErr);
     EXPECT_EQ(UnregisterEventHotKey(nullptr), eventHotKeyInvalidErr);
     EXPECT_FALSE(other.grabKey(KEY_S, control));
+}
+
+TEST_F(Registration, freeModifiersAreThoseWithWhichNobodyElseHoldsAKey)
+{
+    const QList<quint32> asked{controlKey, controlKey | optionKey, shiftKey | controlKey};
+    EXPECT_EQ(LMFreeHotKeyModifiers({A, S}, asked), asked);
+    ASSERT_TRUE(other.grabKey(KEY_S, control | numLock));
+    EXPECT_EQ(LMFreeHotKeyModifiers({A, S}, asked), asked.mid(1));
+    EXPECT_EQ(LMFreeHotKeyModifiers({A}, asked), asked);
+    // Nothing that was tried is held.
+    EXPECT_TRUE(other.grabKey(KEY_A, control));
+    EXPECT_TRUE(other.grabKey(KEY_S, control | XCB_MOD_MASK_1));
+    EXPECT_EQ(LMFreeHotKeyModifiers({A, S}, asked), asked.mid(2));
+}
+
+TEST_F(Registration, whatIsRegisteredIsFreeAndStaysRegisteredWhenItIsTried)
+{
+    ASSERT_EQ(add(A, controlKey), noErr);
+    EXPECT_EQ(LMFreeHotKeyModifiers({A, S}, {controlKey}), QList<quint32>{controlKey});
+    EXPECT_FALSE(other.grabKey(KEY_A, control));
+    pressKey(KEY_A, {KEY_LEFTCTRL});
+    EXPECT_EQ(pressed(), QList<quint32>{1});
+}
+
+TEST_F(Registration, modifiersAndKeysThatTheKeyboardLacksAreNotFree)
+{
+    EXPECT_EQ(LMFreeHotKeyModifiers({A, Unknown}, {controlKey}), QList<quint32>());
+    EXPECT_EQ(LMFreeHotKeyModifiers({A}, {}), QList<quint32>());
 }
 
 TEST_F(Registration, andGivingUpManyTimesLeavesNothingBehind)

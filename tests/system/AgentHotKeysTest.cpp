@@ -175,6 +175,21 @@ TEST_F(AgentHotKeys, heldByAnotherProgramAreRefusedWithTheirNameAndTheOthersWork
     EXPECT_TRUE(says(line)) << agent->errors().toStdString();
 }
 
+TEST_F(AgentHotKeys, ofMovementThatAnotherProgramHoldsShowTheModifiersThatAreFree)
+{
+    start();
+    EXPECT_TRUE(runningAgent().value("freeModifiers").isArray());
+    EXPECT_TRUE(runningAgent().value("freeModifiers").toArray().isEmpty());
+    store({{KTXFirstLaunch, true}, {KTXUpPref, key(11)}});
+    ASSERT_TRUE(other.grabKey(KEY_B, controlAndAlt));
+    ASSERT_TRUE(other.grabKey(KEY_B, XCB_MOD_MASK_4 | XCB_MOD_MASK_CONTROL));
+    change({{KTXUpPref, key(11)}});
+    EXPECT_EQ(refusal(KTXUpPref), heldElsewhere);
+    const QJsonArray free = runningAgent().value("freeModifiers").toArray();
+    EXPECT_EQ(free.first(), qint64(KTXCommandModifier | KTXControlModifier | KTXOptionModifier));
+    EXPECT_FALSE(free.contains(qint64(KTXCommandModifier | KTXControlModifier)));
+}
+
 TEST_F(AgentHotKeys, ofTwoActionsWithOneKeyAreTheFirstOnes)
 {
     store({{KTXFirstLaunch, true}, {KTXScreenshotPref, key(126)}});

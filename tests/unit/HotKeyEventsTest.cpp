@@ -123,3 +123,21 @@ TEST(HotKeyEvents, constantsAreTheirFourCharacters)
     EXPECT_EQ(kEventParamDirectObject, 0x2D2D2D2DU);
     EXPECT_EQ(fourCharacterCode("KTXk"), 0x4B54586BU);
 }
+
+TEST(HotKeyEvents, tellTheirTimeWhileTheirHandlersAreCalled)
+{
+    static QList<quint32> times;
+    const auto look = [](EventHandlerCallRef, EventRef, void *) -> OSStatus {
+        times.append(LMCurrentEventTime());
+        if (times.size() > 1)
+            return noErr;
+        dispatchHotKeyPressed({2, 2}, 200);
+        times.append(LMCurrentEventTime());
+        return noErr;
+    };
+    ASSERT_EQ(InstallEventHandler(GetApplicationEventTarget(), look, 1, &press, nullptr, nullptr), noErr);
+    EXPECT_EQ(LMCurrentEventTime(), 0U);
+    dispatchHotKeyPressed({2, 1}, 100);
+    EXPECT_EQ(times, (QList<quint32>{100, 200, 100}));
+    EXPECT_EQ(LMCurrentEventTime(), 0U);
+}
