@@ -178,8 +178,7 @@ TEST_F(AgentHotKeys, heldByAnotherProgramAreRefusedWithTheirNameAndTheOthersWork
 TEST_F(AgentHotKeys, ofMovementThatAnotherProgramHoldsShowTheModifiersThatAreFree)
 {
     start();
-    EXPECT_TRUE(runningAgent().value("freeModifiers").isArray());
-    EXPECT_TRUE(runningAgent().value("freeModifiers").toArray().isEmpty());
+    EXPECT_EQ(runningAgent().value("freeModifiers"), QJsonValue(QJsonArray()));
     store({{KTXFirstLaunch, true}, {KTXUpPref, key(11)}});
     ASSERT_TRUE(other.grabKey(KEY_B, controlAndAlt));
     ASSERT_TRUE(other.grabKey(KEY_B, XCB_MOD_MASK_4 | XCB_MOD_MASK_CONTROL));
