@@ -15,10 +15,11 @@ qint64 areaOf(const QRect &rect)
     return qint64(rect.width()) * rect.height();
 }
 
-bool overlap(const QRect &one, const QRect &other)
+qint64 overlapOf(const QRect &one, const QRect &other)
 {
-    return one.left() <= other.right() && other.left() <= one.right() && one.top() <= other.bottom()
-        && other.top() <= one.bottom();
+    const int width = std::min(one.right(), other.right()) - std::max(one.left(), other.left()) + 1;
+    const int height = std::min(one.bottom(), other.bottom()) - std::max(one.top(), other.top()) + 1;
+    return width > 0 && height > 0 ? qint64(width) * height : 0;
 }
 
 /// What a rectangle is without another one that overlaps it: above, below, left and right of that; some may be empty.
@@ -33,27 +34,40 @@ std::array<QRect, 4> piecesAround(const QRect &hole, const QRect &rect)
     };
 }
 
-/// Counts the pixels of a rectangle that no other one hides. Stops once there are enough: most windows show plainly.
-qint64 uncoveredPixels(const QRect &rect, Rects::const_iterator covering, Rects::const_iterator end, qint64 enough)
+/// The one that hides the most, which leaves the least to be looked at in parts; null where none hides anything.
+const QRect *largestCover(const QRect &rect, const Rects &covering)
 {
-    covering = std::find_if(covering, end, [&rect](const QRect &other) { return overlap(rect, other); });
-    if (covering == end)
+    const QRect *largest = nullptr;
+    qint64 most = 0;
+    for (const QRect &other : covering) {
+        const qint64 overlap = overlapOf(rect, other);
+        if (overlap <= most)
+            continue;
+        most = overlap;
+        largest = &other;
+        if (most == areaOf(rect))
+            break;
+    }
+    return largest;
+}
+
+/// Counts the pixels of a rectangle that no other one hides. Stops once there are enough: most windows show plainly.
+qint64 uncoveredPixels(const QRect &rect, const Rects &covering, qint64 enough)
+{
+    const QRect *cover = largestCover(rect, covering);
+    if (!cover)
         return areaOf(rect);
     qint64 pixels = 0;
-    for (const QRect &piece : piecesAround(*covering, rect)) {
+    for (const QRect &piece : piecesAround(*cover, rect)) {
         if (pixels < enough && !piece.isEmpty())
-            pixels += uncoveredPixels(piece, covering + 1, end, enough - pixels);
+            pixels += uncoveredPixels(piece, covering, enough - pixels);
     }
     return pixels;
 }
 
-bool showsEnough(const QRect &rect, const Rects &above)
+qint64 pixelsThatCount(const QRect &rect)
 {
-    Rects covering;
-    std::copy_if(above.begin(), above.end(), std::back_inserter(covering),
-        [&rect](const QRect &other) { return overlap(rect, other); });
-    const qint64 enough = std::min(pixelsThatAreEnough, (areaOf(rect) + 3) / 4);
-    return uncoveredPixels(rect, covering.begin(), covering.end(), enough) >= enough;
+    return std::min(pixelsThatAreEnough, (areaOf(rect) + 3) / 4);
 }
 
 bool isHigher(const WindowDescription *one, const WindowDescription *other)
@@ -82,13 +96,18 @@ WindowList::iterator rowEnd(WindowList::iterator begin, WindowList::iterator end
 WindowList visibleWindows(const WindowWorld &world)
 {
     WindowList visible;
-    Rects above;
+    Rects covering;
     for (const WindowDescription &window : world.windows) {
         if (!window.covers())
             continue;
-        if (window.isCandidate() && showsEnough(window.windowRect, above))
+        const QRect &rect = window.windowRect;
+        const qint64 enough = pixelsThatCount(rect);
+        const qint64 pixels = uncoveredPixels(rect, covering, enough);
+        if (window.isCandidate() && pixels >= enough)
             visible.push_back(&window);
-        above.push_back(window.windowRect);
+        // What is hidden itself hides nothing that is not hidden already.
+        if (pixels > 0)
+            covering.push_back(rect);
     }
     return visible;
 }
