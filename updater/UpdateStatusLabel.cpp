@@ -3,7 +3,10 @@
 #include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/notifications/NSNotificationCenter.h"
 #include "platform/foundation/preferences/NSUserDefaults.h"
+#include "updater/UpdateTroubles.h"
+#include "updater/core/UpdatePermission.h"
 #include "updater/core/UpdateRecord.h"
+#include "updater/core/Versions.h"
 #include "updater/core/WaitingUpdateRecord.h"
 
 #include <QFileInfo>
@@ -22,18 +25,15 @@ QString lastSuccess()
                           : QString();
 }
 
-QString waitingVersion(const UpdatePlaces &places)
+QString nameOf(const QString &version, const QString &displayVersion)
 {
-    const std::optional<ExpectedUpdate> update = waitingUpdate(places);
-    if (!update)
-        return {};
-    return update->displayVersion.isEmpty() ? update->version : update->displayVersion;
+    return displayVersion.isEmpty() ? version : displayVersion;
 }
 
 } // namespace
 
 UpdateStatusLabel::UpdateStatusLabel(QWidget *parent, const NSBundle *bundle)
-    : StyledLabel(parent), places_(QFileInfo(bundle->bundlePath()).canonicalFilePath())
+    : StyledLabel(parent), bundle_(bundle), places_(QFileInfo(bundle->bundlePath()).canonicalFilePath())
 {
     NSNotificationCenter::defaultCenter()->addObserverSelectorNameObject(
         this, [this](const NSNotification &) { tell(); }, NSUserDefaultsDidChangeNotification, {});
@@ -88,6 +88,29 @@ QString UpdateStatusLabel::statement() const
 {
     if (status_ == LostFeed)
         return UpdateRecord().isFeedLost() ? format_ : otherwise_;
-    const QString told = status_ == LastSuccess ? lastSuccess() : waitingVersion(places_);
+    if (status_ == WaitingVersion)
+        return stateOfWaiting();
+    const QString told = lastSuccess();
     return told.isEmpty() ? otherwise_ : format_.arg(told);
+}
+
+QString UpdateStatusLabel::stateOfWaiting() const
+{
+    const std::optional<ExpectedUpdate> waiting = waitingUpdate(places_);
+    const std::optional<FailedInstallation> failed = UpdateRecord().failedInstallation();
+    if (waiting) {
+        const bool hasFailed = failed && failed->version == waiting->version;
+        const UpdateProblem refusal = problemOfUpdating(places_.bundle());
+        const UpdateProblem problem = refusal.isNone() && hasFailed ? failed->problem : refusal;
+        const QString name = nameOf(waiting->version, waiting->displayVersion);
+        return problem.isNone() ? format_.arg(name) : troubleWithInstallation(bundle_, name, problem.kind);
+    }
+    const QVariantMap info = NSBundle::infoDictionaryOnDisk(places_.bundle());
+    const QString installed = info.value(QStringLiteral("CFBundleVersion")).toString();
+    // What was installed by other means is no trouble any more.
+    if (!failed || !isNewer(failed->version, installed))
+        return otherwise_;
+    const UpdateProblem::Kind kind =
+        isForGood(failed->problem.kind) ? failed->problem.kind : UpdateProblem::Kind::Archive;
+    return troubleWithInstallation(bundle_, nameOf(failed->version, failed->displayVersion), kind);
 }

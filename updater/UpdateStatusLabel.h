@@ -9,7 +9,8 @@ class QFileSystemWatcher;
 /// A line about the updates of a bundle, which follows them for as long as it is on screen.
 ///
 /// Its property `status` says what the line is about; `format` is its text, where "%1" stands for the time or the
-/// version. A line that has nothing to say has the text `otherwise`, and keeps its place.
+/// version. A line that has nothing to say has the text `otherwise`, and keeps its place. What has gone wrong is told
+/// in words of the line's own (UpdateTroubles.h).
 class UpdateStatusLabel : public StyledLabel
 {
     Q_OBJECT
@@ -20,7 +21,7 @@ class UpdateStatusLabel : public StyledLabel
 public:
     enum Status {
         LastSuccess, ///< when a feed was last read
-        WaitingVersion, ///< which version is installed next
+        WaitingVersion, ///< which version is installed next, or why one was not
         LostFeed, ///< that no feed could be read for a long time
     };
     Q_ENUM(Status)
@@ -36,7 +37,9 @@ private:
     void follow();
     void tell();
     QString statement() const;
+    QString stateOfWaiting() const;
 
+    const NSBundle *bundle_;
     UpdatePlaces places_;
     Status status_ = LastSuccess;
     QString format_;

@@ -8,6 +8,7 @@
 
 #include "platform/appkit/NSApplication.h"
 #include "platform/foundation/bundles/NSBundle.h"
+#include "updater/core/Installation.h"
 #include "updater/core/linux/BundleExchange.h"
 
 #include <QProgressBar>
@@ -41,12 +42,12 @@ protected:
         pressWithKeyboard(KEY_ENTER);
         EXPECT_TRUE(closes());
     }
-    QByteArray archiveWithLauncher() const
+    /// One that only writes down what it was given.
+    void putLauncher() const
     {
-        QList<TarEntry> entries = entriesOf(101, keyInInfo());
-        entries += {"Sample.prefPane/Contents/Resources/launcher", TarEntry::File,
-            "#!/bin/sh\nprintf '%s\\n' \"$@\" >\"$0.new\"\nmv \"$0.new\" \"$0.done\"\n", {}, 0755};
-        return tarFile(entries);
+        const QString launcher = bundle() + "/Contents/Resources/launcher";
+        write(launcher, "#!/bin/sh\nprintf '%s\\n' \"$@\" >\"$0.new\"\nmv \"$0.new\" \"$0.done\"\n");
+        ASSERT_TRUE(QFile::setPermissions(launcher, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     }
     /// Large enough to take its time.
     QByteArray largeArchive() const
@@ -85,19 +86,40 @@ TEST_F(UpdateInstallation, downloadsWhatIsOfferedAndInstallsItWhenTheSettingsEnd
     killProcess(waitingInstallers().last());
 }
 
-TEST_F(UpdateInstallation, installsAndRestarts)
+TEST_F(UpdateInstallation, asksTheSettingsToEndBeforeAnythingIsExchanged)
 {
     putInstaller();
-    offer(publish(101, archiveWithLauncher()));
+    putLauncher();
+    offer(publish(101));
     press("install");
     ASSERT_TRUE(shows("ready"));
+    int versionWhenAsked = 0;
+    NSApplication::sharedApplication()->setTerminationHandler([&] { versionWhenAsked = wholeVersion(); });
     pressWithKeyboard(KEY_ENTER);
-    EXPECT_TRUE(waitUntil([this] { return terminations == 1; }));
-    EXPECT_EQ(wholeVersion(), 101);
-    EXPECT_TRUE(shows("installed")) << "for who keeps the settings open";
+    EXPECT_TRUE(waitUntil([&] { return versionWhenAsked != 0; }));
+    EXPECT_EQ(versionWhenAsked, 100);
     const QString report = bundle() + "/Contents/Resources/launcher.done";
     EXPECT_TRUE(waitUntil([&] { return QFile::exists(report); }));
     EXPECT_EQ(contentOf(report), bundle().toUtf8() + "\nNo\n");
+}
+
+TEST_F(UpdateInstallation, leavesTheOldBundleToSettingsThatStay)
+{
+    putInstaller();
+    putLauncher();
+    offer(publish(101));
+    const qsizetype before = waitingInstallers().size();
+    press("install");
+    ASSERT_TRUE(shows("ready"));
+    press("installAndRestart");
+    ASSERT_TRUE(shows("installedAtEnd")) << "for who keeps the settings open";
+    EXPECT_EQ(terminations, 1);
+    pressWithKeyboard(KEY_ENTER);
+    EXPECT_TRUE(closes());
+    EXPECT_EQ(wholeVersion(), 100);
+    EXPECT_TRUE(waitingUpdate(places()));
+    EXPECT_EQ(waitingInstallers().size(), before + 1) << "for their end";
+    killProcess(waitingInstallers().last());
 }
 
 TEST_F(UpdateInstallation, saysWhatToDoWhereNothingBringsTheSettingsBack)
@@ -107,9 +129,21 @@ TEST_F(UpdateInstallation, saysWhatToDoWhereNothingBringsTheSettingsBack)
     press("install");
     ASSERT_TRUE(shows("ready"));
     press("installAndRestart");
+    ASSERT_TRUE(shows("installedAtEnd"));
+    EXPECT_EQ(wholeVersion(), 100);
+    EXPECT_EQ(terminations, 0);
+}
+
+TEST_F(UpdateInstallation, saysThatAnotherProcessHasInstalledItMeanwhile)
+{
+    putInstaller();
+    offer(publish(101));
+    press("install");
+    ASSERT_TRUE(shows("ready"));
+    EXPECT_EQ(installWaitingUpdate(bundle()).version, "101");
+    press("installAndRestart");
     ASSERT_TRUE(shows("installed"));
     EXPECT_EQ(wholeVersion(), 101);
-    EXPECT_EQ(terminations, 0);
 }
 
 TEST_F(UpdateInstallation, offersWhatWaitsAlreadyAtOnce)
@@ -225,13 +259,24 @@ TEST_F(UpdateInstallation, tellsThatWhatWaitedHasBeenChangedSince)
     EXPECT_EQ(terminations, 0);
 }
 
-TEST_F(UpdateInstallation, tellsThatThereIsNoInstaller)
+TEST_F(UpdateInstallation, tellsThatThereIsNoInstallerAndKeepsTheUpdateForTheNextStart)
 {
     offer(publish(101));
     press("install");
-    ASSERT_TRUE(shows("ready"));
-    press("installAndRestart");
     ASSERT_TRUE(shows("failure"));
     EXPECT_EQ(text("heading"), "The update cannot take the old version's place");
     EXPECT_EQ(wholeVersion(), 100);
+    EXPECT_TRUE(waitingUpdate(places()));
+    EXPECT_EQ(record.failedInstallation(),
+        (FailedInstallation{"101", "101", {Kind::Exchange, "the installer cannot be started"}}));
+}
+
+TEST_F(UpdateInstallation, thatIsPreparedIsNoFailedOneAnyMore)
+{
+    putInstaller();
+    record.noteFailedInstallation({"101", "101", {Kind::Signature, {}}});
+    offer(publish(101));
+    press("install");
+    ASSERT_TRUE(shows("ready"));
+    EXPECT_EQ(record.failedInstallation(), std::nullopt);
 }

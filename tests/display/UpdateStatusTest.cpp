@@ -4,9 +4,11 @@
 #include "Wait.h"
 
 #include "KTXConstants.h"
+#include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/preferences/CFPreferences.h"
 #include "platform/foundation/preferences/NSUserDefaults.h"
 #include "platform/foundation/system/SystemCalls.h"
+#include "updater/UpdateTroubles.h"
 #include "updater/core/UpdateRecord.h"
 #include "updater/core/WaitingUpdate.h"
 
@@ -17,6 +19,7 @@
 namespace {
 
 constexpr int updatesPage = 3;
+const QString isReady = "Version 1.1 is ready. It is installed when you close the settings.";
 const QString nothingWaits = "No new version is waiting to be installed.";
 
 class UpdateStatus : public PaneOnRealStore
@@ -49,6 +52,10 @@ protected:
         QFile file(places().record());
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(recordOfWaitingUpdate({version, displayVersion, {}, 0, 1}));
+    }
+    QString trouble(UpdateProblem::Kind kind)
+    {
+        return troubleWithInstallation(NSBundle::bundleWithPath(bundle().path()), "1.1", kind);
     }
     bool comesToSay(const char *name, const QString &said)
     {
@@ -90,8 +97,7 @@ TEST_F(UpdateStatus, followsAnOpenPage)
     UpdateRecord().noteSuccess();
     EXPECT_TRUE(waitUntil([this] { return text("lastSuccessLabel").contains("2026"); }));
     letUpdateWait("101", "1.1");
-    EXPECT_TRUE(
-        comesToSay("waitingVersionLabel", "Version 1.1 is ready. It is installed when you close the settings."));
+    EXPECT_TRUE(comesToSay("waitingVersionLabel", isReady));
     removeWaitingUpdate(places());
     EXPECT_TRUE(comesToSay("waitingVersionLabel", nothingWaits));
     letUpdateWait("102", "");
@@ -116,7 +122,7 @@ TEST_F(UpdateStatus, catchesUpWhenItsPageIsTurnedTo)
 TEST_F(UpdateStatus, saysThatTheFeedCouldNotBeReadForThirtyDays)
 {
     showPage();
-    for (const int day : {0, 29}) {
+    for (int day = 0; day < 30; ++day) {
         letItBeDaysLater(day);
         UpdateRecord().noteFailure();
         runPendingEvents();
@@ -127,6 +133,46 @@ TEST_F(UpdateStatus, saysThatTheFeedCouldNotBeReadForThirtyDays)
     EXPECT_TRUE(waitUntil([this] { return text("lostFeedLabel").contains("For 30 days"); }));
     UpdateRecord().noteSuccess();
     EXPECT_TRUE(comesToSay("lostFeedLabel", ""));
+}
+
+TEST_F(UpdateStatus, saysWhyAWaitingVersionWasNotInstalled)
+{
+    using Kind = UpdateProblem::Kind;
+    showPage();
+    letUpdateWait("101", "1.1");
+    for (const Kind kind : {Kind::Storage, Kind::Busy, Kind::Superuser, Kind::Exchange}) {
+        UpdateRecord().noteFailedInstallation({"101", "1.1", {kind, "for the log"}});
+        EXPECT_TRUE(comesToSay("waitingVersionLabel", trouble(kind))) << int(kind);
+    }
+    UpdateRecord().noteFailedInstallation({"99", "0.9", {Kind::Storage, {}}});
+    EXPECT_TRUE(comesToSay("waitingVersionLabel", isReady)) << "it was another one";
+    UpdateRecord().forgetFailedInstallation();
+    EXPECT_TRUE(QDir(places().waiting()).removeRecursively());
+}
+
+TEST_F(UpdateStatus, saysWhyAVersionIsGoneUntilOneAsHighIsInstalled)
+{
+    using Kind = UpdateProblem::Kind;
+    showPage();
+    for (const Kind kind : {Kind::Signature, Kind::Archive, Kind::Contents, Kind::NoKey}) {
+        UpdateRecord().noteFailedInstallation({"101", "1.1", {kind, "for the log"}});
+        EXPECT_TRUE(comesToSay("waitingVersionLabel", trouble(kind))) << int(kind);
+    }
+    UpdateRecord().noteFailedInstallation({"101", "1.1", {Kind::Storage, {}}});
+    EXPECT_TRUE(comesToSay("waitingVersionLabel", trouble(Kind::Archive))) << "nothing is tried again";
+    UpdateRecord().noteFailedInstallation({"100", "1.0", {Kind::Signature, {}}});
+    EXPECT_TRUE(comesToSay("waitingVersionLabel", nothingWaits));
+}
+
+TEST_F(UpdateStatus, saysThatAWaitingVersionIsNotThisUsersToInstall)
+{
+    letUpdateWait("101", "1.1");
+    const QFile::Permissions readable = QFile::ReadOwner | QFile::ExeOwner;
+    ASSERT_TRUE(QFile::setPermissions(bundle().path(), readable));
+    showPage();
+    EXPECT_EQ(text("waitingVersionLabel"), trouble(UpdateProblem::Kind::NotWritable));
+    ASSERT_TRUE(QFile::setPermissions(bundle().path(), readable | QFile::WriteOwner));
+    EXPECT_TRUE(QDir(places().waiting()).removeRecursively());
 }
 
 TEST_F(UpdateStatus, isWhatAScreenReaderReads)

@@ -4,6 +4,7 @@
 #include "Wait.h"
 
 #include "platform/foundation/bundles/NSBundle.h"
+#include "updater/UpdateTroubles.h"
 #include "updater/windows/UpdatePages.h"
 #include "updater/windows/UpdateWindow.h"
 
@@ -46,7 +47,7 @@ QList<UpdatePage> allPages(const NSBundle *bundle)
     informational.isInformational = true;
     QList<UpdatePage> all{pages.checking(), pages.upToDate("1.0"), pages.offer(item, "100"),
         pages.offer(critical, "100"), pages.offer(informational, "100"), pages.download("1.1"), pages.preparing("1.1"),
-        pages.ready("1.1"), pages.installing("1.1"), pages.installed("1.1")};
+        pages.ready("1.1"), pages.installedAtEnd("1.1"), pages.installed("1.1")};
     for (const UpdateProblem &problem : problems())
         all += pages.failure(problem);
     return all;
@@ -103,6 +104,22 @@ TEST_F(UpdateTexts, areAllGermanForAGermanUser)
     EXPECT_EQ(UpdatePages(german()).progressText(1'200'000, 3'400'000), "1,2 MB von 3,4 MB");
     EXPECT_NE(UpdatePages(german()).windowTitle(), UpdatePages(english()).windowTitle());
     EXPECT_NE(UpdatePages(german()).notesAreMissing(), UpdatePages(english()).notesAreMissing());
+}
+
+TEST_F(UpdateTexts, sayForEachProblemThatKeepsAnUpdateFromBeingInstalledWhatToDo)
+{
+    using Kind = UpdateProblem::Kind;
+    QSet<QString> said;
+    for (const Kind kind : {Kind::Storage, Kind::NoKey, Kind::Signature, Kind::Archive, Kind::Contents,
+             Kind::NotWritable, Kind::Superuser, Kind::Busy, Kind::Exchange}) {
+        const QString text = troubleWithInstallation(english(), "1.1", kind);
+        EXPECT_TRUE(text.startsWith("⚠ Version 1.1 was not installed. ")) << text.toStdString();
+        const QString translated = troubleWithInstallation(german(), "1.1", kind);
+        EXPECT_TRUE(translated.startsWith("⚠ Version 1.1 wurde nicht installiert. ")) << translated.toStdString();
+        EXPECT_NE(translated.section(". ", 1), text.section(". ", 1));
+        said += text;
+    }
+    EXPECT_EQ(said.size(), 9);
 }
 
 TEST_F(UpdateTexts, giveEveryButtonOfAPageAKeyOfItsOwn)

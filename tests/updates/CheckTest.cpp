@@ -2,6 +2,8 @@
 #include "Wait.h"
 #include "updater/core/UpdateRecord.h"
 
+#include "platform/foundation/preferences/CFPreferences.h"
+
 // A check against a real server, and what is remembered of it.
 
 using Kind = UpdateProblem::Kind;
@@ -44,6 +46,17 @@ TEST_F(Check, ofItselfFindsNoSkippedVersion)
     record.skip("101");
     EXPECT_EQ(offered(false), QString());
     EXPECT_EQ(offered(true), "101");
+}
+
+TEST_F(Check, findsVersionsOfTheChannelsThatAreFollowed)
+{
+    tell({publish(101)});
+    QByteArray text = contentOf(served("appcast.xml"));
+    tellText(text.replace("</item>", "<sparkle:channel>beta</sparkle:channel></item>"));
+    EXPECT_EQ(offered(), QString());
+    CFPreferencesSetAppValue("Channels", "nightly,beta", updaterDomain);
+    EXPECT_EQ(offered(), "101");
+    CFPreferencesSetAppValue("Channels", {}, updaterDomain);
 }
 
 TEST_F(Check, isRemembered)

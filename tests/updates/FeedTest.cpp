@@ -133,6 +133,32 @@ TEST(Feed, leavesOutAnItemWithTwoVersions)
     EXPECT_EQ(onlyItem(readItem(version, enclosureWith("sparkle:version=\"101\""))).version, "101");
 }
 
+TEST(Feed, leavesOutAnItemWithTwoVersionsForPeople)
+{
+    const QByteArray elements = version + "<sparkle:shortVersionString>1.1</sparkle:shortVersionString>";
+    const auto enclosure = [](const QByteArray &text) {
+        return enclosureWith("sparkle:shortVersionString=\"" + text + "\"");
+    };
+    expectLeftOut(readItem(elements, enclosure("1.2")), "it has two versions for people");
+    EXPECT_EQ(onlyItem(readItem(elements, enclosure("1.1"))).displayVersion, "1.1");
+}
+
+TEST(Feed, takesTheEnclosureForThisSystemOfSeveral)
+{
+    const auto enclosure = [](const QByteArray &name, const QByteArray &os) {
+        return "<enclosure url=\"" + name + "\" length=\"1000\" sparkle:edSignature=\"" + signature + "\" " + os + "/>";
+    };
+    const QByteArray others = enclosure("other", "sparkle:os=\"macos\"") + enclosure("third", "sparkle:os=\"windows\"");
+    const QByteArray ours = enclosure("ours", "sparkle:os=\"Linux\"");
+    const QByteArray anybodys = enclosure("anybodys", {});
+    for (const QByteArray &enclosures : {others + ours, ours + others, others + anybodys + ours, ours + anybodys})
+        EXPECT_EQ(onlyItem(readItem(version, enclosures)).archive.fileName(), "ours") << enclosures.toStdString();
+    EXPECT_EQ(onlyItem(readItem(version, others + anybodys)).archive.fileName(), "anybodys");
+    EXPECT_EQ(onlyItem(readItem(version, others)).operatingSystem, "macos") << "nothing for us";
+    expectLeftOut(readItem(version, ours + others + ours), "it has more than one enclosure");
+    expectLeftOut(readItem(version, anybodys + anybodys), "it has more than one enclosure");
+}
+
 TEST(Feed, leavesOutAnItemWhoseVersionIsNone)
 {
     expectLeftOut(readItem("<sparkle:version>Version 1.1</sparkle:version>"), "\"Version 1.1\" is no bundle version");

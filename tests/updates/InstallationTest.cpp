@@ -112,6 +112,51 @@ TEST_F(InstallationOfAnUpdate, verifiesTheArchiveAgain)
     EXPECT_EQ(beside(), QStringList());
 }
 
+TEST_F(InstallationOfAnUpdate, isGivenUpForGoodWithoutItsArchive)
+{
+    for (const char *damage : {"gone", "empty", "a folder"}) {
+        prepare(101);
+        ASSERT_TRUE(QFile::remove(places().archive()));
+        if (damage == QByteArray("empty"))
+            write(places().archive(), "");
+        if (damage == QByteArray("a folder")) {
+            ASSERT_TRUE(QDir().mkdir(places().archive()));
+        }
+        expectNotInstalled(Kind::Archive, false);
+        EXPECT_EQ(beside(), QStringList()) << damage;
+    }
+}
+
+TEST_F(InstallationOfAnUpdate, waitsOnWhileItsArchiveCannotBeRead)
+{
+    prepare(101);
+    ASSERT_TRUE(QFile::setPermissions(places().archive(), QFile::Permissions()));
+    expectNotInstalled(Kind::Storage, true);
+    ASSERT_TRUE(QFile::setPermissions(places().archive(), QFile::ReadOwner));
+    expectInstalled(101);
+}
+
+TEST_F(InstallationOfAnUpdate, isVerifiedBeforehandAndThenStillWaits)
+{
+    prepare(101);
+    EXPECT_TRUE(verifyWaitingUpdate(bundle()).isNone());
+    {
+        const FolderLock lock(folder());
+        EXPECT_EQ(verifyWaitingUpdate(bundle()).kind, Kind::Busy);
+    }
+    EXPECT_TRUE(waitingUpdate(places()));
+    expectInstalled(101);
+    EXPECT_EQ(verifyWaitingUpdate(bundle()).kind, Kind::Archive) << "nothing waits any more";
+}
+
+TEST_F(InstallationOfAnUpdate, isRemovedBeforehandWhereItIsNotGenuine)
+{
+    prepare(101);
+    write(places().archive(), "something else");
+    EXPECT_EQ(verifyWaitingUpdate(bundle()).kind, Kind::Signature);
+    expectOldBundleAlone();
+}
+
 TEST_F(InstallationOfAnUpdate, goesByTheArchiveAndNotByWhatWasUnpackedOfIt)
 {
     prepare(101);

@@ -22,10 +22,10 @@ protected:
         return qEnvironmentVariable("LUMAROO_BUILD") + "/Lumaroo.prefPane/Contents/Resources/installer";
     }
     static int statusOf(Kind kind) { return firstInstallationFailure + int(kind); }
-    QString recordedProblem() const
+    static std::optional<FailedInstallation> recorded()
     {
         CFPreferencesAppSynchronize(updaterDomain);
-        return UpdateRecord().installationProblem();
+        return UpdateRecord().failedInstallation();
     }
     ProgramResult run() const { return runProgram(program(), {bundle()}); }
 };
@@ -93,11 +93,24 @@ TEST_F(Installer, remembersWhyNothingWasInstalledUntilSomethingIs)
     const ProgramResult result = run();
     EXPECT_EQ(result.status, statusOf(Kind::Signature));
     EXPECT_EQ(result.errors, "lumaroo: installer: version 100 stays: the archive is not the one that was signed\n");
-    EXPECT_EQ(recordedProblem(), "the archive is not the one that was signed");
+    const FailedInstallation expected{"101", "1.1", {Kind::Signature, "the archive is not the one that was signed"}};
+    EXPECT_EQ(recorded(), expected);
     expectOldBundleAlone();
+    EXPECT_EQ(run().status, 0) << "nothing waits";
+    EXPECT_EQ(recorded(), expected);
     prepare(101);
     EXPECT_EQ(run().status, 0);
-    EXPECT_EQ(recordedProblem(), QString());
+    EXPECT_EQ(recorded(), std::nullopt);
+}
+
+TEST_F(Installer, remembersAndRemovesAnUpdateWhoseArchiveIsGone)
+{
+    prepare(101);
+    ASSERT_TRUE(QFile::remove(places().archive()));
+    EXPECT_EQ(run().status, statusOf(Kind::Archive));
+    ASSERT_TRUE(recorded());
+    EXPECT_EQ(recorded()->problem.kind, Kind::Archive);
+    expectOldBundleAlone();
 }
 
 TEST_F(Installer, installsNothingAsRoot)

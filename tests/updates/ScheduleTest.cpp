@@ -37,6 +37,14 @@ protected:
         return isDue;
     }
 
+    void failDaily(int firstDay, int lastDay)
+    {
+        for (int day = firstDay; day <= lastDay; ++day) {
+            now = noon.addDays(day);
+            record.noteFailure();
+        }
+    }
+
     QDateTime now = noon;
     UpdateRecord record;
 };
@@ -126,22 +134,44 @@ TEST_F(Schedule, tellsTheLastCheckAndTheLastThatSucceeded)
 TEST_F(Schedule, aFeedIsLostWhenEveryCheckOfThirtyDaysFails)
 {
     EXPECT_FALSE(record.isFeedLost());
-    record.noteFailure();
-    now = noon.addDays(29);
-    record.noteFailure();
+    failDaily(0, 29);
     EXPECT_FALSE(record.isFeedLost());
-    now = noon.addDays(30);
+    failDaily(30, 30);
     EXPECT_TRUE(record.isFeedLost());
     record.noteSuccess();
     EXPECT_FALSE(record.isFeedLost());
 }
 
+TEST_F(Schedule, timeWithoutChecksIsNoFailureOfTheFeed)
+{
+    record.noteFailure();
+    now = noon.addDays(40);
+    EXPECT_FALSE(record.isFeedLost()) << "nobody has looked";
+    record.noteFailure();
+    EXPECT_FALSE(record.isFeedLost()) << "one check after a long pause";
+    failDaily(41, 69);
+    EXPECT_FALSE(record.isFeedLost());
+    failDaily(70, 70);
+    EXPECT_TRUE(record.isFeedLost());
+}
+
+TEST_F(Schedule, aWeekBetweenTwoChecksIsNoPause)
+{
+    for (int day = 0; day <= 35; day += 7) {
+        EXPECT_FALSE(record.isFeedLost());
+        failDaily(day, day);
+    }
+    EXPECT_TRUE(record.isFeedLost());
+}
+
 TEST_F(Schedule, failuresCountFromNowWhenTheClockHasBeenSetBack)
 {
     record.noteFailure();
-    now = noon.addYears(-1);
-    record.noteFailure();
-    now = noon.addYears(-1).addDays(31);
+    for (int day = 0; day <= 30; ++day) {
+        EXPECT_FALSE(record.isFeedLost());
+        now = noon.addYears(-1).addDays(day);
+        record.noteFailure();
+    }
     EXPECT_TRUE(record.isFeedLost());
 }
 

@@ -170,7 +170,7 @@ TEST_F(WaitingUpdate, whoseArchiveIsALinkIsNone)
     write(path("elsewhere"), archiveOf(101));
     ASSERT_TRUE(beginWaitingUpdate(places()).isNone());
     ASSERT_TRUE(QFile::link(path("elsewhere"), places().archive()));
-    EXPECT_EQ(completeWaitingUpdate(places(), expected(archiveOf(101), 101)).kind, Kind::Storage);
+    EXPECT_EQ(completeWaitingUpdate(places(), expected(archiveOf(101), 101)).kind, Kind::Archive);
     EXPECT_TRUE(QFile::exists(path("elsewhere")));
     expectOldBundleAlone();
 }

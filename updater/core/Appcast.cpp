@@ -1,5 +1,6 @@
 #include "updater/core/Appcast.h"
 
+#include "updater/core/OperatingSystem.h"
 #include "updater/core/Signature.h"
 #include "updater/core/Versions.h"
 
@@ -191,13 +192,14 @@ private:
     /// Puts the item together of what was read; empty, or why it cannot be used.
     QString completeItem()
     {
-        if (enclosures_.size() > 1)
+        const QList<Enclosure> ours = enclosuresForThisSystem();
+        if (ours.size() > 1)
             return QStringLiteral("it has more than one enclosure");
-        const Enclosure enclosure = enclosures_.value(0);
-        const bool differ =
-            !elementVersion_.isEmpty() && !enclosure.version.isEmpty() && elementVersion_ != enclosure.version;
-        if (differ)
+        const Enclosure enclosure = ours.value(0);
+        if (differ(elementVersion_, enclosure.version))
             return QStringLiteral("it has two versions");
+        if (differ(item_.displayVersion, enclosure.displayVersion))
+            return QStringLiteral("it has two versions for people");
         item_.version = elementVersion_.isEmpty() ? enclosure.version : elementVersion_;
         if (!isBundleVersion(item_.version))
             return QStringLiteral("\"%1\" is no bundle version").arg(item_.version);
@@ -205,6 +207,23 @@ private:
         if (item_.displayVersion.isEmpty())
             item_.displayVersion = enclosure.displayVersion.isEmpty() ? item_.version : enclosure.displayVersion;
         return enclosures_.isEmpty() && item_.isInformational ? QString() : completeArchive(enclosure);
+    }
+
+    /// Those that name this system before those that name none. Where all are for others, the first is as good as any.
+    QList<Enclosure> enclosuresForThisSystem() const
+    {
+        QList<Enclosure> named, unnamed;
+        for (const Enclosure &enclosure : enclosures_) {
+            if (isForThisSystem(enclosure.operatingSystem))
+                (enclosure.operatingSystem.isEmpty() ? unnamed : named) += enclosure;
+        }
+        const QList<Enclosure> &ours = named.isEmpty() ? unnamed : named;
+        return ours.isEmpty() ? enclosures_.first(std::min(enclosures_.size(), qsizetype(1))) : ours;
+    }
+
+    static bool differ(const QString &element, const QString &attribute)
+    {
+        return !element.isEmpty() && !attribute.isEmpty() && element != attribute;
     }
 
     QString completeArchive(const Enclosure &enclosure)

@@ -27,7 +27,8 @@ struct AppcastReading
 /// Reads a feed that came from `address`, which relative addresses in it count from.
 ///
 /// Whatever may stand as an element or as an attribute of the enclosure (version, shortVersionString) is taken from
-/// either; where both are there and differ, the item is left out. An item needs a version of the form that bundles
+/// either; where both are there and differ, the item is left out. Of several enclosures the one for this system counts,
+/// and two for it leave the item out. An item needs a version of the form that bundles
 /// carry, and unless it is informational an enclosure with its length and a signature of exactly 64 bytes, unbroken, in
 /// base 64. Deltas are not looked at.
 ///

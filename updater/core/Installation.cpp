@@ -14,12 +14,6 @@ namespace {
 
 using Kind = UpdateProblem::Kind;
 
-/// The archive will not get better by waiting.
-bool isForGood(const UpdateProblem &problem)
-{
-    return problem.kind == Kind::Signature || problem.kind == Kind::Contents || problem.kind == Kind::NoKey;
-}
-
 UpdateProblem changePlaces(const UpdatePlaces &places, const QString &newBundle)
 {
     const QString unsecured = secureFileSystem(newBundle);
@@ -68,14 +62,30 @@ Installation installWaitingUpdate(const QString &bundlePath)
         return {};
     const UpdateProblem refusal = problemOfUpdating(bundlePath);
     if (!refusal.isNone())
-        return {InstalledBundle(bundlePath).version, refusal};
+        return {InstalledBundle(bundlePath).version, *expected, refusal};
     const FolderLock lock(places.folder());
     const UpdateProblem problem = lock ? install(places, *expected) : busy(places.bundle());
-    if (problem.isNone() || isForGood(problem))
+    if (problem.isNone() || isForGood(problem.kind))
         removeWaitingUpdate(places);
     if (problem.isNone())
         secureFileSystem(places.folder());
-    return {InstalledBundle(bundlePath).version, problem};
+    return {InstalledBundle(bundlePath).version, *expected, problem};
+}
+
+UpdateProblem verifyWaitingUpdate(const QString &bundlePath)
+{
+    const UpdatePlaces places(InstalledBundle(bundlePath).path);
+    const std::optional<ExpectedUpdate> expected = waitingUpdate(places);
+    if (!expected)
+        return {Kind::Archive, QStringLiteral("the update does not wait any more")};
+    const UpdateProblem refusal = problemOfUpdating(bundlePath);
+    if (!refusal.isNone())
+        return refusal;
+    const FolderLock lock(places.folder());
+    const UpdateProblem problem = lock ? problemOfArchive(places, *expected) : busy(places.bundle());
+    if (isForGood(problem.kind))
+        removeWaitingUpdate(places);
+    return problem;
 }
 
 bool waitForOtherUpdates(const QString &bundlePath, std::chrono::milliseconds longest)

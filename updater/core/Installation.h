@@ -2,6 +2,7 @@
 
 #include "updater/core/UpdatePlaces.h"
 #include "updater/core/UpdateProblem.h"
+#include "updater/core/WaitingUpdateRecord.h"
 
 #include <chrono>
 
@@ -12,6 +13,7 @@ inline constexpr int firstInstallationFailure = 16;
 struct Installation
 {
     QString version; ///< that stands at the bundle's path now; empty where nothing was waiting
+    ExpectedUpdate update; ///< that was waiting
     UpdateProblem problem; ///< then the old bundle stands untouched
 };
 
@@ -20,8 +22,13 @@ struct Installation
 /// whole.
 ///
 /// The old bundle stays aside for the processes that run its code. An update that turns out to be no genuine or no
-/// newer one is removed; one that the disk has no room for waits on. Takes as long as unpacking does; blocks.
+/// newer one, or whose archive is gone, is removed; one that the disk has no room for waits on. Takes as long as
+/// unpacking does; blocks.
 Installation installWaitingUpdate(const QString &bundlePath);
+
+/// Verifies what waits as its installation will, but for unpacking it, and removes it where it turns out to be none.
+/// Called before the settings are asked to end for it. Blocks for as long as reading the archive takes.
+UpdateProblem verifyWaitingUpdate(const QString &bundlePath);
 
 /// Waits until no other process updates the bundle any more; false where one still does after `longest`.
 bool waitForOtherUpdates(const QString &bundlePath, std::chrono::milliseconds longest);

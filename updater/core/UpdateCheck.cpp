@@ -67,5 +67,5 @@ void UpdateCheck::fail(const QString &problem)
 UpdateCircumstances UpdateCheck::circumstances() const
 {
     return {InstalledBundle(bundle_).version, UpdateRecord().highestVersionSeen(), UpdateRecord().skippedVersion(),
-        kernelVersion(), LUMAROO_PLATFORM_VERSION, {}, isAskedByUser_};
+        kernelVersion(), LUMAROO_PLATFORM_VERSION, UpdateRecord().followedChannels(), isAskedByUser_};
 }

@@ -1,19 +1,17 @@
 #include "updater/core/UpdateChoice.h"
 
+#include "updater/core/OperatingSystem.h"
 #include "updater/core/Versions.h"
 
 namespace {
 
-const QString ourSystem = QStringLiteral("linux");
-
 bool runsHere(const AppcastItem &item, const UpdateCircumstances &circumstances)
 {
-    const bool isForThisSystem =
-        item.operatingSystem.isEmpty() || item.operatingSystem.compare(ourSystem, Qt::CaseInsensitive) == 0;
     const QString &minimum = item.minimumSystemVersion;
     const bool isSystemNewEnough =
         minimum.isEmpty() || (isBundleVersion(minimum) && !isNewer(minimum, circumstances.systemVersion));
-    return isForThisSystem && isSystemNewEnough && item.minimumPlatformVersion <= circumstances.platformVersion
+    return isForThisSystem(item.operatingSystem) && isSystemNewEnough
+        && item.minimumPlatformVersion <= circumstances.platformVersion
         && (item.channel.isEmpty() || circumstances.channels.contains(item.channel));
 }
 

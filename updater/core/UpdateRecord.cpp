@@ -11,11 +11,19 @@ const QString lastCheckKey = QStringLiteral("LastCheck");
 const QString lastSuccessKey = QStringLiteral("LastSuccessfulCheck");
 const QString failingSinceKey = QStringLiteral("FailingSince");
 const QString highestVersionKey = QStringLiteral("HighestVersionSeen");
+const QString channelsKey = QStringLiteral("Channels");
 const QString skippedVersionKey = QStringLiteral("SkippedVersion");
 const QString buildOfNotesKey = QStringLiteral("BuildOfNotes");
-const QString installationProblemKey = QStringLiteral("InstallationProblem");
+const QString failedInstallationKey = QStringLiteral("FailedInstallation");
+// Within it.
+const QString versionKey = QStringLiteral("Version");
+const QString displayVersionKey = QStringLiteral("DisplayVersion");
+const QString problemKey = QStringLiteral("Problem");
+const QString detailKey = QStringLiteral("Detail");
 
 constexpr int daysUntilLost = 30;
+/// A longer one between two checks, with nobody looking, tells nothing of the feed.
+constexpr int daysOfLongestPause = 7;
 
 QVariant stored(const QString &key)
 {
@@ -44,6 +52,14 @@ void setText(const QString &key, const QString &text)
     set(key, text.isEmpty() ? QVariant() : text);
 }
 
+/// One that only another version knows is the most general one.
+UpdateProblem::Kind kindOf(const QVariant &number)
+{
+    using Kind = UpdateProblem::Kind;
+    const int kind = integerWithin32Bits(number).value_or(0);
+    return kind > int(Kind::None) && kind < int(Kind::Exchange) ? Kind(kind) : Kind::Exchange;
+}
+
 void save()
 {
     CFPreferencesAppSynchronize(updaterDomain);
@@ -70,7 +86,7 @@ QDateTime UpdateRecord::lastSuccess() const
 bool UpdateRecord::isFeedLost() const
 {
     const QDateTime since = storedDate(failingSinceKey);
-    return since.isValid() && since.addDays(daysUntilLost) <= currentTime();
+    return since.isValid() && since.addDays(daysUntilLost) <= lastCheck();
 }
 
 void UpdateRecord::noteSuccess()
@@ -84,8 +100,9 @@ void UpdateRecord::noteSuccess()
 void UpdateRecord::noteFailure()
 {
     const QDateTime since = storedDate(failingSinceKey);
+    const bool wasPaused = lastCheck().addDays(daysOfLongestPause) < currentTime();
     // A beginning in the future was noted before the clock was set back.
-    if (!since.isValid() || since > currentTime())
+    if (!since.isValid() || since > currentTime() || wasPaused)
         set(failingSinceKey, currentTime());
     set(lastCheckKey, currentTime());
     save();
@@ -102,6 +119,11 @@ void UpdateRecord::noteHighestVersion(const QString &version)
         return;
     setText(highestVersionKey, version);
     save();
+}
+
+QStringList UpdateRecord::followedChannels() const
+{
+    return stored(channelsKey).toString().split(u',', Qt::SkipEmptyParts);
 }
 
 QString UpdateRecord::skippedVersion() const
@@ -128,13 +150,28 @@ void UpdateRecord::noteBuildOfNotes(int build)
     save();
 }
 
-QString UpdateRecord::installationProblem() const
+std::optional<FailedInstallation> UpdateRecord::failedInstallation() const
 {
-    return storedText(installationProblemKey);
+    const QVariantMap values = stored(failedInstallationKey).toMap();
+    const QString version = values.value(versionKey).toString();
+    if (version.isEmpty())
+        return std::nullopt;
+    return FailedInstallation{version, values.value(displayVersionKey).toString(),
+        {kindOf(values.value(problemKey)), values.value(detailKey).toString()}};
 }
 
-void UpdateRecord::noteInstallation(const QString &problem)
+void UpdateRecord::noteFailedInstallation(const FailedInstallation &failure)
 {
-    setText(installationProblemKey, problem);
+    set(failedInstallationKey,
+        QVariantMap{{versionKey, failure.version}, {displayVersionKey, failure.displayVersion},
+            {problemKey, qlonglong(failure.problem.kind)}, {detailKey, failure.problem.detail}});
+    save();
+}
+
+void UpdateRecord::forgetFailedInstallation()
+{
+    if (!stored(failedInstallationKey).isValid())
+        return;
+    set(failedInstallationKey, {});
     save();
 }

@@ -1,13 +1,25 @@
 #pragma once
 
+#include "updater/core/UpdateProblem.h"
+
 #include <QDateTime>
-#include <QString>
+#include <QStringList>
 #include <optional>
 
 inline const QString updaterDomain = QStringLiteral("com.quorvane.Lumaroo.Updater");
 
 /// The time as the system calls' table tells it, in whole seconds: that is what a settings file keeps.
 QDateTime currentTime();
+
+/// An update that waited to be installed, and was not.
+struct FailedInstallation
+{
+    QString version;
+    QString displayVersion; ///< as people call it
+    UpdateProblem problem;
+
+    bool operator==(const FailedInstallation &) const = default;
+};
 
 /// What the updater remembers of its checks, in a settings domain of its own. Each note is stored at once; one that
 /// cannot be stored stays pending, as everywhere in the settings.
@@ -17,7 +29,7 @@ public:
     /// The last check, whatever came of it, and the last that could read a feed; invalid: none yet.
     QDateTime lastCheck() const;
     QDateTime lastSuccess() const;
-    /// Whether every check of the last 30 days and more has failed.
+    /// Whether every check of 30 days and more has failed, up to the last one; a week without any begins anew.
     bool isFeedLost() const;
 
     void noteSuccess();
@@ -27,6 +39,9 @@ public:
     QString highestVersionSeen() const;
     void noteHighestVersion(const QString &version);
 
+    /// The channels of a feed whose versions this user wants beside those for everybody. Nothing here sets them.
+    QStringList followedChannels() const;
+
     /// The version of which the user wants to hear no more; empty: none.
     QString skippedVersion() const;
     void skip(const QString &version);
@@ -35,7 +50,8 @@ public:
     std::optional<int> buildOfNotes() const;
     void noteBuildOfNotes(int build);
 
-    /// Why the last installation failed, in English for the log; empty where it did not.
-    QString installationProblem() const;
-    void noteInstallation(const QString &problem);
+    /// What came of the last update that was to be installed, until another waits; none where it was installed.
+    std::optional<FailedInstallation> failedInstallation() const;
+    void noteFailedInstallation(const FailedInstallation &failure);
+    void forgetFailedInstallation();
 };

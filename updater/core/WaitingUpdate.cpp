@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 
 namespace {
@@ -18,6 +19,27 @@ using Kind = UpdateProblem::Kind;
 UpdateProblem problem(Kind kind, const QString &detail)
 {
     return detail.isEmpty() ? UpdateProblem{} : UpdateProblem{kind, detail};
+}
+
+/// An archive that is gone does not come back; what else keeps one from being read is the machine's trouble of now.
+Kind kindOfUnreadable(const QString &archive)
+{
+    const QFileInfo file(archive);
+    const bool isThere = file.isFile() && !file.isSymLink() && file.size() > 0 && file.size() <= largestUpdateArchive;
+    return isThere ? Kind::Storage : Kind::Archive;
+}
+
+UpdateProblem problemOfArchive(const InstalledBundle &installed, const SealedFile &archive, const UpdatePlaces &places,
+    const ExpectedUpdate &expected)
+{
+    if (installed.publicKey.isEmpty())
+        return {Kind::NoKey, QStringLiteral("%1 names no key for updates").arg(installed.path)};
+    if (!archive)
+        return {kindOfUnreadable(places.archive()), archive.problem()};
+    const bool isGenuine = archive.bytes().size() == expected.length
+        && isSignedBy(installed.publicKey, archive.bytes(), expected.signature);
+    return isGenuine ? UpdateProblem{}
+                     : UpdateProblem{Kind::Signature, QStringLiteral("the archive is not the one that was signed")};
 }
 
 UpdateProblem writeRecord(const UpdatePlaces &places, const ExpectedUpdate &expected)
@@ -65,19 +87,20 @@ void removeWaitingUpdate(const UpdatePlaces &places)
     QDir(places.waiting()).removeRecursively();
 }
 
+UpdateProblem problemOfArchive(const UpdatePlaces &places, const ExpectedUpdate &expected)
+{
+    const SealedFile archive = SealedFile::copyOf(places.archive(), largestUpdateArchive);
+    return problemOfArchive(InstalledBundle(places.bundle()), archive, places, expected);
+}
+
 UpdateProblem unpackVerified(
     const UpdatePlaces &places, const ExpectedUpdate &expected, const QString &into, QString *bundle)
 {
     const InstalledBundle installed(places.bundle());
-    if (installed.publicKey.isEmpty())
-        return {Kind::NoKey, QStringLiteral("%1 names no key for updates").arg(installed.path)};
     const SealedFile archive = SealedFile::copyOf(places.archive(), largestUpdateArchive);
-    if (!archive)
-        return {Kind::Storage, archive.problem()};
-    const bool isGenuine = archive.bytes().size() == expected.length
-        && isSignedBy(installed.publicKey, archive.bytes(), expected.signature);
-    if (!isGenuine)
-        return {Kind::Signature, QStringLiteral("the archive is not the one that was signed")};
+    const UpdateProblem unusable = problemOfArchive(installed, archive, places, expected);
+    if (!unusable.isNone())
+        return unusable;
     const ArchiveListing listing = listUpdateArchive(archive.bytes());
     if (!listing)
         return {Kind::Archive, listing.error};

@@ -20,3 +20,6 @@ void removeWaitingUpdate(const UpdatePlaces &places);
 /// exchanged meanwhile makes no difference.
 UpdateProblem unpackVerified(
     const UpdatePlaces &places, const ExpectedUpdate &expected, const QString &into, QString *bundle);
+
+/// Verifies only that the archive at its place is the one that was signed, against what is installed now.
+UpdateProblem problemOfArchive(const UpdatePlaces &places, const ExpectedUpdate &expected);

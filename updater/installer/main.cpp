@@ -40,13 +40,22 @@ Installation installInTurn(const QString &bundle)
     return installWaitingUpdate(bundle);
 }
 
+void note(const Installation &installation)
+{
+    if (installation.problem.isNone())
+        UpdateRecord().forgetFailedInstallation();
+    else
+        UpdateRecord().noteFailedInstallation(
+            {installation.update.version, installation.update.displayVersion, installation.problem});
+}
+
 int install(const QString &bundle)
 {
     const Installation installation = installInTurn(bundle);
     removeWhatIsOver(bundle);
     if (installation.version.isEmpty())
         return Done;
-    UpdateRecord().noteInstallation(installation.problem.detail);
+    note(installation);
     if (installation.problem.isNone())
         NSLog(QStringLiteral("lumaroo: installer: version %1 is installed").arg(installation.version));
     else

@@ -5,6 +5,7 @@
 #include "platform/foundation/Boundary.h"
 #include "platform/foundation/bundles/NSBundle.h"
 #include "updater/InstallationAtEnd.h"
+#include "updater/core/Installation.h"
 #include "updater/core/InstalledBundle.h"
 #include "updater/core/ReleaseNotes.h"
 #include "updater/core/UpdatePermission.h"
@@ -224,38 +225,48 @@ void UpdateCourse::takePreparation(const UpdateProblem &problem)
         window().setPage(pages_.failure(problem));
         return;
     }
+    UpdateRecord().forgetFailedInstallation();
     // The user has agreed to it: whatever the next answer is, and also without one, it is installed.
-    installWhenThisEnds(bundle_);
-    window().setPage(pages_.ready(item_.displayVersion));
+    if (installWhenThisEnds(bundle_))
+        window().setPage(pages_.ready(item_.displayVersion));
+    else
+        tellThatItOnlyWaits();
 }
 
+/// The next start of the settings tries to install it.
+void UpdateCourse::tellThatItOnlyWaits()
+{
+    const UpdateProblem problem{Kind::Exchange, QStringLiteral("the installer cannot be started")};
+    UpdateRecord().noteFailedInstallation({item_.version, item_.displayVersion, problem});
+    window().setPage(pages_.failure(problem));
+}
+
+/// Also by another process, which may have installed a higher one.
+bool UpdateCourse::isInstalled() const
+{
+    return compareVersions(InstalledBundle(bundlePath()).version, item_.version) >= 0;
+}
+
+/// The bundle is exchanged once the settings have ended, by the installer that waits for that or by the next start: a
+/// pane that does not let itself be left runs on with the bundle that its code came from.
 void UpdateCourse::installAndRestart()
 {
-    window().setPage(pages_.installing(item_.displayVersion));
-    const QString installer = bundle_->pathForResourceOfType(QStringLiteral("installer"), {});
-    installer_ = std::make_unique<InstallerRun>(installer, bundlePath());
-    connect(installer_.get(), &InstallerRun::finished, this, &UpdateCourse::takeInstallation);
-    installer_->start();
-}
-
-void UpdateCourse::takeInstallation(const UpdateProblem &problem)
-{
-    releaseLater(installer_);
-    // Another process may have installed it, or a higher one, meanwhile.
-    const bool isThere = compareVersions(InstalledBundle(bundlePath()).version, item_.version) >= 0;
-    if (isThere)
-        relaunch();
+    if (isInstalled()) {
+        relaunch(pages_.installed(item_.displayVersion));
+        return;
+    }
+    const UpdateProblem problem = verifyWaitingUpdate(bundlePath());
+    if (problem.isNone())
+        relaunch(pages_.installedAtEnd(item_.displayVersion));
     else
-        window().setPage(pages_.failure(problem.isNone()
-                ? UpdateProblem{Kind::Exchange, QStringLiteral("the update does not wait any more")}
-                : problem));
+        window().setPage(pages_.failure(problem));
 }
 
-void UpdateCourse::relaunch()
+void UpdateCourse::relaunch(const UpdatePage &whereTheSettingsStay)
 {
     const QString launcher = bundle_->pathForResourceOfType(QStringLiteral("launcher"), {});
-    // What shows where the settings stay: no launcher is there, or the user keeps them open.
-    window().setPage(pages_.installed(item_.displayVersion));
+    // No launcher is there, or the user keeps them open.
+    window().setPage(whereTheSettingsStay);
     if (!launcher.isEmpty())
         runAtBoundary("restart after an update", [&] { relaunchWithPane(bundlePath(), launcher, LauncherLog::Quiet); });
 }

@@ -3,7 +3,6 @@
 #include "updater/UpdateEngine.h"
 #include "updater/core/UpdateCheck.h"
 #include "updater/core/UpdatePreparation.h"
-#include "updater/windows/InstallerRun.h"
 #include "updater/windows/UpdatePages.h"
 #include "updater/windows/UpdateWindow.h"
 
@@ -31,8 +30,9 @@ private:
     void takeNotes(const QString &problem);
     void takeProgress(qint64 received, qint64 total);
     void takePreparation(const UpdateProblem &problem);
-    void takeInstallation(const UpdateProblem &problem);
-    void relaunch();
+    void tellThatItOnlyWaits();
+    bool isInstalled() const;
+    void relaunch(const UpdatePage &whereTheSettingsStay);
 
     void press(const QString &button);
     void cancel();
@@ -57,5 +57,4 @@ private:
     std::unique_ptr<UpdateCheck> check_; ///< each for as long as it is under way
     std::unique_ptr<Download> notes_;
     std::unique_ptr<UpdatePreparation> preparation_;
-    std::unique_ptr<InstallerRun> installer_;
 };

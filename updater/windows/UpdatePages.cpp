@@ -133,12 +133,15 @@ UpdatePage UpdatePages::ready(const QString &displayVersion) const
         .escapeButton = pressLater};
 }
 
-UpdatePage UpdatePages::installing(const QString &displayVersion) const
+UpdatePage UpdatePages::installedAtEnd(const QString &displayVersion) const
 {
-    return {.name = QStringLiteral("installing"),
-        .heading = text("Installing Lumaroo %1").arg(displayVersion),
-        .text = text("The settings are about to close and come back"),
-        .content = Content::Progress};
+    return {.name = QStringLiteral("installedAtEnd"),
+        .heading = text("Lumaroo %1 is about to be installed").arg(displayVersion),
+        .text = text("It is installed as soon as the settings are closed. Answer what they still ask, or close them "
+                     "yourself."),
+        .buttons = {button(pressClose)},
+        .defaultButton = pressClose,
+        .escapeButton = pressClose};
 }
 
 UpdatePage UpdatePages::installed(const QString &displayVersion) const

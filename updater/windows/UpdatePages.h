@@ -29,7 +29,8 @@ public:
     UpdatePage download(const QString &displayVersion) const;
     UpdatePage preparing(const QString &displayVersion) const;
     UpdatePage ready(const QString &displayVersion) const;
-    UpdatePage installing(const QString &displayVersion) const;
+    /// It waits for the end of the settings, which were asked to end and have not.
+    UpdatePage installedAtEnd(const QString &displayVersion) const;
     /// It is in place, but the settings cannot come back by themselves.
     UpdatePage installed(const QString &displayVersion) const;
     UpdatePage failure(const UpdateProblem &problem) const;

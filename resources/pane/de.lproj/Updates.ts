@@ -104,12 +104,12 @@
         <translation>Die Einstellungen schließen sich kurz und kommen mit der neuen Version wieder. Wählen Sie „Später“, wird sie installiert, wenn Sie die Einstellungen schließen.</translation>
     </message>
     <message>
-        <source>Installing Lumaroo %1</source>
-        <translation>Lumaroo %1 wird installiert</translation>
+        <source>Lumaroo %1 is about to be installed</source>
+        <translation>Lumaroo %1 wird gleich installiert</translation>
     </message>
     <message>
-        <source>The settings are about to close and come back</source>
-        <translation>Die Einstellungen schließen sich gleich und kommen wieder</translation>
+        <source>It is installed as soon as the settings are closed. Answer what they still ask, or close them yourself.</source>
+        <translation>Sie wird installiert, sobald die Einstellungen geschlossen sind. Beantworten Sie, was sie noch fragen, oder schließen Sie sie selbst.</translation>
     </message>
     <message>
         <source>Lumaroo %1 is installed</source>
@@ -218,6 +218,46 @@
     <message>
         <source>The version that you have is unchanged.</source>
         <translation>Ihre jetzige Version ist unverändert.</translation>
+    </message>
+    <message>
+        <source>⚠ Version %1 was not installed.</source>
+        <translation>⚠ Version %1 wurde nicht installiert.</translation>
+    </message>
+    <message>
+        <source>Most often the disk is full: make some room. It is tried again when you close the settings and when you open them.</source>
+        <translation>Meist ist der Datenträger voll: Schaffen Sie Platz. Es wird noch einmal versucht, wenn Sie die Einstellungen schließen und wenn Sie sie öffnen.</translation>
+    </message>
+    <message>
+        <source>Another program was updating Lumaroo just then. It is tried again when you close the settings and when you open them.</source>
+        <translation>Ein anderes Programm war gerade dabei, Lumaroo zu aktualisieren. Es wird noch einmal versucht, wenn Sie die Einstellungen schließen und wenn Sie sie öffnen.</translation>
+    </message>
+    <message>
+        <source>Lumaroo was installed for everybody who uses this computer. New versions come with the updates of the system.</source>
+        <translation>Lumaroo wurde für alle installiert, die diesen Computer benutzen. Neue Versionen kommen mit den Aktualisierungen des Systems.</translation>
+    </message>
+    <message>
+        <source>Updates are not installed as root: open the settings under your own name.</source>
+        <translation>Als root wird nichts aktualisiert: Öffnen Sie die Einstellungen unter Ihrem eigenen Namen.</translation>
+    </message>
+    <message>
+        <source>This copy of Lumaroo has no key to tell genuine updates by, so that the update was removed. Get new versions from where you got this one.</source>
+        <translation>Diese Ausgabe von Lumaroo hat keinen Schlüssel, um echte Aktualisierungen zu erkennen; deshalb wurde diese entfernt. Beziehen Sie neue Versionen von dort, woher Sie diese haben.</translation>
+    </message>
+    <message>
+        <source>It was not what the makers of Lumaroo have signed, and was removed. Check again, best through another network.</source>
+        <translation>Was geladen wurde, haben nicht die Entwickler von Lumaroo signiert; es wurde entfernt. Suchen Sie noch einmal, am besten über ein anderes Netz.</translation>
+    </message>
+    <message>
+        <source>What had been downloaded was damaged or gone. Check again to have it downloaded once more.</source>
+        <translation>Was geladen worden war, war beschädigt oder nicht mehr da. Suchen Sie noch einmal, um es erneut zu laden.</translation>
+    </message>
+    <message>
+        <source>It did not hold the version that was announced, and was removed. Check again later.</source>
+        <translation>Sie enthielt nicht die angekündigte Version und wurde entfernt. Suchen Sie später noch einmal.</translation>
+    </message>
+    <message>
+        <source>It could not take the old version's place. It is tried again when you close the settings and when you open them.</source>
+        <translation>Sie konnte nicht an die Stelle der alten Version treten. Es wird noch einmal versucht, wenn Sie die Einstellungen schließen und wenn Sie sie öffnen.</translation>
     </message>
 </context>
 </TS>
