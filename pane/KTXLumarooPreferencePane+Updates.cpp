@@ -13,9 +13,9 @@ constexpr double oneDay = 86400;
 
 const QString betaMarker = QStringLiteral("_beta");
 
-QUrl addressOfReleases(const QUrl &address)
+QString addressOfReleases(QString address)
 {
-    return QUrl(address.toString(QUrl::FullyEncoded).remove(betaMarker), QUrl::StrictMode);
+    return address.remove(betaMarker);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "platform/appkit/alerts/NSAlert.h"
 #include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/system/NSLog.h"
+#include "updater/CheckPermission.h"
 #include "updater/InstallationAtEnd.h"
 #include "updater/UpdateEngine.h"
 #include "updater/UpdateText.h"
@@ -55,7 +56,7 @@ SUUpdater *SUUpdater::updaterForBundle(NSBundle *bundle)
 SUUpdater::SUUpdater(NSBundle *bundle)
     : bundle_(bundle), interval_(oneDay), schedule_(std::make_unique<UpdateSchedule>())
 {
-    setFeedURL(QUrl(bundle->infoDictionary().value(QStringLiteral("SUFeedURL")).toString(), QUrl::StrictMode));
+    setFeedURL(bundle->infoDictionary().value(QStringLiteral("SUFeedURL")).toString());
     connect(schedule_.get(), &UpdateSchedule::due, this, &SUUpdater::checkBySchedule);
     finishEarlierUpdates();
 }
@@ -81,28 +82,27 @@ void SUUpdater::setAutomaticallyChecksForUpdates(bool checks)
 
 void SUUpdater::resetUpdateCycle()
 {
-    if (checksAutomatically_ && canBeUpdated())
+    if (checksAutomatically_ && problemOfChecking(bundle_).isNone())
         schedule_->start(std::chrono::duration<double>(interval_));
     else
         schedule_->stop();
 }
 
-bool SUUpdater::canBeUpdated() const
+QUrl SUUpdater::feedAddress() const
 {
-    const bool hasKey = !bundle_->infoDictionary().value(QStringLiteral("SUPublicEDKey")).toString().isEmpty();
-    return hasKey && problemOfUpdating(bundle_->bundlePath()).isNone();
+    return QUrl(feed_, QUrl::StrictMode);
 }
 
 void SUUpdater::checkBySchedule()
 {
     if (UpdateEngine *ready = engine())
-        ready->checkBySchedule(feed_);
+        ready->checkBySchedule(feedAddress());
 }
 
 void SUUpdater::checkForUpdates(QObject *sender)
 {
     if (UpdateEngine *ready = engine())
-        ready->checkForUser(feed_);
+        ready->checkForUser(feedAddress());
     else
         sayThatNothingCanBeChecked(bundle_);
 }
@@ -113,7 +113,7 @@ UpdateEngine *SUUpdater::engine()
         return engine_.get();
     QString error;
     engine_ = makeUpdateEngine(bundle_, &error);
-    if (!engine_)
+    if (!engine_ && !std::exchange(isEngineMissed_, true))
         NSLog(QStringLiteral("lumaroo: updates: cannot check: %1").arg(error));
     return engine_.get();
 }

@@ -27,10 +27,11 @@ public:
     /// within this call.
     void setAutomaticallyChecksForUpdates(bool checks);
 
-    /// Where the feed is: as the Info dictionary tells it (SUFeedURL), until another address is set, which counts for
-    /// all later checks of this process. A check needs https, or http from this machine.
-    QUrl feedURL() const { return feed_; }
-    void setFeedURL(const QUrl &address) { feed_ = address; }
+    /// Where the feed is, to the letter, since an address as such would write its host small: as the Info dictionary
+    /// tells it (SUFeedURL), until another one is set, which counts for all later checks of this process. A check needs
+    /// https, or http from this machine.
+    QString feedURL() const { return feed_; }
+    void setFeedURL(const QString &address) { feed_ = address; }
 
     /// The time between two checks by schedule, in seconds; a day at first. Less than an hour counts as an hour. What
     /// runs already keeps its time until resetUpdateCycle.
@@ -48,13 +49,14 @@ private:
     explicit SUUpdater(NSBundle *bundle);
     void finishEarlierUpdates();
     void checkBySchedule();
-    bool canBeUpdated() const;
+    QUrl feedAddress() const;
     UpdateEngine *engine();
 
     NSBundle *bundle_;
-    QUrl feed_;
+    QString feed_;
     double interval_;
     bool checksAutomatically_ = false;
     std::unique_ptr<UpdateSchedule> schedule_;
     std::unique_ptr<UpdateEngine> engine_; ///< from the first check on
+    bool isEngineMissed_ = false;
 };

@@ -3,6 +3,7 @@
 #include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/notifications/NSNotificationCenter.h"
 #include "platform/foundation/preferences/NSUserDefaults.h"
+#include "updater/CheckPermission.h"
 #include "updater/UpdateTroubles.h"
 #include "updater/core/UpdatePermission.h"
 #include "updater/core/UpdateRecord.h"
@@ -90,6 +91,10 @@ QString UpdateStatusLabel::statement() const
         return UpdateRecord().isFeedLost() ? format_ : otherwise_;
     if (status_ == WaitingVersion)
         return stateOfWaiting();
+    if (status_ == AutomaticChecks) {
+        const UpdateProblem problem = problemOfChecking(bundle_);
+        return problem.isNone() ? format_ : troubleWithChecks(bundle_, problem.kind);
+    }
     const QString told = lastSuccess();
     return told.isEmpty() ? otherwise_ : format_.arg(told);
 }

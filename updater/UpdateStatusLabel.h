@@ -22,6 +22,7 @@ public:
     enum Status {
         LastSuccess, ///< when a feed was last read
         WaitingVersion, ///< which version is installed next, or why one was not
+        AutomaticChecks, ///< how checks by schedule go, or why there are none
         LostFeed, ///< that no feed could be read for a long time
     };
     Q_ENUM(Status)

@@ -43,3 +43,14 @@ QString troubleWithInstallation(const NSBundle *bundle, const QString &version, 
     const QString what = updateText(bundle, QStringLiteral("⚠ Version %1 was not installed.")).arg(version);
     return what + u' ' + updateText(bundle, QString::fromLatin1(reasonOf(kind)));
 }
+
+QString troubleWithChecks(const NSBundle *bundle, Kind kind)
+{
+    static const QMap<Kind, const char *> texts{
+        {Kind::NoKey, "This copy of Lumaroo cannot update itself. Get new versions from where you got this one."},
+        {Kind::NotWritable,
+            "Lumaroo was installed for everybody who uses this computer: updates come with the system's updates."},
+        {Kind::Superuser, "Nothing is looked for as root: open the settings under your own name."},
+    };
+    return updateText(bundle, QString::fromLatin1(texts.value(kind, "Lumaroo cannot look for new versions.")));
+}

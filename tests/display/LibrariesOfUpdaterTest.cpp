@@ -62,7 +62,7 @@ TEST(Updater, isOneForEachBundleAndStartsWithTheAddressOfItsInfo)
     SUUpdater *updater = SUUpdater::updaterForBundle(NSBundle::bundleWithPath(bundle.path()));
     EXPECT_EQ(SUUpdater::updaterForBundle(NSBundle::bundleWithPath(bundle.path())), updater);
     EXPECT_NE(SUUpdater::updaterForBundle(NSBundle::bundleWithPath(other.path())), updater);
-    EXPECT_EQ(updater->feedURL(), QUrl("https://updates.example/appcast.xml"));
-    updater->setFeedURL(QUrl("https://updates.example/other.xml"));
-    EXPECT_EQ(updater->feedURL(), QUrl("https://updates.example/other.xml"));
+    EXPECT_EQ(updater->feedURL(), "https://updates.example/appcast.xml");
+    updater->setFeedURL("https://updates.example/other.xml");
+    EXPECT_EQ(updater->feedURL(), "https://updates.example/other.xml");
 }

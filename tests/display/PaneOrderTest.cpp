@@ -8,6 +8,8 @@
 #include "platform/appkit/colors/NSColorWell.h"
 #include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/colors/NSArchiver.h"
+#include "updater/SUUpdater.h"
+#include "updater/core/UpdateRecord.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -208,18 +210,41 @@ TEST_F(PaneOrder, thePaneAnnouncesItselfOnlyWhenItCanHearTheAnswer)
         << sent.join(u' ').toStdString();
 }
 
+TEST_F(PaneOrder, theUpdaterIsSetUpBeforeThePaneIsAnnounced)
+{
+    changeInfo({{QStringLiteral("SUPublicEDKey"), QStringLiteral("any")},
+        {QStringLiteral("SUFeedURL"), QStringLiteral("http://127.0.0.1:1/appcast_beta.xml")}});
+    store().set(SUEnableAutomaticChecks, QVariant(true));
+    UpdateRecord().noteSuccess();
+    bus().clear();
+    // Each start of the schedule looks at the clock.
+    QList<QStringList> announcedAtStart;
+    systemCalls().realTime = [&, realTime = systemCalls().realTime] {
+        announcedAtStart += bus().names();
+        return realTime();
+    };
+    paneWithoutView();
+    EXPECT_FALSE(announcedAtStart.isEmpty());
+    EXPECT_EQ(announcedAtStart.count(QStringList()), announcedAtStart.size());
+    EXPECT_EQ(bus().names(), QStringList{KTXLMPrefPaneLaunched});
+    SUUpdater::updaterForBundle(NSBundle::bundleWithPath(bundle().path()))->setAutomaticallyChecksForUpdates(false);
+}
+
 TEST_F(PaneOrder, theLoadedViewIsFilledAfterTheAgentIsStartedAndTheCreditsComeLast)
 {
     changeInfo({{QStringLiteral("CFBundleVersion"), QStringLiteral("120")}});
     store().set(SUEnableAutomaticChecks, QVariant(true));
+    NSBundle *loaded = NSBundle::bundleWithPath(bundle().path());
+    loaded->setLoaded();
     AgentlessPane pane(&calls);
-    ASSERT_TRUE(pane.initWithBundle(NSBundle::bundleWithPath(bundle().path())));
+    ASSERT_TRUE(pane.initWithBundle(loaded));
     pane.atAgent = [&](const QString &call) {
         happenings_.note(call);
         if (call != QStringLiteral("startAgent"))
             return;
         const auto find = [&](const char *name) { return pane.mainView()->findChild<QWidget *>(name); };
         happenings_.watch(find("autoUpdateButton"));
+        observe(&SystemCalls::rename, [this] { happenings_.note(QStringLiteral("help book written down")); });
         happenings_.watchSilent(QStringLiteral("loadedVersion"), [&pane] { return pane.loadedVersion(); });
         for (const char *name : {"appNameField", "versionField"})
             happenings_.watchSilent(name, [field = find(name)] { return stringValue(field); });
@@ -228,8 +253,8 @@ TEST_F(PaneOrder, theLoadedViewIsFilledAfterTheAgentIsStartedAndTheCreditsComeLa
     };
     ASSERT_NE(pane.loadMainView(), nullptr);
     EXPECT_EQ(happenings_.list(),
-        (QStringList{"stopAgent", "startAgent", "autoUpdateButton", "loadedVersion", "appNameField", "versionField",
-            "creditsField"}))
+        (QStringList{"stopAgent", "startAgent", "autoUpdateButton", "help book written down", "loadedVersion",
+            "appNameField", "versionField", "creditsField"}))
         << happenings_.list().join(u' ').toStdString();
 }
 

@@ -41,7 +41,7 @@ protected:
     {
         changeInfo({{"SUFeedURL", feedOfBundle}});
         paneWithoutView();
-        return updater()->feedURL().toString(QUrl::FullyEncoded);
+        return updater()->feedURL();
     }
     void click(const char *name) { QTest::mouseClick(control(name), Qt::LeftButton, {}, {8, 8}); }
 };
@@ -123,7 +123,7 @@ TEST_F(PaneUpdates, followTheReleasesWhereTheBundleNamesTheBetaFeed)
 TEST_F(PaneUpdates, ofTheBuiltBundleComeFromItsReleaseFeed)
 {
     paneWithoutView();
-    EXPECT_EQ(updater()->feedURL().toString(), "https://lumaroo.example/appcast.xml");
+    EXPECT_EQ(updater()->feedURL(), "https://lumaroo.example/appcast.xml");
 }
 
 TEST_F(PaneUpdates, loseTheBetaMarkerWhereverItStandsInTheAddress)
@@ -144,6 +144,18 @@ TEST_F(PaneUpdates, keepAnAddressWithoutTheMarker)
     EXPECT_EQ(feedAfterSetUp(address), address);
 }
 
+TEST_F(PaneUpdates, keepWhatIsNotQuiteTheMarkerAlsoInAHost)
+{
+    const QString address = "https://web_BETA.lumaroo.example/of%5Fbeta/appcast.xml";
+    EXPECT_EQ(feedAfterSetUp(address), address);
+}
+
+TEST_F(PaneUpdates, goByTheLettersOfTheAddress)
+{
+    EXPECT_EQ(feedAfterSetUp("https://WEB%5Fbeta_beta.Lumaroo.example/appcast.xml"),
+        "https://WEB%5Fbeta.Lumaroo.example/appcast.xml");
+}
+
 TEST_F(PaneUpdates, haveNoFeedWhereTheBundleNamesNone)
 {
     EXPECT_EQ(feedAfterSetUp({}), "");
@@ -154,13 +166,13 @@ TEST_F(PaneUpdates, areSetUpOnceForEachPaneAndBeforeItIsAnnounced)
     changeInfo({{"SUFeedURL", "https://lumaroo.example/appcast_beta.xml"}});
     paneWithoutView();
     EXPECT_EQ(bus().names(), QStringList{KTXLMPrefPaneLaunched});
-    updater()->setFeedURL(QUrl("https://other.example/other_beta.xml"));
+    updater()->setFeedURL("https://other.example/other_beta.xml");
     pane();
     showPane();
-    EXPECT_EQ(updater()->feedURL().toString(), "https://other.example/other_beta.xml") << "at creation alone";
+    EXPECT_EQ(updater()->feedURL(), "https://other.example/other_beta.xml") << "at creation alone";
     destroyPane();
     paneWithoutView();
-    EXPECT_EQ(updater()->feedURL().toString(), "https://other.example/other.xml") << "what the updater uses currently";
+    EXPECT_EQ(updater()->feedURL(), "https://other.example/other.xml") << "what the updater uses currently";
 }
 
 TEST_F(PaneUpdates, thatAreAutomaticAreStoredAndAnnounced)
@@ -254,6 +266,23 @@ TEST_F(PaneAndItsFeed, isAskedAgainADayAfterTheLastCheck)
     letLastCheckBe(std::chrono::hours(25));
     paneWithoutView();
     EXPECT_TRUE(isAskedOnce());
+}
+
+TEST_F(PaneAndItsFeed, isAskedOnceADayAlsoWhereTheUpdaterWasToldOtherwiseBefore)
+{
+    letAutomaticChecksBe(true);
+    letLastCheckBe(std::chrono::hours(25));
+    updater()->setUpdateCheckInterval(48 * 60 * 60);
+    paneWithoutView();
+    EXPECT_TRUE(isAskedOnce());
+}
+
+TEST_F(PaneAndItsFeed, isNotAskedMoreOftenThanADayWhereTheUpdaterWasToldOtherwiseBefore)
+{
+    letAutomaticChecksBe(true);
+    letLastCheckBe(std::chrono::hours(23));
+    updater()->setUpdateCheckInterval(60 * 60);
+    expectNobodyAsksButTheUser();
 }
 
 TEST_F(PaneAndItsFeed, isNotAskedAgainWithinADay)

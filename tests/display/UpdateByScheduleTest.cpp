@@ -98,11 +98,11 @@ TEST_F(UpdateBySchedule, nothingIsCheckedOnceItIsTurnedOff)
 
 TEST_F(UpdateBySchedule, aCheckUnderWayEndsWhenItIsTurnedOff)
 {
-    updater()->setFeedURL(server.url("/hanging"));
+    updater()->setFeedURL(server.url("/hanging").toString());
     checkBySchedule();
     ASSERT_TRUE(wasAsked("GET /hanging"));
     updater()->setAutomaticallyChecksForUpdates(false);
-    updater()->setFeedURL(feed());
+    updater()->setFeedURL(feed().toString());
     updater()->setAutomaticallyChecksForUpdates(true);
     tell({publish(101)});
     EXPECT_TRUE(shows("offer")) << "the next is not held up by the one before";
@@ -110,12 +110,12 @@ TEST_F(UpdateBySchedule, aCheckUnderWayEndsWhenItIsTurnedOff)
 
 TEST_F(UpdateBySchedule, theUsersCheckTakesThePlaceOfOneThatIsUnderWay)
 {
-    updater()->setFeedURL(server.url("/hanging"));
+    updater()->setFeedURL(server.url("/hanging").toString());
     checkBySchedule();
     ASSERT_TRUE(wasAsked("GET /hanging"));
     EXPECT_EQ(window(), nullptr);
     tell({publish(100)});
-    updater()->setFeedURL(feed());
+    updater()->setFeedURL(feed().toString());
     checkForUser();
     EXPECT_EQ(page(), "checking");
     EXPECT_TRUE(shows("upToDate"));
@@ -168,7 +168,7 @@ TEST_F(UpdateBySchedule, whatFindsNothingOrFailsShowsNothing)
     EXPECT_TRUE(record.lastSuccess().isValid());
     EXPECT_EQ(window(), nullptr);
     lastCheckWas(minutes(25 * 60));
-    updater()->setFeedURL(server.url("/404"));
+    updater()->setFeedURL(server.url("/404").toString());
     updater()->resetUpdateCycle();
     EXPECT_TRUE(waitUntil([this] { return record.lastCheck() > record.lastSuccess(); }));
     EXPECT_EQ(window(), nullptr);

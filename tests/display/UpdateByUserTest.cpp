@@ -35,14 +35,14 @@ TEST_F(UpdateByUser, isToldThatNothingIsNewer)
 
 TEST_F(UpdateByUser, cancelsACheckWithEscape)
 {
-    updater()->setFeedURL(server.url("/hanging"));
+    updater()->setFeedURL(server.url("/hanging").toString());
     checkForUser();
     EXPECT_TRUE(wasAsked("GET /hanging"));
     pressWithKeyboard(KEY_ESC);
     EXPECT_TRUE(closes());
     EXPECT_FALSE(record.lastCheck().isValid()) << "nothing came of it";
     EXPECT_EQ(log.lines(), QStringList());
-    updater()->setFeedURL(feed());
+    updater()->setFeedURL(feed().toString());
     tell({publish(101)});
     checkBySchedule();
     EXPECT_TRUE(shows("offer")) << "it holds up no other";
@@ -137,6 +137,43 @@ TEST_F(UpdateByUser, isLedToThePageOfWhatIsNotInstalledFromHere)
     EXPECT_EQ(server.requests(), QStringList("GET /appcast.xml"));
 }
 
+TEST_F(UpdateByUser, isSentToWhereTheirVersionCameFromWhereThereIsNoPage)
+{
+    for (const QByteArray &link : {QByteArray(), QByteArray("<link>file:///etc/passwd</link>")}) {
+        tellWith(publish(101), "<sparkle:informationalUpdate/>" + link);
+        checkForUser();
+        ASSERT_TRUE(shows("offer"));
+        EXPECT_FALSE(has("openPage") || has("install"));
+        EXPECT_TRUE(text("text").endsWith("Get it from where you got the version that you have."));
+        press("later");
+        EXPECT_TRUE(closes());
+    }
+}
+
+TEST_F(UpdateByUser, isToldWhereAPageCannotBeOpened)
+{
+    const BrowserStandIn browser;
+    tellWith(publish(101), "<sparkle:informationalUpdate/><link>http://127.0.0.1/new</link>");
+    checkForUser();
+    ASSERT_TRUE(shows("offer"));
+    browser.remove();
+    press("openPage");
+    EXPECT_EQ(page(), "offer") << "it stays";
+    EXPECT_EQ(text("text"), "The web page cannot be opened from here. Its address is: http://127.0.0.1/new");
+}
+
+TEST_F(UpdateByUser, isToldWhereALinkOfTheNotesCannotBeOpened)
+{
+    const BrowserStandIn browser;
+    tellWith(publish(101), "<description>&lt;a href=\"http://127.0.0.1/page\"&gt;page&lt;/a&gt;</description>");
+    checkForUser();
+    ASSERT_TRUE(shows("offer"));
+    browser.remove();
+    Q_EMIT window()->findChild<QTextBrowser *>("notes")->anchorClicked(QUrl("http://127.0.0.1/page"));
+    EXPECT_EQ(text("text"), "The web page cannot be opened from here. Its address is: http://127.0.0.1/page");
+    EXPECT_TRUE(has("install"));
+}
+
 TEST_F(UpdateByUser, whoAsksAgainSeesTheWindowThatIsOpen)
 {
     tell({publish(101)});
@@ -177,7 +214,7 @@ TEST_F(UpdateByUser, isToldThatTheFeedCannotBeRead)
 {
     for (const QUrl &address :
         {server.url("/404"), addressWithoutServer(), QUrl(), QUrl("http://192.0.2.1/feed.xml")}) {
-        updater()->setFeedURL(address);
+        updater()->setFeedURL(address.toString());
         checkForUser();
         ASSERT_TRUE(shows("failure"));
         EXPECT_EQ(text("heading"), "New versions cannot be looked for now");

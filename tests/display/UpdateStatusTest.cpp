@@ -175,6 +175,32 @@ TEST_F(UpdateStatus, saysThatAWaitingVersionIsNotThisUsersToInstall)
     EXPECT_TRUE(QDir(places().waiting()).removeRecursively());
 }
 
+TEST_F(UpdateStatus, promisesChecksWhereThereAreAny)
+{
+    changeInfo({{"SUPublicEDKey", "any"}});
+    showPage();
+    EXPECT_EQ(text("automaticHint"), "Lumaroo looks once a day and asks before it installs anything.");
+}
+
+TEST_F(UpdateStatus, promisesNoChecksWithoutAKey)
+{
+    changeInfo({{"SUPublicEDKey", ""}});
+    showPage();
+    EXPECT_EQ(text("automaticHint"),
+        "This copy of Lumaroo cannot update itself. Get new versions from where you got this one.");
+}
+
+TEST_F(UpdateStatus, promisesNoChecksOfWhatTheSystemUpdates)
+{
+    changeInfo({{"SUPublicEDKey", "any"}});
+    const QFile::Permissions readable = QFile::ReadOwner | QFile::ExeOwner;
+    ASSERT_TRUE(QFile::setPermissions(bundle().path(), readable));
+    showPage();
+    EXPECT_EQ(text("automaticHint"),
+        "Lumaroo was installed for everybody who uses this computer: updates come with the system's updates.");
+    ASSERT_TRUE(QFile::setPermissions(bundle().path(), readable | QFile::WriteOwner));
+}
+
 TEST_F(UpdateStatus, isWhatAScreenReaderReads)
 {
     showPage();

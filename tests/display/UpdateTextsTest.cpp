@@ -45,9 +45,12 @@ QList<UpdatePage> allPages(const NSBundle *bundle)
     critical.isCritical = true;
     AppcastItem informational = item;
     informational.isInformational = true;
+    AppcastItem withoutPage = informational;
+    withoutPage.link.clear();
     QList<UpdatePage> all{pages.checking(), pages.upToDate("1.0"), pages.offer(item, "100"),
-        pages.offer(critical, "100"), pages.offer(informational, "100"), pages.download("1.1"), pages.preparing("1.1"),
-        pages.ready("1.1"), pages.installedAtEnd("1.1"), pages.installed("1.1")};
+        pages.offer(critical, "100"), pages.offer(informational, "100"), pages.offer(withoutPage, "100"),
+        pages.download("1.1"), pages.preparing("1.1"), pages.ready("1.1"), pages.installedAtEnd("1.1"),
+        pages.installed("1.1")};
     for (const UpdateProblem &problem : problems())
         all += pages.failure(problem);
     return all;
@@ -104,6 +107,7 @@ TEST_F(UpdateTexts, areAllGermanForAGermanUser)
     EXPECT_EQ(UpdatePages(german()).progressText(1'200'000, 3'400'000), "1,2 MB von 3,4 MB");
     EXPECT_NE(UpdatePages(german()).windowTitle(), UpdatePages(english()).windowTitle());
     EXPECT_NE(UpdatePages(german()).notesAreMissing(), UpdatePages(english()).notesAreMissing());
+    EXPECT_NE(UpdatePages(german()).pageIsNotOpened({}), UpdatePages(english()).pageIsNotOpened({}));
 }
 
 TEST_F(UpdateTexts, sayForEachProblemThatKeepsAnUpdateFromBeingInstalledWhatToDo)
@@ -120,6 +124,17 @@ TEST_F(UpdateTexts, sayForEachProblemThatKeepsAnUpdateFromBeingInstalledWhatToDo
         said += text;
     }
     EXPECT_EQ(said.size(), 9);
+}
+
+TEST_F(UpdateTexts, sayForEachReasonNotToLookWhatToDo)
+{
+    using Kind = UpdateProblem::Kind;
+    QSet<QString> said;
+    for (const Kind kind : {Kind::NoKey, Kind::NotWritable, Kind::Superuser, Kind::None}) {
+        EXPECT_NE(troubleWithChecks(german(), kind), troubleWithChecks(english(), kind));
+        said += troubleWithChecks(english(), kind);
+    }
+    EXPECT_EQ(said.size(), 4);
 }
 
 TEST_F(UpdateTexts, giveEveryButtonOfAPageAKeyOfItsOwn)

@@ -1,5 +1,6 @@
-// A release as docs/RELEASING.md walks through it, up to the user, who has the version before: built, packed, signed,
-// told of in a feed, found, installed and running. All programs are the real ones; the user has a keyboard.
+// A release as docs/RELEASING.md walks through it, up to the user, who has the version before: installed into a stage,
+// packed, signed, told of in a feed, found, installed and running. All programs are the real ones; the user has a
+// keyboard. The new version is what is built here with another number: a second build would take too long.
 
 #include "KeyPress.h"
 #include "ProgramResult.h"
@@ -10,6 +11,7 @@
 #include "WebServer.h"
 
 #include "KTXConstants.h"
+#include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/preferences/NSUserDefaults.h"
 #include "platform/foundation/propertylists/PropertyList.h"
 #include "updater/core/UpdateRecord.h"
@@ -38,34 +40,49 @@ class ReleaseByUser : public UpdatableProduct
 protected:
     ReleaseByUser()
     {
-        changeInfo(pane(), {{"SUFeedURL", server.url("/appcast_beta.xml").toString()}});
+        const QString publicKey = tool("sign-update", {"--generate", keyFile});
+        changeInfo(pane(), {{"SUPublicEDKey", publicKey}, {"SUFeedURL", server.url("/appcast_beta.xml").toString()}});
         NSUserDefaults::standardUserDefaults()->setPersistentDomainForName({}, updaterDomain);
+        EXPECT_EQ(publicKey, tool("sign-update", {"--key", keyFile, "--public-key"}));
     }
 
-    static std::string run(const QString &tool, const QStringList &arguments)
+    static QString run(const QString &program, const QStringList &arguments)
     {
-        const ProgramResult result = runProgram(qEnvironmentVariable("LUMAROO_BUILD") + "/bin/" + tool, arguments);
+        const ProgramResult result = runProgram(program, arguments);
         EXPECT_EQ(result.status, 0) << result.errors;
-        return result.output;
+        return QString::fromStdString(result.output).trimmed();
+    }
+    static QString tool(const QString &name, const QStringList &arguments)
+    {
+        return run(qEnvironmentVariable("LUMAROO_BUILD") + "/bin/" + name, arguments);
+    }
+    /// What is built, as the build of a version: only its Info dictionaries tell the difference.
+    QString staged(int version) const
+    {
+        const QString stage = makersOwn("stage");
+        run("cmake", {"--install", qEnvironmentVariable("LUMAROO_BUILD"), "--prefix", stage, "--strip"});
+        const QString panes = stage + "/lib/lumaroo/PreferencePanes";
+        const QVariantMap installed = NSBundle::infoDictionaryOnDisk(pane());
+        changeVersion(panes + "/Lumaroo.prefPane", version);
+        changeInfo(panes + "/Lumaroo.prefPane",
+            {{"CFBundleShortVersionString", "1.1"}, {"SUPublicEDKey", installed.value("SUPublicEDKey")},
+                {"SUFeedURL", installed.value("SUFeedURL")}});
+        return panes;
     }
     void publish(int version)
     {
-        const QString archive = archiveOf(version);
-        QFile keyFile(makersOwn("key"));
-        ASSERT_TRUE(keyFile.open(QIODevice::WriteOnly));
-        keyFile.write(key.seed());
-        keyFile.close();
-        ASSERT_TRUE(keyFile.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
-        run("make-appcast", {"--key", keyFile.fileName(), "--address", server.url("/").toString(), published()});
-        const std::string enclosure = run("sign-update", {"--key", keyFile.fileName(), archive});
+        ASSERT_TRUE(QDir().exists(published()) || QDir().mkpath(published()));
+        const QString archive = published() + QString("/Lumaroo-%1.tar.xz").arg(version);
+        run("tar", {"-C", staged(version), "-cJf", archive, "Lumaroo.prefPane"});
+        tool("make-appcast", {"--key", keyFile, "--address", server.url("/").toString(), published()});
+        const QString enclosure = tool("sign-update", {"--key", keyFile, archive});
         QFile feed(published() + "/appcast.xml");
         ASSERT_TRUE(feed.open(QIODevice::ReadOnly));
-        EXPECT_TRUE(feed.readAll().contains(QByteArray::fromStdString(signatureIn(enclosure))));
+        EXPECT_TRUE(feed.readAll().contains(signatureIn(enclosure)));
     }
-    static std::string signatureIn(const std::string &enclosure)
+    static QByteArray signatureIn(const QString &enclosure)
     {
-        const size_t start = enclosure.find("edSignature=\"");
-        return enclosure.substr(start, enclosure.find('"', start + 13) - start);
+        return enclosure.section("edSignature=\"", 1).section('"', 0, 0).toLatin1();
     }
 
     void startSettings()
@@ -85,6 +102,14 @@ protected:
         settings->settledPicture();
         before = domain();
         bus.clear();
+    }
+    /// Two keys are the same, of which nothing is said unless the settings are to be left.
+    void makeLeavingAQuestion() const
+    {
+        const QVariantMap up{{KTXKeycode, "126"}};
+        storeOutside(KTXsuppressHKeysTaken, true);
+        storeOutside(KTXUpPref, up);
+        storeOutside(KTXDownPref, up);
     }
     void lookForUpdates()
     {
@@ -138,6 +163,7 @@ protected:
         return isBack ? hosts().first() : 0;
     }
 
+    const QString keyFile = makersOwn("lumaroo-update.key");
     ScreenReader reader;
     WebServer server{std::nullopt, published()};
     std::unique_ptr<SettingsProgram> settings;
@@ -161,6 +187,39 @@ TEST_F(ReleaseByUser, isInstalledWithARestartOfTheSettingsAndOfTheAgent)
     EXPECT_TRUE(waitUntil([this] { return isEqualPropertyList(domain(), before); })) << "settings are the user's";
     EXPECT_TRUE(agentComesToBe(101));
     EXPECT_TRUE(reader.waitForText(restarted, "What is new in Lumaroo")) << "the notes of the new version";
+}
+
+TEST_F(ReleaseByUser, leavesTheOldVersionToAPaneThatDoesNotLetItselfBeLeft)
+{
+    publish(101);
+    storeOutside(KTXFirstLaunch, true);
+    makeLeavingAQuestion();
+    startSettings();
+    settings->settledPicture();
+    const pid_t old = pid_t(settings->processId());
+    letUpdateBePrepared();
+    pressKey(KEY_I, {KEY_LEFTALT});
+    ASSERT_TRUE(settings->waitForWindows(3)) << "the pane asks";
+    settings->settledPicture();
+    EXPECT_EQ(installedVersion(), 100);
+    pressKey(KEY_ESC);
+    ASSERT_TRUE(settings->waitForWindows(2));
+    expectToRead("Lumaroo 1.1 is about to be installed");
+    EXPECT_EQ(installedVersion(), 100) << "old code, old bundle";
+    EXPECT_EQ(hosts(), QList<pid_t>{old});
+    settings->settledPicture();
+    pressKey(KEY_ENTER);
+    ASSERT_TRUE(settings->waitForWindows(1));
+    settings->settledPicture();
+    pressKey(KEY_Q, {KEY_LEFTCTRL});
+    ASSERT_TRUE(settings->waitForWindows(2));
+    settings->settledPicture();
+    pressKey(KEY_Q);
+    EXPECT_EQ(settings->exitStatus(), 0);
+    const pid_t restarted = waitForSettingsOtherThan(old);
+    ASSERT_NE(restarted, 0);
+    EXPECT_TRUE(reader.waitForText(restarted, "Version 1.1 (101)"));
+    EXPECT_EQ(installedVersion(), 101);
 }
 
 TEST_F(ReleaseByUser, isInstalledLaterWhenTheSettingsHaveBeenClosed)
@@ -196,4 +255,14 @@ TEST_F(ReleaseByUser, isInstalledAtTheNextStartWhereTheSettingsAndTheirInstaller
     expectToRead("Version 1.1 (101)");
     EXPECT_EQ(installedVersion(), 101);
     EXPECT_TRUE(agentComesToBe(101));
+}
+
+TEST_F(ReleaseByUser, isOfABuildThatWasToldTheKey)
+{
+    const QString build = makersOwn("build");
+    const QString publicKey = tool("sign-update", {"--key", keyFile, "--public-key"});
+    run("cmake", {"-S", qEnvironmentVariable("LUMAROO_SOURCE"), "-B", build, "-DLUMAROO_UPDATE_KEY=" + publicKey});
+    QFile info(build + "/resources/Info.plist");
+    ASSERT_TRUE(info.open(QIODevice::ReadOnly));
+    EXPECT_EQ(readPropertyList(info.readAll()).value.toMap().value("SUPublicEDKey"), publicKey);
 }

@@ -140,4 +140,15 @@ TEST_P(TheHelpBook, hasEveryPageInItsContentsAndATitleOnEach)
     }
 }
 
+TEST_P(TheHelpBook, namesAllThatRemovingTheProgramLeavesBehind)
+{
+    const QString page =
+        QString::fromUtf8(engine.fileData(QUrl("qthelp://" + name + "/lumaroo/other.html"))).simplified();
+    for (const char *left :
+        {"com.quorvane.Lumaroo.plist", "com.quorvane.Lumaroo.Updater.plist", "com.apple.systempreferences.plist",
+            "com.apple.help.plist", "com.quorvane.LumarooAgent.desktop", ".cache}/lumaroo", ".Lumaroo.prefPane.</code>",
+            "~/Library/Logs</code>", "lumaroo-settings</code>", "LumarooAgent</code>"})
+        EXPECT_TRUE(page.contains(left)) << left;
+}
+
 INSTANTIATE_TEST_SUITE_P(InEachLanguage, TheHelpBook, testing::Values("en", "de"));

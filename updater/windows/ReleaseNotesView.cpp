@@ -1,7 +1,5 @@
 #include "updater/windows/ReleaseNotesView.h"
 
-#include "platform/appkit/web/NSWorkspace.h"
-
 #include <QEvent>
 #include <QPainter>
 
@@ -23,7 +21,6 @@ ReleaseNotesView::ReleaseNotesView(QWidget *parent) : QTextBrowser(parent)
     document()->setDocumentMargin(innerMargin);
     document()->setIndentWidth(indent);
     setTabChangesFocus(true);
-    connect(this, &QTextBrowser::anchorClicked, this, &ReleaseNotesView::openLink);
 }
 
 void ReleaseNotesView::setNotes(const QString &safeHtml)
@@ -35,11 +32,6 @@ void ReleaseNotesView::setNotes(const QString &safeHtml)
 QVariant ReleaseNotesView::loadResource(int type, const QUrl &name)
 {
     return {};
-}
-
-void ReleaseNotesView::openLink(const QUrl &address)
-{
-    NSWorkspace::sharedWorkspace()->openURL(address);
 }
 
 void ReleaseNotesView::paintEvent(QPaintEvent *event)

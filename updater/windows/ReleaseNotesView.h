@@ -2,8 +2,8 @@
 
 #include <QTextBrowser>
 
-/// Shows safe HTML (updater/core/ReleaseNotes.h) and nothing else: it loads no picture, no page, no style. Links are
-/// opened in the user's browser.
+/// Shows safe HTML (updater/core/ReleaseNotes.h) and nothing else: it loads no picture, no page, no style. Where its
+/// links lead is for others to open (anchorClicked).
 class ReleaseNotesView : public QTextBrowser
 {
     Q_OBJECT
@@ -19,7 +19,5 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    static void openLink(const QUrl &address);
-
     QString notes_;
 };

@@ -61,6 +61,7 @@ UpdateWindow &UpdateCourse::window()
         window_ = std::make_unique<UpdateWindow>(pages_.windowTitle(), iconOf(bundle_));
         connect(window_.get(), &UpdateWindow::pressed, this,
             [this](const QString &button) { runAtBoundary("update window", [&] { press(button); }); });
+        connect(window_.get(), &UpdateWindow::linkChosen, this, &UpdateCourse::openInBrowser);
     }
     return *window_;
 }
@@ -197,8 +198,16 @@ void UpdateCourse::close()
 
 void UpdateCourse::openPage()
 {
-    NSWorkspace::sharedWorkspace()->openURL(item_.link);
-    close();
+    if (openInBrowser(item_.link))
+        close();
+}
+
+bool UpdateCourse::openInBrowser(const QUrl &address)
+{
+    const bool isOpened = NSWorkspace::sharedWorkspace()->openURL(address);
+    if (!isOpened)
+        window().tell(pages_.pageIsNotOpened(address));
+    return isOpened;
 }
 
 void UpdateCourse::install()

@@ -39,6 +39,7 @@ private:
     void skip();
     void close();
     void openPage();
+    bool openInBrowser(const QUrl &address);
     void install();
     void installAndRestart();
 

@@ -26,6 +26,24 @@ const QHash<QString, const char *> &buttonTexts()
     return texts;
 }
 
+/// Nothing else is given to a browser.
+bool isWebPage(const QUrl &address)
+{
+    return address.isValid()
+        && (address.scheme() == QStringLiteral("https") || address.scheme() == QStringLiteral("http"));
+}
+
+const char *urgency(bool isCritical)
+{
+    return isCritical ? "It mends something that matters: install it soon." : "It can be downloaded and installed now.";
+}
+
+const char *whereFrom(bool hasPage)
+{
+    return hasPage ? "It is not installed from here. Its web page tells how to get it."
+                   : "It is not installed from here. Get it from where you got the version that you have.";
+}
+
 QString size(qint64 bytes)
 {
     return QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
@@ -74,14 +92,13 @@ UpdatePage UpdatePages::offer(const AppcastItem &item, const QString &installedV
     const bool isCritical = isCriticalFor(item, installedVersion);
     const bool isInformational = isInformationalFor(item, installedVersion);
     const bool hasNotes = item.releaseNotes.isValid() || !item.description.isEmpty();
-    const char *install =
-        isCritical ? "It mends something that matters: install it soon." : "It can be downloaded and installed now.";
+    const bool hasPage = isWebPage(item.link);
     UpdatePage page{.name = QStringLiteral("offer"),
         .heading = text(isCritical ? "There is an important update: Lumaroo %1" : "There is a new version: Lumaroo %1")
                        .arg(item.displayVersion),
-        .text = text(isInformational ? "It is not installed from here. Its web page tells how to get it." : install),
+        .text = text(isInformational ? whereFrom(hasPage) : urgency(isCritical)),
         .content = hasNotes ? Content::Notes : Content::None,
-        .buttons = offerButtons(!isCritical, !item.link.isEmpty(), isInformational)};
+        .buttons = offerButtons(!isCritical, hasPage, isInformational)};
     page.defaultButton = page.buttons.last().name;
     page.escapeButton = pressLater;
     return page;
@@ -174,4 +191,9 @@ QString UpdatePages::progressText(qint64 received, qint64 total) const
 QString UpdatePages::notesAreMissing() const
 {
     return text("The release notes cannot be shown now.");
+}
+
+QString UpdatePages::pageIsNotOpened(const QUrl &address) const
+{
+    return text("The web page cannot be opened from here. Its address is: %1").arg(address.toDisplayString());
 }

@@ -38,6 +38,7 @@ public:
     /// "1.2 MB of 3.4 MB".
     QString progressText(qint64 received, qint64 total) const;
     QString notesAreMissing() const;
+    QString pageIsNotOpened(const QUrl &address) const;
 
 private:
     QString text(const char *english) const;

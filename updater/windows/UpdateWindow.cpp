@@ -74,14 +74,20 @@ void UpdateWindow::setPage(const UpdatePage &page)
     }
     escapeButton_ = page.escapeButton;
     defaultButton_ = page.defaultButton;
+    hasNotes_ = page.content == UpdatePage::Content::Notes;
     body_ = makeBody(page);
     layout()->addWidget(body_);
     // Hidden, it would take no room.
     body_->show();
     setAccessibleDescription(page.heading + u'\n' + page.text);
-    fit(page);
+    fit();
     focusDefault();
-    // Screen readers tell it, also where the focus is elsewhere.
+    announce();
+}
+
+/// Screen readers tell it, also where the focus is elsewhere.
+void UpdateWindow::announce()
+{
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
 }
@@ -144,6 +150,7 @@ void UpdateWindow::addNotes(QBoxLayout *column)
 {
     notes_ = new ReleaseNotesView(this);
     notes_->setMinimumSize(notesSize);
+    connect(notes_, &QTextBrowser::anchorClicked, this, &UpdateWindow::linkChosen);
     column->addWidget(notes_, 1);
 }
 
@@ -166,16 +173,15 @@ QLayout *UpdateWindow::makeButtons(const UpdatePage &page)
     return row;
 }
 
-void UpdateWindow::fit(const UpdatePage &page)
+void UpdateWindow::fit()
 {
-    const bool grows = page.content == UpdatePage::Content::Notes;
     setMinimumSize(0, 0);
     setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     layout()->activate();
     const QSize hint = layout()->totalSizeHint();
     const QSize wanted(hint.width(), qMax(hint.height(), layout()->totalHeightForWidth(hint.width())));
     const QSize room = screen()->availableSize() - besideWindow;
-    resize(grows ? wanted.expandedTo(sizeWithNotes.boundedTo(room)) : wanted);
+    resize(hasNotes_ ? wanted.expandedTo(sizeWithNotes.boundedTo(room)) : wanted);
     setMinimumSize(wanted);
 }
 
@@ -215,6 +221,15 @@ void UpdateWindow::setNotes(const QString &html)
 {
     if (notes_)
         notes_->setNotes(html);
+}
+
+void UpdateWindow::tell(const QString &text)
+{
+    text_->setText(text);
+    text_->show();
+    setAccessibleDescription(text);
+    fit();
+    announce();
 }
 
 void UpdateWindow::reject()

@@ -29,12 +29,16 @@ public:
     void setProgress(qint64 done, qint64 total, const QString &text);
     /// What the page with notes shows, as safe HTML.
     void setNotes(const QString &html);
+    /// In place of the page's text.
+    void tell(const QString &text);
 
     void reject() override;
 
 Q_SIGNALS:
     /// By its name.
     void pressed(const QString &button);
+    /// A link in the notes.
+    void linkChosen(const QUrl &address);
 
 private:
     QWidget *makeBody(const UpdatePage &page);
@@ -43,11 +47,13 @@ private:
     void addProgress(QBoxLayout *column, const QString &name);
     void addNotes(QBoxLayout *column);
     QLayout *makeButtons(const UpdatePage &page);
-    void fit(const UpdatePage &page);
+    void announce();
+    void fit();
     void focusDefault();
 
     QIcon icon_;
     QString escapeButton_, defaultButton_;
+    bool hasNotes_ = false;
     QPointer<QWidget> body_;
     QPointer<QLabel> text_;
     QPointer<QProgressBar> progress_;

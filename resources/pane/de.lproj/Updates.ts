@@ -259,5 +259,29 @@
         <source>It could not take the old version's place. It is tried again when you close the settings and when you open them.</source>
         <translation>Sie konnte nicht an die Stelle der alten Version treten. Es wird noch einmal versucht, wenn Sie die Einstellungen schließen und wenn Sie sie öffnen.</translation>
     </message>
+    <message>
+        <source>This copy of Lumaroo cannot update itself. Get new versions from where you got this one.</source>
+        <translation>Diese Ausgabe von Lumaroo kann sich nicht selbst aktualisieren. Beziehen Sie neue Versionen von dort, woher Sie diese haben.</translation>
+    </message>
+    <message>
+        <source>Lumaroo was installed for everybody who uses this computer: updates come with the system's updates.</source>
+        <translation>Lumaroo wurde für alle installiert, die diesen Computer benutzen: Neue Versionen kommen mit den Aktualisierungen des Systems.</translation>
+    </message>
+    <message>
+        <source>Nothing is looked for as root: open the settings under your own name.</source>
+        <translation>Als root wird nichts gesucht: Öffnen Sie die Einstellungen unter Ihrem eigenen Namen.</translation>
+    </message>
+    <message>
+        <source>Lumaroo cannot look for new versions.</source>
+        <translation>Lumaroo kann nicht nach neuen Versionen suchen.</translation>
+    </message>
+    <message>
+        <source>It is not installed from here. Get it from where you got the version that you have.</source>
+        <translation>Sie wird nicht von hier aus installiert. Beziehen Sie sie von dort, woher Sie Ihre jetzige Version haben.</translation>
+    </message>
+    <message>
+        <source>The web page cannot be opened from here. Its address is: %1</source>
+        <translation>Die Webseite kann von hier aus nicht geöffnet werden. Ihre Adresse ist: %1</translation>
+    </message>
 </context>
 </TS>

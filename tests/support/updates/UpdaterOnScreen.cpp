@@ -14,7 +14,7 @@
 
 UpdaterOnScreen::UpdaterOnScreen()
 {
-    updater()->setFeedURL(feed());
+    updater()->setFeedURL(feed().toString());
 }
 
 UpdaterOnScreen::~UpdaterOnScreen()
