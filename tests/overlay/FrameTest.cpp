@@ -80,9 +80,9 @@ TEST_P(Frame, thatIsHiddenLeavesNothing)
     const QImage before = screenPicture();
     mark({100, 80, 400, 300});
     EXPECT_TRUE(showsOnScreen(expected({100, 80, 400, 300})));
-    overlay_->hideOverlay();
+    hide();
     EXPECT_TRUE(waitUntil([&before] { return screenPicture() == before; }));
-    overlay_->hideOverlay();
+    hide();
     EXPECT_EQ(screenPicture(), before);
 }
 

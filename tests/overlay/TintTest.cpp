@@ -58,7 +58,7 @@ TEST_P(Tint, isHiddenWithTheFrame)
 {
     mark({100, 80, 400, 300});
     ASSERT_TRUE(showsOnScreen(composited({100, 80, 400, 300}, 1), rounding));
-    overlay_->hideOverlay();
+    hide();
     EXPECT_TRUE(showsOnScreen(ground));
 }
 

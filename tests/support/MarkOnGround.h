@@ -37,7 +37,9 @@ public:
     {
         overlay_->setStyle({colorOf(color, alpha), animates});
     }
-    void mark(const QRect &rect, double scale = 1) { overlay_->showOverlay(viewOf(rect, scale)); }
+    void mark(const QRect &rect, double scale = 1) { show(viewOf(rect, scale)); }
+    void show(const OverlayView &view) { overlay_->showOverlay(view); }
+    void hide() { overlay_->hideOverlay(); }
 
 protected:
     ScreenGround ground_;
