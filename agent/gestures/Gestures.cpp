@@ -38,6 +38,21 @@ std::optional<GestureEvent> eventOf(const QString &action, quint32 time)
 
 } // namespace
 
+QString sentence(const GestureRefusal &refusal)
+{
+    switch (refusal.kind) {
+    case GestureRefusal::Kind::NoWindow:
+        return QStringLiteral("there is no window to select");
+    case GestureRefusal::Kind::Unreadable:
+        return refusal.detail;
+    case GestureRefusal::Kind::KeyboardKept:
+        return QStringLiteral("another program keeps the keyboard; only the combinations work");
+    case GestureRefusal::Kind::NotActivated:
+        return QStringLiteral("%1 did not come to the front").arg(quoted(refusal.detail));
+    }
+    return {};
+}
+
 Gestures::Gestures(WindowSystem &windows, Overlay &overlay, GestureKeys &keys)
     : windows_(windows), overlay_(overlay), keys_(keys)
 {
@@ -63,7 +78,7 @@ Gestures::Gestures(WindowSystem &windows, Overlay &overlay, GestureKeys &keys)
     connect(&labels_, &QTimer::timeout, this, &Gestures::label);
     connect(&limit_, &QTimer::timeout, this, &Gestures::cancel);
     connect(&windows, &WindowSystem::notActivated, this, [this](quint32 windowID) {
-        Q_EMIT refused(QStringLiteral("%1 did not come to the front").arg(quoted(turnedTo_.value(windowID))));
+        Q_EMIT refused({GestureRefusal::Kind::NotActivated, turnedTo_.value(windowID)});
     });
 }
 
@@ -128,7 +143,7 @@ bool Gestures::perform(GestureStep step, const GestureEvent &event)
         keys_.grabKeyboard();
         return true;
     case GestureStep::TellOfKeyboard:
-        Q_EMIT refused(QStringLiteral("another program keeps the keyboard; only the combinations work"));
+        Q_EMIT refused({GestureRefusal::Kind::KeyboardKept, {}});
         return true;
     case GestureStep::Accept:
         accept(event.time);
@@ -151,7 +166,7 @@ bool Gestures::begin()
         return false;
     run_->origin = run_->world.activeWindow;
     if (!run_->selection.begin(run_->world)) {
-        Q_EMIT refused(QStringLiteral("there is no window to select"));
+        Q_EMIT refused({});
         return false;
     }
     Q_EMIT began();
@@ -166,7 +181,7 @@ bool Gestures::move(const GestureEvent &event)
     const bool hasMoved =
         run_->selection.move(event.movement, isPress ? MovementKind::Press : MovementKind::Repeat, run_->world);
     if (run_->selection.selected() == 0) {
-        Q_EMIT refused(QStringLiteral("there is no window to select any more"));
+        Q_EMIT refused({});
         return false;
     }
     show();
@@ -182,7 +197,7 @@ bool Gestures::read()
     QString failure;
     auto world = windows_.read(run_->settings.windows, &failure);
     if (!world) {
-        Q_EMIT refused(failure);
+        Q_EMIT refused({GestureRefusal::Kind::Unreadable, failure});
         return false;
     }
     run_->world = std::move(*world);

@@ -8,6 +8,23 @@
 #include <QTimer>
 #include <optional>
 
+/// Why nothing came of a gesture, or not what was meant.
+struct GestureRefusal
+{
+    enum class Kind : quint8 {
+        NoWindow, ///< that can be selected
+        Unreadable, ///< the desktop does not tell its windows
+        KeyboardKept, ///< by another program; the combinations work
+        NotActivated ///< the window that was accepted
+    };
+
+    Kind kind = Kind::NoWindow;
+    QString detail; ///< of what cannot be read, the reason; of a window, its title, which may be empty
+};
+
+/// A sentence without its full stop.
+QString sentence(const GestureRefusal &refusal);
+
 /// Leads a gesture: from the keyboard through the rule of movement to the mark on screen and the window turned to. Each
 /// key is one reading of all windows, and nothing goes on between two gestures.
 class Gestures : public QObject
@@ -31,8 +48,7 @@ Q_SIGNALS:
     void moved(const QString &title);
     void accepted(const QString &title);
     void cancelled();
-    /// Nothing came of it, or not what was meant: a sentence without its full stop.
-    void refused(const QString &reason);
+    void refused(const GestureRefusal &refusal);
     /// None is on any more.
     void over();
 

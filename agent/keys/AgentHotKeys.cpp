@@ -186,6 +186,16 @@ void AgentHotKeys::handleLoss()
     freeModifiers_.clear();
 }
 
+QStringList AgentHotKeys::movementKeysHeldByOthers() const
+{
+    QStringList held;
+    for (const ActionKey &key : keys_.first(KTXMovementKeyCount)) {
+        if (refusalNow(key) == Refusal::OtherProgram)
+            held.append(key.hotKey->description());
+    }
+    return held;
+}
+
 QList<AgentHotKey> AgentHotKeys::hotKeys() const
 {
     QList<AgentHotKey> hotKeys;

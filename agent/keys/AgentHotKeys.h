@@ -37,6 +37,8 @@ public:
 
     /// In the order of the actions.
     QList<AgentHotKey> hotKeys() const;
+    /// The combinations that are to move, but belong to other programs.
+    QStringList movementKeysHeldByOthers() const;
     /// Masks of modifiers with which nobody holds a movement key, best first. Looked for while another program holds
     /// one of those with the modifiers that are set; empty otherwise.
     const QList<quint32> &freeModifiers() const { return freeModifiers_; }

@@ -35,6 +35,7 @@ Agent::Agent(AgentName &name)
     : name_(name), bundlePath_(NSBundle::mainBundle()->bundlePath()), version_(loadedVersion())
 {
     connect(&gestures_, &Gestures::over, this, &Agent::followSettingsAfterGesture);
+    connect(&notices_, &AgentNotices::modifiersChosen, this, &Agent::takeModifiers);
 }
 
 void Agent::launch()
@@ -78,6 +79,7 @@ void Agent::followSettings()
     hotKeys_.apply(settings());
     gestureKeys_.apply(settings());
     gestures_.apply(settings());
+    notices_.lookAtKeys();
 }
 
 void Agent::followSettingsAfterGesture()
@@ -92,6 +94,16 @@ void Agent::readChange()
     readSettings();
     // The pane fills in its defaults by writing the whole domain anew, and that may have overtaken our mark.
     markFirstLaunch();
+}
+
+/// As the pane stores them.
+void Agent::takeModifiers(quint32 modifiers)
+{
+    CFPreferencesSetAppValue(KTXModifierMask, qlonglong(modifiers), KTXLMAppID);
+    if (!CFPreferencesAppSynchronize(KTXLMAppID))
+        return;
+    readSettings();
+    announce(KTXLMPrefsChanged);
 }
 
 void Agent::markFirstLaunch()

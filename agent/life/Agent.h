@@ -3,6 +3,7 @@
 #include "agent/gestures/Gestures.h"
 #include "agent/keys/AgentHotKeys.h"
 #include "agent/life/AgentSettings.h"
+#include "agent/notices/AgentNotices.h"
 
 #include <QObject>
 #include <QVariantMap>
@@ -49,6 +50,7 @@ private:
     void followSettingsAfterGesture();
     void meetPane();
     void readChange();
+    void takeModifiers(quint32 modifiers);
     void markFirstLaunch();
     void announceLaunch();
     void announceEnd();
@@ -67,6 +69,7 @@ private:
     const std::unique_ptr<WindowSystem> windows_ = windowSystem();
     const std::unique_ptr<Overlay> overlay_ = overlay();
     Gestures gestures_{*windows_, *overlay_, gestureKeys_};
+    AgentNotices notices_{hotKeys_, gestures_};
     qint64 readings_ = 0;
     bool isBehind_ = false; ///< what was read last is still to be followed
     bool hasEnded_ = false;

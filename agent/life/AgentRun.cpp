@@ -37,7 +37,8 @@ void printGestures(const Agent &agent)
     QObject::connect(gestures, &Gestures::moved, &agent, printed("moved to %1\n"));
     QObject::connect(gestures, &Gestures::accepted, &agent, printed("accepted %1\n"));
     QObject::connect(gestures, &Gestures::cancelled, &agent, [] { printLine("cancelled\n"); });
-    QObject::connect(gestures, &Gestures::refused, &agent, printed("refused: %1\n"));
+    QObject::connect(gestures, &Gestures::refused, &agent,
+        [](const GestureRefusal &refusal) { printText(QStringLiteral("refused: %1\n").arg(sentence(refusal))); });
 }
 
 /// Says what happens, for people and tests.

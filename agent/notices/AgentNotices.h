@@ -1,0 +1,33 @@
+#pragma once
+
+#include "agent/gestures/Gestures.h"
+#include "agent/keys/AgentHotKeys.h"
+#include "agent/notices/Notices.h"
+
+#include <QSet>
+
+/// What the agent tells its user by itself: each cause once, until it is another.
+class AgentNotices : public QObject
+{
+    Q_OBJECT
+
+public:
+    AgentNotices(const AgentHotKeys &hotKeys, const Gestures &gestures);
+
+    /// Tells of movement keys that other programs hold, with other modifiers to take. Called when the keys have
+    /// followed the settings.
+    void lookAtKeys();
+
+Q_SIGNALS:
+    /// The user takes these modifiers.
+    void modifiersChosen(quint32 modifiers);
+
+private:
+    void handleRefusal(const GestureRefusal &refusal);
+
+    const AgentHotKeys &hotKeys_;
+    Notices notices_;
+    QStringList heldKeys_; ///< by others, as of the last look
+    quint32 offered_ = 0; ///< modifiers
+    QSet<GestureRefusal::Kind> told_;
+};

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QHash>
+#include <QObject>
+#include <QString>
+
+/// Something to tell the user, as a bubble of the desktop's.
+struct Notice
+{
+    QString matter; ///< a later notice of the same matter takes its place
+    QString title;
+    QString text; ///< plain
+    QString button; ///< its only one; none where it is empty
+};
+
+/// The desktop's notifications. Nothing is listened to but while a bubble with a button is up.
+class Notices : public QObject
+{
+    Q_OBJECT
+
+public:
+    ~Notices() override;
+
+    /// Returns at once. Where nobody shows it within 2 s, the log has it.
+    void tell(const Notice &notice);
+
+Q_SIGNALS:
+    /// A notice's button.
+    void pressed(const QString &matter);
+
+private Q_SLOTS:
+    void handleAction(quint32 id, const QString &action);
+    void handleClosing(quint32 id);
+
+private:
+    void handleShown(const Notice &notice, quint32 id);
+    void forget(quint32 id);
+    void listen(bool listen);
+
+    QHash<QString, quint32> shown_; ///< the bubble of each matter that has one
+    bool isListening_ = false;
+};

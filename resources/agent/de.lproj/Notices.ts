@@ -1,0 +1,47 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Notices</name>
+    <message>
+        <source>Windows cannot be selected here</source>
+        <translation>Fenster lassen sich hier nicht auswählen</translation>
+    </message>
+    <message>
+        <source>Another program keeps the keyboard</source>
+        <translation>Ein anderes Programm behält die Tastatur</translation>
+    </message>
+    <message>
+        <source>Until it lets go, Lumaroo's keys work with the modifier keys held.</source>
+        <translation>Bis es sie loslässt, wirken die Tasten von Lumaroo mit gehaltenen Zusatztasten.</translation>
+    </message>
+    <message>
+        <source>A window did not come to the front</source>
+        <translation>Ein Fenster kam nicht nach vorn</translation>
+    </message>
+    <message>
+        <source>The window manager did not turn to it.</source>
+        <translation>Die Fensterverwaltung hat sich ihm nicht zugewandt.</translation>
+    </message>
+    <message>
+        <source>The window manager did not turn to “%1”.</source>
+        <translation>Die Fensterverwaltung hat sich „%1“ nicht zugewandt.</translation>
+    </message>
+    <message>
+        <source>Another program holds Lumaroo's keys</source>
+        <translation>Ein anderes Programm hält Tasten von Lumaroo</translation>
+    </message>
+    <message>
+        <source>Lumaroo does not get %1.</source>
+        <translation>Lumaroo bekommt %1 nicht.</translation>
+    </message>
+    <message>
+        <source>With %1 held instead, all movement keys are free.</source>
+        <translation>Mit %1 sind alle Bewegungstasten frei.</translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <translation>%1 verwenden</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,73 @@
+// The real agent beside a program that holds its keys, and a notification server.
+
+#include "AgentProgram.h"
+#include "AgentSession.h"
+#include "KTXConstants.h"
+#include "NotificationServer.h"
+#include "OtherClient.h"
+#include "Wait.h"
+
+#include <linux/input-event-codes.h>
+
+namespace {
+
+constexpr quint16 controlAndAlt = XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1;
+
+class NoticesByUser : public AgentSessionAfterFirstLaunch
+{
+protected:
+    OtherClient other;
+};
+
+} // namespace
+
+TEST_F(NoticesByUser, offerOtherModifiersWhereAProgramHoldsAMovementKey)
+{
+    NotificationServer server;
+    ASSERT_TRUE(other.grabKey(KEY_LEFT, controlAndAlt));
+    AgentProgram agent;
+    ASSERT_TRUE(waitForLaunchOf(agent));
+    ASSERT_TRUE(waitUntil([&] { return server.bubbles().size() == 1; }));
+    const NotificationServer::Bubble bubble = server.bubbles().first();
+    EXPECT_EQ(bubble.title, u"Another program holds Lumaroo's keys");
+    EXPECT_EQ(bubble.text, u"Lumaroo does not get ⌃⌥←. With ⌃⌘ held instead, all movement keys are free.");
+    EXPECT_EQ(bubble.actions, QStringList({"button", "Use ⌃⌘"}));
+
+    server.pressButton();
+    EXPECT_TRUE(announces({changedByAgent()}));
+    EXPECT_EQ(stored().value(KTXModifierMask), QVariant(0x1100));
+    EXPECT_TRUE(waitUntil([] { return runningAgent().value("freeModifiers").toArray().isEmpty(); }));
+    for (const QJsonValue &key : runningAgent().value("hotKeys").toArray())
+        EXPECT_TRUE(key.toObject().value("registered").toBool())
+            << qPrintable(key.toObject().value("action").toString());
+    EXPECT_EQ(server.bubbles().size(), 1);
+}
+
+TEST_F(NoticesByUser, tellOfHeldKeysOnceAndAgainWhenTheyAreOthers)
+{
+    NotificationServer server;
+    ASSERT_TRUE(other.grabKey(KEY_LEFT, controlAndAlt));
+    AgentProgram agent;
+    ASSERT_TRUE(waitForLaunchOf(agent));
+    ASSERT_TRUE(waitUntil([&] { return server.bubbles().size() == 1; }));
+    paneAnnounces(KTXLMPrefsChanged);
+    ASSERT_TRUE(agent.waitForLine("settings read (2)"));
+    // Another program holds one with the other modifiers too.
+    ASSERT_TRUE(other.grabKey(KEY_UP, XCB_MOD_MASK_CONTROL));
+    store({{KTXFirstLaunch, true}, {KTXModifierMask, 0x1000}});
+    paneAnnounces(KTXLMPrefsChanged);
+    ASSERT_TRUE(waitUntil([&] { return server.bubbles().size() == 2; }));
+    EXPECT_TRUE(server.bubbles().last().text.startsWith(u"Lumaroo does not get ⌃↑."));
+    EXPECT_EQ(server.bubbles().last().replaced, 1U);
+}
+
+TEST_F(NoticesByUser, goToTheLogWhereNobodyShowsThem)
+{
+    ASSERT_TRUE(other.grabKey(KEY_LEFT, controlAndAlt));
+    AgentProgram agent;
+    ASSERT_TRUE(waitForLaunchOf(agent));
+    EXPECT_TRUE(waitUntil([&] {
+        return agent.errors().contains(
+            QStringLiteral("Another program holds Lumaroo's keys: Lumaroo does not get ⌃⌥←."));
+    }));
+}
