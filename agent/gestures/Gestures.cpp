@@ -75,6 +75,7 @@ Gestures::Gestures(WindowSystem &windows, Overlay &overlay, GestureKeys &keys)
         [this](int digit, quint32 time) { take({.kind = Kind::Digit, .time = time, .digit = digit}); });
     connect(&keys, &GestureKeys::keyboardRefused, this, [this] { take({.kind = Kind::KeyboardRefused}); });
     connect(&keys, &GestureKeys::lost, this, &Gestures::cancel);
+    connect(&session_, &SessionWatch::userIsLeaving, this, &Gestures::cancel);
     connect(&labels_, &QTimer::timeout, this, &Gestures::label);
     connect(&limit_, &QTimer::timeout, this, &Gestures::cancel);
     connect(&windows, &WindowSystem::notActivated, this, [this](quint32 windowID) {
@@ -140,6 +141,7 @@ bool Gestures::perform(GestureStep step, const GestureEvent &event)
         keys_.beginHeld();
         return true;
     case GestureStep::TakeKeyboard:
+        session_.begin();
         keys_.grabKeyboard();
         return true;
     case GestureStep::TellOfKeyboard:
@@ -259,6 +261,7 @@ void Gestures::finish()
     limit_.stop();
     overlay_.hideOverlay();
     keys_.end();
+    session_.end();
     if (!run_)
         return;
     run_.reset();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "agent/gestures/GestureSettings.h"
+#include "agent/gestures/SessionWatch.h"
 #include "agent/keys/GestureKeys.h"
 
 #include <QHash>
@@ -84,6 +85,7 @@ private:
     WindowSystem &windows_;
     Overlay &overlay_;
     GestureKeys &keys_;
+    SessionWatch session_;
     GestureSettings settings_;
     Gesture gesture_;
     std::optional<Run> run_;

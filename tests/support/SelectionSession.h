@@ -1,0 +1,42 @@
+#pragma once
+
+#include "AgentProgram.h"
+#include "AgentSession.h"
+#include "DesktopWindows.h"
+#include "KeyPress.h"
+#include "WindowOfAnotherProgram.h"
+
+#include <vector>
+
+/// The real agent beside four windows, three in a row and one below the first, which has the focus; and a user at the
+/// keyboard. The titles tell where each stands: "left", "middle", "right", "below".
+class SelectionSession : public AgentSessionAfterFirstLaunch
+{
+public:
+    /// The agent has these variables of the environment besides the test's own.
+    explicit SelectionSession(const QMap<QString, QString> &variables = {});
+
+    /// Opens the windows, and waits for the agent, which goes by these settings.
+    void open(const QVariantMap &settings = {});
+
+    // The activation modifiers, Control and Alt.
+    static const QList<int> &modifiers();
+    static void holdModifiers();
+    static void releaseModifiers();
+    /// As a hand does: what goes faster is taken for a program's typing.
+    static void pressModifiersTwice();
+
+    /// Waits until a window has the focus.
+    static bool isActive(const QString &title);
+    /// What the agent has written of selections so far.
+    QStringList steps();
+    /// Waits until these are the steps.
+    testing::AssertionResult says(const QStringList &lines);
+    /// Windows of the agent that are on screen.
+    static int marksOnScreen();
+
+    AgentProgram agent;
+
+private:
+    std::vector<WindowOfAnotherProgram> windows_;
+};

@@ -1,0 +1,206 @@
+// However a selection ends, the keyboard is free and nothing of it is left on screen.
+
+#include "KTXConstants.h"
+#include "OtherClient.h"
+#include "SecondBus.h"
+#include "SelectionSession.h"
+#include "Wait.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <csignal>
+#include <linux/input-event-codes.h>
+#include <random>
+
+namespace {
+
+/// A system bus of the test's own, on which the test stands for the login manager.
+class LoginManager
+{
+public:
+    /// Has a program find this bus.
+    QMap<QString, QString> variables() const { return {{QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"), address()}}; }
+
+    void lock()
+    {
+        say(QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/login1/session/_31"),
+            QStringLiteral("org.freedesktop.login1.Session"), QStringLiteral("Lock")));
+    }
+    void prepareForSleep()
+    {
+        QDBusMessage signal = QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/login1"),
+            QStringLiteral("org.freedesktop.login1.Manager"), QStringLiteral("PrepareForSleep"));
+        signal << true;
+        say(signal);
+    }
+
+private:
+    QString address() const { return bus_.environment().value(QStringLiteral("DBUS_SESSION_BUS_ADDRESS")); }
+    void say(const QDBusMessage &signal)
+    {
+        QDBusConnection connection = QDBusConnection::connectToBus(address(), QStringLiteral("login-manager"));
+        ASSERT_TRUE(connection.registerService(QStringLiteral("org.freedesktop.login1")));
+        ASSERT_TRUE(connection.send(signal));
+        QDBusConnection::disconnectFromBus(QStringLiteral("login-manager"));
+    }
+
+    SecondBus bus_;
+};
+
+struct WithLoginManager
+{
+    LoginManager loginManager;
+};
+
+class SelectionEnd : private WithLoginManager, public SelectionSession
+{
+protected:
+    SelectionEnd() : SelectionSession(WithLoginManager::loginManager.variables()) { }
+
+    LoginManager &loginManager() { return WithLoginManager::loginManager; }
+
+    /// Begins one that holds the keyboard.
+    void beginPersistent()
+    {
+        pressModifiersTwice();
+        ASSERT_TRUE(says({"began"}));
+        ASSERT_TRUE(waitUntil([] { return marksOnScreen() > 0; }));
+        ASSERT_TRUE(waitUntil([this] { return !keyboardIsFree(); }));
+    }
+    bool keyboardIsFree()
+    {
+        const bool isFree = other.grabKeyboard();
+        if (isFree)
+            other.ungrabKeyboard();
+        return isFree;
+    }
+    void expectNothingLeft()
+    {
+        EXPECT_TRUE(waitUntil([this] { return keyboardIsFree(); }));
+        EXPECT_TRUE(waitUntil([] { return marksOnScreen() == 0; }));
+    }
+
+    OtherClient other;
+};
+
+} // namespace
+
+TEST_F(SelectionEnd, comesWithALockedSession)
+{
+    open();
+    beginPersistent();
+    loginManager().lock();
+    EXPECT_TRUE(says({"began", "cancelled"}));
+    expectNothingLeft();
+}
+
+TEST_F(SelectionEnd, comesWithSleep)
+{
+    open();
+    beginPersistent();
+    loginManager().prepareForSleep();
+    EXPECT_TRUE(says({"began", "cancelled"}));
+    expectNothingLeft();
+}
+
+TEST_F(SelectionEnd, comesWithTheScreenSaver)
+{
+    open();
+    beginPersistent();
+    const XConnection connection = connectToXServer();
+    xcb_force_screen_saver(connection.get(), XCB_SCREEN_SAVER_ACTIVE);
+    xcb_flush(connection.get());
+    EXPECT_TRUE(says({"began", "cancelled"}));
+    expectNothingLeft();
+}
+
+TEST_F(SelectionEnd, comesWithAClick)
+{
+    open();
+    beginPersistent();
+    clickAt({900, 600});
+    EXPECT_TRUE(says({"began", "cancelled"}));
+    expectNothingLeft();
+}
+
+TEST_F(SelectionEnd, comesWithAnyOtherKey)
+{
+    open();
+    beginPersistent();
+    pressKey(KEY_Q);
+    EXPECT_TRUE(says({"began", "cancelled"}));
+    expectNothingLeft();
+}
+
+TEST_F(SelectionEnd, comesWithTheAgentsEnd)
+{
+    open();
+    beginPersistent();
+    paneAnnounces(KTXLMAgentShouldTerminate);
+    EXPECT_EQ(agent.exitStatus(), 0);
+    EXPECT_TRUE(says({"began", "cancelled"}));
+    expectNothingLeft();
+}
+
+TEST_F(SelectionEnd, comesWithAKilledAgent)
+{
+    open();
+    beginPersistent();
+    agent.signal(SIGKILL);
+    expectNothingLeft();
+}
+
+TEST_F(SelectionEnd, comesWithAStoppedAgentThatIsKilled)
+{
+    open();
+    beginPersistent();
+    agent.signal(SIGSTOP);
+    agent.signal(SIGKILL);
+    expectNothingLeft();
+}
+
+TEST_F(SelectionEnd, isNoneOfSettingsThatChangeMeanwhile)
+{
+    open();
+    holdModifiers();
+    pressKey(KEY_RIGHT);
+    ASSERT_TRUE(says({"began", "moved to middle"}));
+    QVariantMap settings = stored();
+    settings.insert(KTXModifierMask, 0x300);
+    store(settings);
+    paneAnnounces(KTXLMPrefsChanged);
+    ASSERT_TRUE(agent.waitForLine(QStringLiteral("settings read (2)")));
+    pressKey(KEY_RIGHT);
+    EXPECT_TRUE(says({"began", "moved to middle", "moved to right"}));
+    releaseModifiers();
+    EXPECT_TRUE(isActive("right"));
+    EXPECT_TRUE(waitUntil([this] { return other.grabKey(KEY_RIGHT, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1); }));
+}
+
+TEST_F(SelectionEnd, leavesNothingHoweverItIsCutOff)
+{
+    open({{KTXVisualMode, true}});
+    std::mt19937 random(1);
+    const auto one = [&random](std::initializer_list<int> of) { return of.begin()[random() % of.size()]; };
+    for (int gesture = 0; gesture < 150; ++gesture) {
+        if (random() % 3 == 0)
+            pressModifiersTwice();
+        else
+            holdModifiers();
+        for (unsigned keys = random() % 5; keys > 0; --keys)
+            pressKey(one({KEY_LEFT, KEY_RIGHT, KEY_UP, KEY_DOWN, KEY_SLASH, KEY_1, KEY_2, KEY_X, KEY_ESC, KEY_ENTER}));
+        releaseModifiers();
+        if (random() % 2 == 0)
+            pressKey(KEY_ESC);
+        if (random() % 5 == 0)
+            clickAt({int(random() % 1000), int(random() % 900)});
+    }
+    pressKey(KEY_X);
+    expectNothingLeft();
+    EXPECT_TRUE(agent.isRunning());
+    turnToWindow(desktopWindows().first().id);
+    ASSERT_TRUE(waitUntil([] { return activeWindow() == desktopWindows().first().id; }));
+    const qsizetype before = steps().filter("accepted").size();
+    pressKey(KEY_RIGHT, modifiers());
+    EXPECT_TRUE(waitUntil([&] { return steps().filter("accepted").size() > before; })) << "it goes on working";
+}
