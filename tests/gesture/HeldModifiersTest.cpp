@@ -68,7 +68,7 @@ TEST_F(HeldModifiers, thatWentUpBeforeTheyWereWatchedAreToldAll)
     keys.beginHeld();
     ASSERT_TRUE(waitFor("released"));
     // Whoever begins asks first; this is for what nobody tells.
-    EXPECT_GE(other.serverTime() - start, 1000U);
+    EXPECT_GE(other.serverTime() - start, 900U);
 }
 
 TEST_F(HeldModifiers, areStillHeldAfterASecondWithoutAnyKey)
@@ -168,23 +168,34 @@ TEST_F(HeldModifiers, workWhereAltIsAnotherModifierOfTheServer)
 TEST_F(HeldModifiers, thatStickAreNotHeld)
 {
     other.setStickyKeys(true);
-    pressKey(KEY_LEFTCTRL);
-    pressKey(KEY_LEFTALT);
+    // Twice: so they stick for longer than one key.
+    for (const int key : {KEY_LEFTCTRL, KEY_LEFTCTRL, KEY_LEFTALT, KEY_LEFTALT})
+        pressKey(key);
     pressKey(KEY_RIGHT);
     ASSERT_TRUE(waitFor(pressedRight));
     EXPECT_FALSE(keys.areModifiersDown());
-    EXPECT_EQ(heard(), QStringList(pressedRight));
+    pressKey(KEY_LEFT);
+    EXPECT_TRUE(waitFor("pressed moveLeftHotKey"));
+    for (const int key : {KEY_LEFTCTRL, KEY_LEFTALT})
+        pressKey(key);
+    heard();
+    pressKey(KEY_RIGHT);
+    EXPECT_EQ(heard(), QStringList());
     other.setStickyKeys(false);
 }
 
-TEST_F(HeldModifiers, thatWouldStickAreReleasedWhenTheyGoUp)
+TEST_F(HeldModifiers, areReleasedThoughTheyStick)
 {
     other.setStickyKeys(true);
     beginHeld();
+    pressKey(KEY_RIGHTALT);
+    EXPECT_EQ(heard(), QStringList());
     keyUp(KEY_LEFTALT);
     EXPECT_EQ(heard(), released);
     keyUp(KEY_LEFTCTRL);
     other.setStickyKeys(false);
+    // Which may leave it stuck; a key takes it off.
+    pressKey(KEY_F5);
 }
 
 TEST_F(HeldModifiers, workWithNumLockCapsLockAndASecondLayout)

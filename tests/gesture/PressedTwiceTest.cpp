@@ -18,6 +18,9 @@ public:
     void tapModifiers(const std::function<void()> &meanwhile = [] {})
     {
         holdModifiers();
+        // Nothing else is seen before it is asked for.
+        settle();
+        settle();
         waitForServer(handsPace);
         meanwhile();
         releaseModifiers();
@@ -41,6 +44,7 @@ public:
         return heardOfFast([&] {
             tapModifiers(whileDown);
             inBetween();
+            waitForServer(handsPace);
             tapModifiers();
         });
     }

@@ -34,6 +34,15 @@ public:
         hotKeys.apply(settings);
         keys.apply(settings);
     }
+    /// Has all be handled that was pressed before: an answer of the server comes behind what it told, on each
+    /// connection. What is asked of the server because of it has reached that when this is called once more.
+    void settle()
+    {
+        keys.areModifiersDown();
+        LMFreeHotKeyModifiers({VirtualKeyCode(0)}, {controlKey});
+        runPendingEvents();
+        runPendingEvents();
+    }
     /// What has been heard since it was asked last, when all that was pressed before has been handled.
     QStringList heard()
     {
@@ -82,14 +91,6 @@ private:
     {
         heard_.append(what);
         times_.insert(what, time);
-    }
-    /// An answer of the server comes behind what it told before, on each connection.
-    void settle()
-    {
-        keys.areModifiersDown();
-        LMFreeHotKeyModifiers({VirtualKeyCode(0)}, {controlKey});
-        runPendingEvents();
-        runPendingEvents();
     }
     void listen()
     {
