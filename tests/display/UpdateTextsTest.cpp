@@ -47,6 +47,8 @@ QList<UpdatePage> allPages(const NSBundle *bundle)
     informational.isInformational = true;
     AppcastItem withoutPage = informational;
     withoutPage.link.clear();
+    AppcastItem withNotes = critical;
+    withNotes.description = "<p>New</p>";
     QList<UpdatePage> all{pages.checking(), pages.upToDate("1.0"), pages.offer(item, "100"),
         pages.offer(critical, "100"), pages.offer(informational, "100"), pages.offer(withoutPage, "100"),
         pages.download("1.1"), pages.preparing("1.1"), pages.ready("1.1"), pages.installedAtEnd("1.1"),
@@ -81,6 +83,20 @@ class UpdateTexts : public testing::Test
 protected:
     UpdateTexts() { QLocale::setDefault(QLocale("de_DE")); }
     ~UpdateTexts() override { QLocale::setDefault(QLocale::system()); }
+
+    static void expectToFit()
+    {
+        UpdateWindow window("Update", iconOfProduct());
+        for (const UpdatePage &page : allPages(english()) + allPages(german())) {
+            window.setPage(page);
+            window.comeToFront();
+            ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+            EXPECT_LE(window.width(), 720) << page.heading.toStdString();
+            // The window manager may grant the size before this one first.
+            EXPECT_TRUE(waitUntil([&] { return everythingFits(window); })) << page.heading.toStdString();
+        }
+    }
+    static QIcon iconOfProduct() { return QIcon(german()->pathForResourceOfType("Lumaroo.icns", {})); }
 };
 
 } // namespace
@@ -150,13 +166,34 @@ TEST_F(UpdateTexts, giveEveryButtonOfAPageAKeyOfItsOwn)
 
 TEST_F(UpdateTexts, fitIntoTheWindow)
 {
-    UpdateWindow window("Update", {});
+    expectToFit();
+}
+
+TEST_F(UpdateTexts, fitIntoTheMirroredWindow)
+{
+    const Qt::LayoutDirection before = QApplication::layoutDirection();
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    expectToFit();
+    QApplication::setLayoutDirection(before);
+}
+
+TEST_F(UpdateTexts, fitWithALargeFont)
+{
+    const QFont before = QApplication::font();
+    QFont large = before;
+    large.setPointSizeF(before.pointSizeF() * 1.5);
+    QApplication::setFont(large);
+    expectToFit();
+    QApplication::setFont(before);
+}
+
+TEST_F(UpdateTexts, fitOntoASmallScreen)
+{
+    constexpr QSize smallScreenWithinAFrame(640 - 16, 480 - 48);
+    UpdateWindow window("Update", iconOfProduct());
     for (const UpdatePage &page : allPages(english()) + allPages(german())) {
         window.setPage(page);
-        window.comeToFront();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-        EXPECT_LE(window.width(), 720) << page.heading.toStdString();
-        // The window manager may grant the size before this one first.
-        EXPECT_TRUE(waitUntil([&] { return everythingFits(window); })) << page.heading.toStdString();
+        EXPECT_LE(window.minimumWidth(), smallScreenWithinAFrame.width()) << page.heading.toStdString();
+        EXPECT_LE(window.minimumHeight(), smallScreenWithinAFrame.height()) << page.heading.toStdString();
     }
 }

@@ -2,6 +2,7 @@
 #include "Wait.h"
 #include "platform/appkit/controls/ConflictMarker.h"
 #include "platform/appkit/controls/FloatSlider.h"
+#include "platform/appkit/controls/StyledLabel.h"
 #include "platform/appkit/richtext/NSAttributedString.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -179,7 +180,7 @@ TEST(Controls, aNamedColourBringsAnotherThatItReadsOn)
     setBackgroundColor(&field, QColor(20, 40, 80));
     EXPECT_EQ(field.palette().color(QPalette::Text), QColor(Qt::white));
 
-    const QColor lightWindow(240, 240, 240), darkWindow(80, 80, 80);
+    const QColor lightWindow(240, 240, 240);
     QWidget window;
     QLabel label(&window);
     window.setPalette(lightWindow);
@@ -187,11 +188,29 @@ TEST(Controls, aNamedColourBringsAnotherThatItReadsOn)
     EXPECT_EQ(label.palette().color(QPalette::WindowText), QColor(Qt::red));
     EXPECT_EQ(label.palette().color(QPalette::Window), lightWindow) << "it reads there";
     EXPECT_TRUE(label.autoFillBackground());
-    setTextColor(&label, Qt::yellow);
-    EXPECT_EQ(label.palette().color(QPalette::Window), QColor(Qt::black));
-    window.setPalette(darkWindow);
-    setTextColor(&label, Qt::red);
-    EXPECT_EQ(label.palette().color(QPalette::Window), QColor(Qt::white));
+}
+
+TEST(Controls, aTextColourThatDoesNotReadOnItsWindowComesNearerToTheTextsOwn)
+{
+    QWidget window;
+    QLabel label(&window);
+    for (const auto &[ground, text] :
+        {std::pair(QColor(36, 37, 40), QColor(240, 240, 240)), std::pair(QColor(240, 240, 240), QColor(20, 20, 20))}) {
+        QPalette palette = window.palette();
+        palette.setColor(QPalette::Window, ground);
+        palette.setColor(QPalette::WindowText, text);
+        window.setPalette(palette);
+        for (const QColor &color : {QColor(Qt::black), QColor(Qt::white), QColor(Qt::red), QColor(Qt::yellow),
+                 QColor(Qt::blue), QColor(Qt::darkRed)}) {
+            setTextColor(&label, color);
+            const QColor shown = label.palette().color(QPalette::WindowText);
+            EXPECT_EQ(label.palette().color(QPalette::Window), ground) << "no paper";
+            EXPECT_GE(contrastRatio(shown, ground), 3) << color.name().toStdString();
+            EXPECT_EQ(shown == color, contrastRatio(color, ground) >= 3) << color.name().toStdString();
+            const bool isReplaced = color.hsvSaturation() == 0 && shown != color;
+            EXPECT_TRUE(!isReplaced || shown == text);
+        }
+    }
 }
 
 TEST(Controls, namedColoursOutlastAChangeOfThemeAndTheOthersFollowIt)

@@ -1,3 +1,4 @@
+#include "platform/appkit/colors/ColorMixing.h"
 #include "platform/appkit/controls/Controls.h"
 #include "platform/appkit/controls/StyledLabel.h"
 
@@ -34,14 +35,24 @@ ColorRoles rolesOf(const QWidget *control)
     return {QPalette::WindowText, QPalette::Window};
 }
 
-/// The background of the control's kind here, whatever the control itself was given.
-QColor ownBackground(const QObject *control)
+/// The colour of the control's kind here, whatever the control itself was given.
+QColor ownColor(const QWidget *control, QPalette::ColorRole role)
 {
-    const auto *widget = qobject_cast<const QWidget *>(control);
-    if (!widget)
-        return Qt::white;
-    const QWidget *parent = widget->parentWidget();
-    return (parent ? parent->palette() : QGuiApplication::palette()).color(rolesOf(widget).background);
+    const QWidget *parent = control->parentWidget();
+    return (parent ? parent->palette() : QGuiApplication::palette()).color(role);
+}
+
+/// A colour as it reads on a background: 3 is the least contrast for a line of large text. Black or white stands for
+/// the text's own colour where it does not, and any other comes as near to that as it has to.
+QColor readable(const QColor &color, const QColor &background, const QColor &ownText)
+{
+    constexpr float step = 0.1f;
+    if (!color.isValid() || contrastRatio(color, background) >= 3)
+        return color;
+    float share = color.hsvSaturation() == 0 ? 1 : step;
+    while (share < 1 && contrastRatio(mixed(color, ownText, share), background) < 3)
+        share += step;
+    return mixed(color, ownText, std::min(share, 1.0f));
 }
 
 void setColors(QObject *control, const QColor &text, const QColor &background)
@@ -62,11 +73,12 @@ void setColors(QObject *control, const QColor &text, const QColor &background)
 
 void setTextColor(QObject *control, const QColor &color)
 {
-    // Its own background where the colour reads on that, else paper: 3 is the least contrast for a line of large text.
-    const QList<QColor> backgrounds{ownBackground(control), Qt::white, Qt::black};
-    const auto readable = [&color](const QColor &background) { return contrastRatio(color, background) >= 3; };
-    const auto background = std::find_if(backgrounds.cbegin(), backgrounds.cend(), readable);
-    setColors(control, color, background == backgrounds.cend() ? QColor(Qt::black) : *background);
+    const auto *widget = qobject_cast<const QWidget *>(control);
+    if (!widget)
+        return;
+    const ColorRoles roles = rolesOf(widget);
+    const QColor background = ownColor(widget, roles.background);
+    setColors(control, readable(color, background, ownColor(widget, roles.text)), background);
 }
 
 void setBackgroundColor(QObject *control, const QColor &color)
