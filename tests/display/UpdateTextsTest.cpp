@@ -51,8 +51,8 @@ QList<UpdatePage> allPages(const NSBundle *bundle)
     withNotes.description = "<p>New</p>";
     QList<UpdatePage> all{pages.checking(), pages.upToDate("1.0"), pages.offer(item, "100"),
         pages.offer(critical, "100"), pages.offer(informational, "100"), pages.offer(withoutPage, "100"),
-        pages.download("1.1"), pages.preparing("1.1"), pages.ready("1.1"), pages.installedAtEnd("1.1"),
-        pages.installed("1.1")};
+        pages.offer(withNotes, "100"), pages.download("1.1"), pages.preparing("1.1"), pages.ready("1.1"),
+        pages.installedAtEnd("1.1"), pages.installed("1.1")};
     for (const UpdateProblem &problem : problems())
         all += pages.failure(problem);
     return all;
