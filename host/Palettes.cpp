@@ -1,5 +1,7 @@
 #include "host/Palettes.h"
 
+#include "platform/foundation/colors/AccentColor.h"
+
 namespace {
 
 struct RoleColor
@@ -21,7 +23,7 @@ constexpr RoleColor roleColors[] = {
     {QPalette::BrightText, 0xffb3261e, 0xffffb4ab},
     {QPalette::ToolTipBase, 0xff2b2d31, 0xff44474d},
     {QPalette::ToolTipText, 0xfff4f4f6, 0xfff4f4f6},
-    {QPalette::Highlight, 0xff2a64b8, 0xff3a74c8},
+    {QPalette::Highlight, 0xff000000 | accentColor, 0xff3a74c8},
     {QPalette::HighlightedText, 0xffffffff, 0xffffffff},
     {QPalette::Link, 0xff1f5cb0, 0xff8ab4f8},
     {QPalette::LinkVisited, 0xff6b4ba1, 0xffc3a6f0},

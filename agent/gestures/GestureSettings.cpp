@@ -1,6 +1,7 @@
 #include "agent/gestures/GestureSettings.h"
 
 #include "KTXConstants.h"
+#include "platform/foundation/colors/AccentColor.h"
 #include "platform/foundation/colors/NSArchiver.h"
 
 #include <QHash>
@@ -22,6 +23,16 @@ SortOrder sortOrder(const QString &stored)
     return orders.value(stored, SortOrder::FirstSelected);
 }
 
+/// A system colour is the desktop's to say, and only the toolkit would know.
+NSColorRef overlayColor(const QByteArray &archive)
+{
+    const NSColorRef color = NSUnarchiver::unarchiveObjectWithData(archive);
+    if (!color || color->colorSpace() != NSColorSpace::Catalog)
+        return color;
+    const auto part = [](int shift) { return float(accentColor >> shift & 0xff) / 255; };
+    return NSColor::colorWithCalibratedRGBA(part(16), part(8), part(0), color->rgba()[3]);
+}
+
 } // namespace
 
 GestureSettings gestureSettings(const QVariantMap &settings)
@@ -37,8 +48,7 @@ GestureSettings gestureSettings(const QVariantMap &settings)
             .wrapsVertically = isOn(KTXVWrap),
             .cyclesAscending = isOn(KTXCycleAscending)},
         .windows = windowChoice(settings),
-        .overlay = {.color = NSUnarchiver::unarchiveObjectWithData(settings.value(KTXOverlayColor).toByteArray()),
-            .animates = isOn(KTXAnimate)},
+        .overlay = {.color = overlayColor(settings.value(KTXOverlayColor).toByteArray()), .animates = isOn(KTXAnimate)},
         .beeps = isOn(KTXShouldBeep),
         .labelsAtOnce = isOn(KTXVisualMode),
     };
