@@ -116,7 +116,7 @@ WindowWorld randomWorld(quint32 seed)
         left -= here;
         const Rects rects = here > 0 ? layouts.at(seed % 4)(world.monitors.at(i).rect, here, random) : Rects();
         for (const QRect &rect : rects)
-            world.windows += described(100 + quint32(world.windows.size()), rect);
+            world.windows += described(100 - quint32(world.windows.size()), rect);
     }
     const bool hasMore = random.oneIn(3);
     if (hasMore && world.windows.size() > 1)

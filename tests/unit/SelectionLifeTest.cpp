@@ -144,9 +144,11 @@ TEST(SelectionLife, movesOnFromThereInTheSamePress)
 TEST(SelectionLife, goesOnFromTheFirstWindowWhereThereIsNoWayBack)
 {
     Scene scene(row());
-    EXPECT_EQ(scene.press({under, under}), "BC");
-    windowOf(scene.world, 'C').windowIsIgnored = WindowIgnored::Minimised;
-    EXPECT_EQ(scene.afterFollowing(), 'A');
+    scene.world.activeWindow = 'B';
+    scene.selection.begin(scene.world);
+    EXPECT_EQ(scene.press({under, under}), "CD");
+    windowOf(scene.world, 'D').windowIsIgnored = WindowIgnored::Minimised;
+    EXPECT_EQ(scene.afterFollowing(), 'B');
 }
 
 TEST(SelectionLife, goesOnFromTheTopmostWindowWhereTheFirstIsGoneToo)

@@ -202,10 +202,13 @@ TEST(SelectionRule, prefersOfEqualPlaces)
     WindowWorld equalOrder = drawn({"AA.CC", "AA...", "AA.BB"});
     for (WindowDescription &window : equalOrder.windows)
         window.windowOrder = 0;
+    WindowWorld higherNumber = drawn({"AA.CC", "AA...", "AA.BB"});
+    windowOf(higherNumber, 'B').windowOrder = 3;
     std::reverse(equalOrder.windows.begin(), equalOrder.windows.end());
     expectWalks({
         {"the one nearer to the middle of the row", drawn({"AA.BB", "AA.CC", "AA..."}), ">", "AC"},
         {"then the one higher in the stack", drawn({"AA.CC", "AA...", "AA.BB"}), ">", "AB"},
+        {"whatever its number", higherNumber, ">", "AC"},
         {"then the one with the smaller number", equalOrder, ">", "AB"},
     });
 }
@@ -269,6 +272,7 @@ TEST(SelectionRule, walksDownTheStackWhereNothingElseShows)
         {"where edges are 32 px apart", stacked({132, 132, 900, 700}), ">>", "ABC"},
         {"not where one is 33 px apart", stacked({133, 132, 900, 700}), ">>", "ABA"},
         {"not where the far one is", stacked({100, 100, 933, 700}), ">>", "ABA"},
+        {"nor where the near one is", stacked({67, 100, 933, 700}), ">>", "ABA"},
         {"under one that covers all", cover, ">>", "BAB"},
         {"but a move is taken back first", cover, "><>", "ABAB"},
         {"not by a held key", maximised, "R", "A-"},
