@@ -165,6 +165,17 @@ TEST(SelectionLife, goesOnFromTheTopmostWindowWhereTheFirstIsGoneToo)
     EXPECT_EQ(scene.afterFollowing(), char(0));
 }
 
+TEST(SelectionLife, beginsAnotherRowThere)
+{
+    Scene scene(drawn({"AABB..EE", "........", "CC..DD.."}));
+    EXPECT_EQ(scene.press(right), 'B');
+    remove(scene.world, 'A');
+    EXPECT_EQ(scene.afterFollowing(), 'B');
+    remove(scene.world, 'B');
+    EXPECT_EQ(scene.afterFollowing(), 'C');
+    EXPECT_EQ(scene.press(right), 'D');
+}
+
 TEST(SelectionLife, takesTheSelectedWindowForTheFirstWhereThatIsGone)
 {
     Scene scene(placed({

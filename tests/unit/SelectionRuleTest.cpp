@@ -147,7 +147,6 @@ TEST(SelectionRule, takesBackTheLastMove)
         {"one", grid, "><", "ABA"},
         {"several", grid, ">v^<", "ABEBA"},
         {"over the screen's edge", grid, "><", "CAC"},
-        {"back and forth", grid, "><><", "ABABA"},
         {"where the rule alone leads elsewhere", diagonal, "v^", "BCB"},
         {"also to a covered window", drawn({"BBB.CC", "BBB.CC"}), "><", "BCB"},
         {"with a key that led nowhere between", drawn({"AABBCC"}), ">v<", "AB-A", noWrap},
