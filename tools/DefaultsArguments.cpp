@@ -31,6 +31,7 @@ Values:
   -date    2001-02-03T04:05:06Z, or with another offset from UTC; without any it is UTC
   -data    hexadecimal digits; blanks between them do not count
   -dict    KEY TEXT KEY TEXT ..., or one argument with a dictionary as an XML property list
+  -array   TEXT TEXT ...
 
 Exit status: 0 done, 1 not done (a line on standard error says why), 2 the command line makes no sense.
 )";

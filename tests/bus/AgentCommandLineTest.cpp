@@ -99,6 +99,7 @@ TEST_F(TheCommandLine, setsValuesOfEachType)
     expectStored({"-date", "2001-02-03T04:05:06Z"}, QDateTime({2001, 2, 3}, {4, 5, 6}, QTimeZone::utc()));
     expectStored({"-data", "00ff"}, QByteArray("\x00\xff", 2));
     expectStored({"-dict", "keycode", "126"}, QVariantMap({{"keycode", "126"}}));
+    expectStored({"-array", "Terminal", "Panel"}, QVariantList({"Terminal", "Panel"}));
     EXPECT_TRUE(stored().contains(KTXFirstLaunch));
 }
 

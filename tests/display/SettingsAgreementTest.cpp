@@ -62,8 +62,8 @@ protected:
     /// Whether what the window shows, or does, for a key is this value; only the agent knows its own keys.
     bool isShown(const KTXSetting &setting, const QVariant &value)
     {
-        static const QSet<QString> agentsOwn{
-            KTXsuppressMissionControl, KTXShowHidden, KTXVisualMode, KTXShouldToggle, KTXShouldBeep, KTXTutorialDone};
+        static const QSet<QString> agentsOwn{KTXsuppressMissionControl, KTXShowHidden, KTXVisualMode, KTXShouldToggle,
+            KTXShouldBeep, KTXTutorialDone, KTXExcludedApplications};
         if (agentsOwn.contains(setting.key))
             return true;
         switch (setting.type) {

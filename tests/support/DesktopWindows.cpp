@@ -135,6 +135,11 @@ QStringList windowStates(quint32 window)
     return names;
 }
 
+QList<quint32> listedWindows()
+{
+    return numbers(property(rootWindow(), "_NET_CLIENT_LIST"));
+}
+
 QList<quint32> stackedWindows()
 {
     return numbers(property(rootWindow(), "_NET_CLIENT_LIST_STACKING"));
@@ -157,6 +162,11 @@ void waitForWindowManager()
         setDesktops(count);
         EXPECT_TRUE(waitUntil([count] { return desktops() == count; }));
     }
+}
+
+quint32 desktopOfWindow(quint32 window)
+{
+    return numbers(property(window, "_NET_WM_DESKTOP")).value(0);
 }
 
 quint32 currentDesktop()

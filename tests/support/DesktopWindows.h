@@ -30,6 +30,8 @@ void turnToWindow(quint32 window);
 void minimise(quint32 window);
 /// What the window manager says of a window, as "_NET_WM_STATE_HIDDEN".
 QStringList windowStates(quint32 window);
+/// All windows that the window manager has taken over, the oldest first.
+QList<quint32> listedWindows();
 /// All windows from the lowest to the one in front.
 QList<quint32> stackedWindows();
 
@@ -38,6 +40,7 @@ quint32 desktops();
 void setDesktops(quint32 count);
 /// Waits until the window manager has handled all that has happened so far, as a window that has gone with the focus.
 void waitForWindowManager();
+quint32 desktopOfWindow(quint32 window);
 quint32 currentDesktop();
 void goToDesktop(quint32 desktop);
 

@@ -1,6 +1,5 @@
 #include "DisplayRoot.h"
 
-#include "DesktopWindows.h"
 #include "platform/appkit/linux/WindowManagerMessage.h"
 #include "platform/foundation/system/X11.h"
 
@@ -8,6 +7,7 @@
 #include <QPixmap>
 #include <QScreen>
 #include <xcb/randr.h>
+#include <xcb/xcbext.h>
 
 namespace {
 
@@ -39,24 +39,40 @@ QList<xcb_atom_t> monitorNames(const XConnection &connection)
     return names;
 }
 
+struct MonitorRequest
+{
+    xcb_randr_set_monitor_request_t head;
+    xcb_randr_monitor_info_t info;
+    xcb_randr_output_t output;
+};
+
+/// The library's own call miscounts the request's bytes.
+void send(const XConnection &connection, MonitorRequest &request)
+{
+    const xcb_protocol_request_t kind{2, &xcb_randr_id, XCB_RANDR_SET_MONITOR, 1};
+    const size_t output = request.info.nOutput == 0 ? sizeof(request.output) : 0;
+    iovec parts[4]{{}, {}, {&request, sizeof(request) - output}, {}};
+    xcb_send_request(connection.get(), 0, parts + 2, &kind);
+}
+
 /// The first one has the server's only output, which else were a monitor of its own.
 void setMonitor(const XConnection &connection, int number, const QRect &place)
 {
     const auto resources = fromServer(xcb_randr_get_screen_resources_current_reply(connection.get(),
         xcb_randr_get_screen_resources_current(connection.get(), screenOf(connection)->root), nullptr));
-    constexpr quint16 pixelsOf100Millimetres = 378;
-    std::vector<quint32> request(sizeof(xcb_randr_monitor_info_t) / sizeof(quint32) + 1);
-    auto *info = reinterpret_cast<xcb_randr_monitor_info_t *>(request.data());
-    info->name = displayAtom(connection.get(), ("test" + QByteArray::number(number)).constData());
-    info->nOutput = number == 0 ? 1 : 0;
-    info->x = qint16(place.x());
-    info->y = qint16(place.y());
-    info->width = quint16(place.width());
-    info->height = quint16(place.height());
-    info->width_in_millimeters = quint32(place.width()) * 100 / pixelsOf100Millimetres;
-    info->height_in_millimeters = quint32(place.height()) * 100 / pixelsOf100Millimetres;
-    request.back() = xcb_randr_get_screen_resources_current_outputs(resources.get())[0];
-    xcb_randr_set_monitor(connection.get(), screenOf(connection)->root, info);
+    constexpr int pixelsOf100Millimetres = 378;
+    MonitorRequest request{};
+    request.head.window = screenOf(connection)->root;
+    request.info.name = displayAtom(connection.get(), ("test" + QByteArray::number(number)).constData());
+    request.info.nOutput = number == 0 ? 1 : 0;
+    request.info.x = qint16(place.x());
+    request.info.y = qint16(place.y());
+    request.info.width = quint16(place.width());
+    request.info.height = quint16(place.height());
+    request.info.width_in_millimeters = quint32(place.width() * 100 / pixelsOf100Millimetres);
+    request.info.height_in_millimeters = quint32(place.height() * 100 / pixelsOf100Millimetres);
+    request.output = xcb_randr_get_screen_resources_current_outputs(resources.get())[0];
+    send(connection, request);
 }
 
 } // namespace

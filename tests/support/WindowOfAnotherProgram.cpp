@@ -5,6 +5,8 @@
 #include "platform/appkit/linux/WindowManagerMessage.h"
 #include "platform/foundation/system/X11.h"
 
+#include <utility>
+
 namespace {
 
 void waitForServer(xcb_connection_t *connection)
@@ -28,11 +30,22 @@ QByteArray bytesOf(const QList<quint32> &values)
 } // namespace
 
 WindowOfAnotherProgram::WindowOfAnotherProgram(const QString &title, const QRect &place)
-    : connection_(xcb_connect(nullptr, nullptr), &xcb_disconnect), id_(xcb_generate_id(connection_.get()))
+    : WindowOfAnotherProgram(connectToXServer(), title, place)
 {
-    xcb_connection_t *const connection = connection_.get();
-    const xcb_screen_t *screen = xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
-    xcb_create_window(connection, XCB_COPY_FROM_PARENT, id_, screen->root, qint16(place.x()), qint16(place.y()),
+}
+
+WindowOfAnotherProgram::WindowOfAnotherProgram(
+    const WindowOfAnotherProgram &sibling, const QString &title, const QRect &place)
+    : WindowOfAnotherProgram(sibling.connection_, title, place)
+{
+}
+
+WindowOfAnotherProgram::WindowOfAnotherProgram(
+    std::shared_ptr<xcb_connection_t> connection, const QString &title, const QRect &place)
+    : connection_(std::move(connection)), id_(xcb_generate_id(connection_.get()))
+{
+    const xcb_screen_t *screen = xcb_setup_roots_iterator(xcb_get_setup(connection_.get())).data;
+    xcb_create_window(connection_.get(), XCB_COPY_FROM_PARENT, id_, screen->root, qint16(place.x()), qint16(place.y()),
         quint16(place.width()), quint16(place.height()), 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, screen->root_visual,
         XCB_CW_BACK_PIXEL, &screen->white_pixel);
     constexpr quint32 userChosePlaceAndSize = 3;
@@ -47,7 +60,11 @@ WindowOfAnotherProgram::WindowOfAnotherProgram(const QString &title, const QRect
         setText("_NET_WM_NAME", "UTF8_STRING", title.toUtf8());
 }
 
-WindowOfAnotherProgram::~WindowOfAnotherProgram() = default;
+WindowOfAnotherProgram::~WindowOfAnotherProgram()
+{
+    destroy();
+    waitUntil([this] { return !listedWindows().contains(id_); });
+}
 
 WindowOfAnotherProgram &WindowOfAnotherProgram::set(
     const char *property, const char *type, const QList<quint32> &values)
@@ -106,20 +123,38 @@ WindowOfAnotherProgram &WindowOfAnotherProgram::setColor(quint32 color)
     return *this;
 }
 
-bool WindowOfAnotherProgram::show()
+void WindowOfAnotherProgram::map()
 {
     xcb_map_window(connection_.get(), id_);
     waitForServer(connection_.get());
-    return waitUntil([this] { return stackedWindows().contains(id_); });
 }
 
-bool WindowOfAnotherProgram::takesState(const QByteArray &state)
+bool WindowOfAnotherProgram::show()
 {
-    const QByteArray name = "_NET_WM_STATE_" + state;
+    map();
+    return waitUntil([this] { return listedWindows().contains(id_); });
+}
+
+bool WindowOfAnotherProgram::takesState(const QByteArray &state, const QByteArray &other)
+{
+    const QByteArray prefix = "_NET_WM_STATE_";
+    const auto atom = [&](const QByteArray &name) {
+        return name.isEmpty() ? 0 : displayAtom(connection_.get(), (prefix + name).constData());
+    };
     constexpr quint32 add = 1, fromProgram = 1;
-    sendToWindowManager(connection_.get(), id_, "_NET_WM_STATE",
-        {add, displayAtom(connection_.get(), name.constData()), 0, fromProgram});
-    return waitUntil([&] { return windowStates(id_).contains(QString::fromLatin1(name)); });
+    sendToWindowManager(connection_.get(), id_, "_NET_WM_STATE", {add, atom(state), atom(other), fromProgram});
+    return waitUntil([&] {
+        const QStringList states = windowStates(id_);
+        return states.contains(QString::fromLatin1(prefix + state))
+            && (other.isEmpty() || states.contains(QString::fromLatin1(prefix + other)));
+    });
+}
+
+bool WindowOfAnotherProgram::takesDesktop(quint32 desktop)
+{
+    constexpr quint32 fromPager = 2;
+    sendToWindowManager(connection_.get(), id_, "_NET_WM_DESKTOP", {desktop, fromPager});
+    return waitUntil([&] { return desktopOfWindow(id_) == desktop; });
 }
 
 void WindowOfAnotherProgram::destroy()

@@ -15,7 +15,10 @@ class WindowOfAnotherProgram
 public:
     /// Not shown yet. The window manager is asked to leave it where it is.
     explicit WindowOfAnotherProgram(const QString &title = {}, const QRect &place = {200, 150, 300, 200});
-    WindowOfAnotherProgram(WindowOfAnotherProgram &&) = default;
+    /// One more of the same program: a server takes some 250 programs.
+    WindowOfAnotherProgram(const WindowOfAnotherProgram &sibling, const QString &title, const QRect &place);
+    WindowOfAnotherProgram(const WindowOfAnotherProgram &) = delete;
+    /// Waits until the window manager has seen it go: its number may be the next one's.
     ~WindowOfAnotherProgram();
 
     quint32 id() const { return id_; }
@@ -35,14 +38,20 @@ public:
     /// What it is filled with, as 0xff00ff.
     WindowOfAnotherProgram &setColor(quint32 color);
 
+    /// Asks for it to be shown, and does not wait.
+    void map();
     /// Has it managed, and waits until it is; false when that does not come about.
     bool show();
-    /// Has its manager add a state such as "FULLSCREEN", and waits until it has it.
-    bool takesState(const QByteArray &state);
+    /// Has its manager add one or two states such as "FULLSCREEN", and waits until it has them.
+    bool takesState(const QByteArray &state, const QByteArray &other = {});
+    /// Has its manager bring it to a desktop, or to all (0xffffffff), and waits until it is there.
+    bool takesDesktop(quint32 desktop);
     /// Ends it, and waits until the X server has.
     void destroy();
 
 private:
-    std::unique_ptr<xcb_connection_t, void (*)(xcb_connection_t *)> connection_;
+    WindowOfAnotherProgram(std::shared_ptr<xcb_connection_t> connection, const QString &title, const QRect &place);
+
+    std::shared_ptr<xcb_connection_t> connection_;
     quint32 id_ = 0;
 };

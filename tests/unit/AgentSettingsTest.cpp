@@ -45,7 +45,8 @@ TEST(AgentSettings, areAllKeysOfTheDomainInTheirOrder)
         "showPreview", "CancelSelection", "SnapToSelection", "SUEnableAutomaticChecks", "autoRepeat", "repeatRate",
         "initialDelay", "AnimateOverlay", "EnableHorizontalWrap", "EnableVerticalWrap", "HorizontalSortOrder",
         "VerticalSortOrder", "ActionKeyCyclesAscending", "doubleClickToActivate", "doubleClickForPersistent",
-        "suppressMissionControl", "ShowHidden", "visualMode", "Toggle", "Beep", "tutorialWasClosed"};
+        "suppressMissionControl", "ShowHidden", "visualMode", "Toggle", "Beep", "tutorialWasClosed",
+        "excludedApplications"};
     QStringList keys;
     for (const KTXSetting &setting : KTXSettings())
         keys += setting.key;
@@ -93,7 +94,8 @@ TEST(AgentSettings, areWhatIsStoredWhereItIsOfTheRightType)
 {
     const QVariantMap stored{{KTXShouldDebug, true}, {KTXFirstLaunch, "long ago"}, {KTXModifierMask, qlonglong(0x100)},
         {KTXOverlayColor, colorSample("S001")}, {KTXUpPref, QVariantMap{{KTXKeycode, "13"}, {KTXUnichar, "w"}}},
-        {KTXRepeatRate, 0.25F}, {KTXHSort, "Center"}, {KTXVSort, "BottomEdge"}, {KTXCycleAscending, true}};
+        {KTXRepeatRate, 0.25F}, {KTXHSort, "Center"}, {KTXVSort, "BottomEdge"}, {KTXCycleAscending, true},
+        {KTXExcludedApplications, QVariantList{"Terminal", "Panel"}}};
     const QVariantMap settings = effectiveSettings(stored);
     for (auto value = stored.cbegin(); value != stored.cend(); ++value)
         EXPECT_TRUE(isEqualPropertyList(settings.value(value.key()), value.value())) << value.key().toStdString();
@@ -117,6 +119,8 @@ TEST(AgentSettings, ofAnotherTypeCountAsAbsentWhereTheTypeIsChecked)
     EXPECT_EQ(effective(KTXVSort, "LeftEdge"), "FirstSelected") << "an order of the other direction";
     EXPECT_EQ(effective(KTXOverlayColor, "text"), systemColorArchive());
     EXPECT_EQ(effective(KTXOverlayColor, QByteArray("damaged")), systemColorArchive());
+    EXPECT_EQ(effective(KTXExcludedApplications, "Terminal"), QVariantList());
+    EXPECT_EQ(effective(KTXExcludedApplications, QVariantList({"Terminal", true})), QVariantList());
     EXPECT_EQ(effective(KTXUpPref, "13"), QVariantMap({{KTXKeycode, "126"}}));
 }
 

@@ -60,6 +60,7 @@ const std::vector<AgreedText> &agreedTexts()
         {"KTXShouldToggle", KTXShouldToggle, "Toggle"},
         {"KTXShouldBeep", KTXShouldBeep, "Beep"},
         {"KTXTutorialDone", KTXTutorialDone, "tutorialWasClosed"},
+        {"KTXExcludedApplications", KTXExcludedApplications, "excludedApplications"},
         {"KTXLMPrefPaneLaunched", KTXLMPrefPaneLaunched, "Lumaroo PrefPane Launched"},
         {"KTXLMPrefsChanged", KTXLMPrefsChanged, "Lumaroo Preferences Changed"},
         {"KTXLMAgentShouldTerminate", KTXLMAgentShouldTerminate, "Lumaroo Agent Should Terminate"},

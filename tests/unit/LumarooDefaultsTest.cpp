@@ -85,6 +85,8 @@ TEST_F(LumarooDefaults, writesEachTypeOfValue)
     expectStored({"-data", ""}, QByteArray());
     expectStored({"-dict", "keycode", "126", "unichar", "x"}, QVariantMap{{"keycode", "126"}, {"unichar", "x"}});
     expectStored({"-dict"}, QVariantMap());
+    expectStored({"-array", "Terminal", "-5"}, QVariantList{"Terminal", "-5"});
+    expectStored({"-array"}, QVariantList());
     expectStored({"-dict", "<plist><dict><key>a</key><integer>1</integer></dict></plist>"}, QVariantMap{{"a", 1}});
 }
 
@@ -93,7 +95,7 @@ TEST_F(LumarooDefaults, refusesWhatIsNoValueOfTheType)
     for (const QStringList &value : {QStringList{"-bool", "maybe"}, {"-bool", "2"}, {"-bool"}, {"-int", "1.5"},
              {"-int", "9223372036854775808"}, {"-int", ""}, {"-float", "x"}, {"-float", "1e99"}, {"-float", "nan"},
              {"-date", "yesterday"}, {"-data", "f"}, {"-data", "xy"}, {"-dict", "key"},
-             {"-dict", "<plist><true/></plist>"}, {"-dict", "<nonsense"}, {"-array", "a"}, {"-5"}, {}})
+             {"-dict", "<plist><true/></plist>"}, {"-dict", "<nonsense"}, {"-list", "a"}, {"-5"}, {}})
         expectMisunderstood(QStringList{"write", "key"} + value);
 }
 

@@ -7,6 +7,11 @@
 
 namespace {
 
+std::string textOf(const QRect &rect)
+{
+    return QStringLiteral("%1x%2+%3+%4").arg(rect.width()).arg(rect.height()).arg(rect.x()).arg(rect.y()).toStdString();
+}
+
 /// On a ground whose colour no window has.
 class Frames : public WindowsOnDesktop
 {
@@ -22,7 +27,7 @@ protected:
     {
         const auto read = [&] { return described(window.id()).windowRect; };
         EXPECT_TRUE(waitUntil([&] { return !read().isEmpty() && seenOnGround() == read(); }, 5000))
-            << testing::PrintToString(seenOnGround()) << " is seen, " << testing::PrintToString(read()) << " was read";
+            << textOf(seenOnGround()) << " is seen, " << textOf(read()) << " was read";
     }
 
     static QRect screen() { return QGuiApplication::primaryScreen()->geometry(); }
@@ -30,11 +35,6 @@ protected:
 private:
     WindowOfAnotherProgram ground_{"Ground", screen()};
 };
-
-void PrintTo(const QRect &rect, std::ostream *stream)
-{
-    *stream << rect.width() << 'x' << rect.height() << '+' << rect.x() << '+' << rect.y();
-}
 
 } // namespace
 
@@ -83,8 +83,7 @@ TEST_F(Frames, areReadWhereTheyAreMaximised)
 {
     WindowOfAnotherProgram window("Maximised");
     ASSERT_TRUE(window.show());
-    ASSERT_TRUE(window.takesState("MAXIMIZED_VERT"));
-    ASSERT_TRUE(window.takesState("MAXIMIZED_HORZ"));
+    ASSERT_TRUE(window.takesState("MAXIMIZED_VERT", "MAXIMIZED_HORZ"));
     expectSeenAsRead(window);
 }
 

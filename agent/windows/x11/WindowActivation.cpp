@@ -7,6 +7,7 @@
 namespace {
 
 constexpr int mostMilliseconds = 500;
+constexpr int mostRepetitions = 3;
 constexpr quint32 fromUserByPager = 2;
 constexpr quint32 onAllDesktops = 0xffffffff;
 constexpr quint32 mostStates = 64;
@@ -32,6 +33,7 @@ WindowActivation::WindowActivation(const WindowServer &server)
 void WindowActivation::begin(xcb_window_t window, xcb_timestamp_t time)
 {
     window_ = window;
+    lastChange_ = XCB_CURRENT_TIME;
     const bool isAsked = time != XCB_CURRENT_TIME && ask(time);
     limit_.start(isAsked ? mostMilliseconds : 0);
     input_.setEnabled(isAsked);
@@ -53,10 +55,18 @@ bool WindowActivation::ask(xcb_timestamp_t time)
         return false;
     // First its desktop: else some managers refuse, and others bring the window to the desktop that is seen.
     const auto desktop = numberOf(own.bytes(), XCB_ATOM_CARDINAL);
-    if (desktop && current && desktop != current && *desktop != onAllDesktops)
+    const bool isElsewhere = desktop && current && desktop != current && *desktop != onAllDesktops;
+    timesToAskAgain_ = isElsewhere ? mostRepetitions : 0;
+    if (isElsewhere)
         send(root, server_.atoms.currentDesktop, {.data32 = {*desktop, time}});
+    askForFocus(time);
+    return !xcb_connection_has_error(server_.connection);
+}
+
+void WindowActivation::askForFocus(xcb_timestamp_t time)
+{
     send(window_, server_.atoms.activeWindow, {.data32 = {fromUserByPager, time, XCB_WINDOW_NONE}});
-    return xcb_flush(server_.connection) > 0;
+    xcb_flush(server_.connection);
 }
 
 void WindowActivation::send(xcb_window_t window, xcb_atom_t message, const xcb_client_message_data_t &data)
@@ -93,9 +103,10 @@ bool WindowActivation::hasActiveWindowChanged()
     bool hasChanged = false;
     while (const auto event = fromServer(xcb_poll_for_event(server_.connection))) {
         const auto *change = reinterpret_cast<const xcb_property_notify_event_t *>(event.get());
-        hasChanged = hasChanged
-            || ((event->response_type & eventTypeMask) == XCB_PROPERTY_NOTIFY
-                && change->atom == server_.atoms.activeWindow);
+        if ((event->response_type & eventTypeMask) != XCB_PROPERTY_NOTIFY || change->atom != server_.atoms.activeWindow)
+            continue;
+        hasChanged = true;
+        lastChange_ = change->time;
     }
     return hasChanged;
 }
@@ -104,8 +115,14 @@ void WindowActivation::look()
 {
     // What comes in while an answer is waited for makes the socket readable no more.
     do {
-        if (window_ != XCB_WINDOW_NONE && isActive())
+        if (window_ == XCB_WINDOW_NONE)
+            continue;
+        if (isActive())
             finish(true);
+        else if (lastChange_ != XCB_CURRENT_TIME && timesToAskAgain_-- > 0)
+            // A manager that changes the desktop focuses a window there by itself, after which the server no longer
+            // takes the earlier time.
+            askForFocus(lastChange_);
     } while (hasActiveWindowChanged());
 }
 

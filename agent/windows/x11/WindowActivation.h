@@ -25,6 +25,7 @@ Q_SIGNALS:
 
 private:
     bool ask(xcb_timestamp_t time);
+    void askForFocus(xcb_timestamp_t time);
     void send(xcb_window_t window, xcb_atom_t message, const xcb_client_message_data_t &data);
     void watchRoot(quint32 events);
     void look();
@@ -34,6 +35,8 @@ private:
     void finish(bool isActive);
 
     WindowServer server_;
+    int timesToAskAgain_ = 0;
+    xcb_timestamp_t lastChange_ = XCB_CURRENT_TIME; ///< of the active window
     xcb_window_t window_ = XCB_WINDOW_NONE; ///< the one that is turned to; none at rest
     QSocketNotifier input_;
     QTimer limit_;

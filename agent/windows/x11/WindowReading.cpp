@@ -26,6 +26,11 @@ struct Desktop
     std::optional<quint32> currentDesktop;
 };
 
+bool isPermutation(const QList<xcb_window_t> &left, const QList<xcb_window_t> &right)
+{
+    return QSet(left.cbegin(), left.cend()) == QSet(right.cbegin(), right.cend());
+}
+
 Desktop readDesktop(const WindowServer &server)
 {
     const auto ask = [&server](xcb_atom_t property, quint32 units) {
@@ -49,8 +54,11 @@ Desktop readDesktop(const WindowServer &server)
     const auto stack = list(byStack, XCB_ATOM_WINDOW);
     const auto clients = list(byAge, XCB_ATOM_WINDOW);
     desktop.tellsClients = stack || clients || features.contains(server.atoms.clientList);
-    desktop.clients = stack ? *stack : clients.value_or(QList<xcb_window_t>());
-    desktop.isStack = stack.has_value();
+    desktop.clients = stack.value_or(QList<xcb_window_t>());
+    // Some write the stack at the next change of it only, and a new window is not in it then.
+    desktop.isStack = stack && (!clients || isPermutation(*stack, *clients));
+    if (!desktop.isStack)
+        desktop.clients += clients.value_or(QList<xcb_window_t>());
     desktop.activeWindow = number(active, XCB_ATOM_WINDOW).value_or(XCB_WINDOW_NONE);
     desktop.currentDesktop = number(current, XCB_ATOM_CARDINAL);
     return desktop;

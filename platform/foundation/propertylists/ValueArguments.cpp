@@ -68,6 +68,12 @@ const QString &dictionaryFlag()
     return flag;
 }
 
+const QString &listFlag()
+{
+    static const QString flag = QStringLiteral("-array");
+    return flag;
+}
+
 QVariant readDictionary(const QString &text)
 {
     const PropertyListReading reading = readPropertyList(text.toUtf8());
@@ -91,17 +97,28 @@ QVariant takeDictionary(QStringList &arguments, const ArgumentTest &isOption)
     return dictionary;
 }
 
+/// Likewise.
+QVariant takeList(QStringList &arguments, const ArgumentTest &isOption)
+{
+    QVariantList texts;
+    while (!arguments.isEmpty() && !isOption(arguments.first()))
+        texts.append(readString(arguments.takeFirst()));
+    return texts;
+}
+
 } // namespace
 
 bool isTypeFlag(const QString &argument)
 {
-    return readers().contains(argument) || argument == dictionaryFlag();
+    return readers().contains(argument) || argument == dictionaryFlag() || argument == listFlag();
 }
 
 QVariant takeValue(const QString &flag, QStringList &arguments, const ArgumentTest &isOption)
 {
     if (flag == dictionaryFlag())
         return takeDictionary(arguments, isOption);
+    if (flag == listFlag())
+        return takeList(arguments, isOption);
     if (arguments.isEmpty())
         throw UsageError(QStringLiteral("%1 needs a value").arg(flag));
     const QString text = arguments.takeFirst();

@@ -18,9 +18,9 @@ public:
 
 using ArgumentTest = std::function<bool(const QString &argument)>;
 
-/// Whether an argument names a type: -bool, -int, -float, -string, -date, -data or -dict.
+/// Whether an argument names a type: -bool, -int, -float, -string, -date, -data, -dict or -array.
 LM_FOUNDATION bool isTypeFlag(const QString &argument);
 
-/// Takes a value of the type that `flag` names from the front of the arguments. A dictionary of pairs ends at the first
-/// argument that `isOption`. Throws UsageError.
+/// Takes a value of the type that `flag` names from the front of the arguments. A dictionary of pairs and a list
+/// end at the first argument that `isOption`. Throws UsageError.
 LM_FOUNDATION QVariant takeValue(const QString &flag, QStringList &arguments, const ArgumentTest &isOption);
