@@ -170,3 +170,17 @@ TEST_F(SystemInformation, givesALongModelUpToWhatItsLengthCanTell)
     EXPECT_EQ(quint8(*text), 255);
     EXPECT_EQ(qstrlen(text + 1), 255U);
 }
+
+TEST_F(SystemInformation, cutsALongModelBetweenTwoCharacters)
+{
+    putModel("x" + QByteArray("\xc3\xa4").repeated(200));
+    qintptr response = 0;
+    ASSERT_EQ(Gestalt(gestaltUserVisibleMachineName, &response), noErr);
+    const auto *text = reinterpret_cast<const char *>(response);
+    EXPECT_EQ(quint8(*text), 255);
+    putModel("xy" + QByteArray("\xc3\xa4").repeated(200));
+    ASSERT_EQ(Gestalt(gestaltUserVisibleMachineName, &response), noErr);
+    text = reinterpret_cast<const char *>(response);
+    EXPECT_EQ(quint8(*text), 254);
+    EXPECT_EQ(QByteArray(text + 1), "xy" + QByteArray("\xc3\xa4").repeated(126));
+}

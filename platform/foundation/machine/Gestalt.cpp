@@ -25,10 +25,20 @@ OSStatus answerOfVersion(Part part, qintptr *response)
     return answer(version ? std::optional<quint32>(part(*version)) : std::nullopt, response);
 }
 
+/// As much as its length can tell, and no half character.
+QByteArray shortened(const QByteArray &text)
+{
+    constexpr auto isInsideCharacter = [](char byte) { return (quint8(byte) & 0xc0) == 0x80; };
+    qsizetype length = qMin(text.size(), qsizetype(std::numeric_limits<quint8>::max()));
+    while (length > 0 && length < text.size() && isInsideCharacter(text[length]))
+        --length;
+    return text.first(length);
+}
+
 OSStatus answerWithModel(qintptr *response)
 {
     static QByteArray text;
-    const QByteArray model = machineModel().left(std::numeric_limits<quint8>::max());
+    const QByteArray model = shortened(machineModel());
     if (model.isEmpty())
         return gestaltUnknownErr;
     text = char(quint8(model.size())) + model;
