@@ -138,15 +138,15 @@ void NSAlert::beginSheetModalForWindowModalDelegateDidEndSelectorContextInfo(std
     AlertSheets::ofView(view)->begin({shown->d->finishedContent(), modalDelegate, end});
 }
 
-int NSAlert::runModal()
+int NSAlert::runModal(QWidget *window)
 {
     const AlertContent content = d->finishedContent();
     // The window it belongs to may be destroyed while it runs, and takes it along.
-    const QPointer<AlertWindow> window = new AlertWindow(content, Qt::ApplicationModal, frontWindow());
-    window->exec();
-    const int pressed = window ? window->pressedButton() : -1;
-    d->content.suppressionIsOn = window && window->suppressionIsOn();
-    delete window;
+    const QPointer<AlertWindow> shown = new AlertWindow(content, Qt::ApplicationModal, window ? window : frontWindow());
+    shown->exec();
+    const int pressed = shown ? shown->pressedButton() : -1;
+    d->content.suppressionIsOn = shown && shown->suppressionIsOn();
+    delete shown;
     if (pressed >= 0)
         return NSAlertFirstButtonReturn + pressed;
     const int last = int(content.buttons.size()) - 1;
@@ -154,7 +154,7 @@ int NSAlert::runModal()
 }
 
 int NSRunAlertPanel(const QString &title, const QString &message, const QString &defaultButton,
-    const QString &alternateButton, const QString &otherButton)
+    const QString &alternateButton, const QString &otherButton, QWidget *window)
 {
     NSAlert alert;
     alert.setMessageText(title);
@@ -168,5 +168,5 @@ int NSRunAlertPanel(const QString &title, const QString &message, const QString 
         alert.addButtonWithTitle(button);
         answers += answer;
     }
-    return answers.value(alert.runModal() - NSAlertFirstButtonReturn, NSAlertDefaultReturn);
+    return answers.value(alert.runModal(window) - NSAlertFirstButtonReturn, NSAlertDefaultReturn);
 }

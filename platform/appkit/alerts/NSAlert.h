@@ -64,10 +64,10 @@ public:
     static void beginSheetModalForWindowModalDelegateDidEndSelectorContextInfo(std::unique_ptr<NSAlert> alert,
         QWidget *view, const QObject *modalDelegate, const DidEnd &didEnd, const QString &contextInfo);
 
-    /// Runs application-modally in front of frontWindow() (NSWindow.h) and returns the button that ended it,
-    /// NSAlertFirstButtonReturn + its index. When the application ends meanwhile, it is the button that Escape presses,
-    /// or else the last.
-    int runModal();
+    /// Runs application-modally in front of `window`, or frontWindow() (NSWindow.h) without one, and returns the button
+    /// that ended it, NSAlertFirstButtonReturn + its index. When the application ends meanwhile, it is the button that
+    /// Escape presses, or else the last.
+    int runModal(QWidget *window = nullptr);
 
 private:
     class Private;
@@ -77,4 +77,4 @@ private:
 /// Runs an alert as NSAlert::runModal does and returns which of its buttons ended it. An empty title is no button;
 /// without any there is "OK", the default one.
 LM_APPKIT int NSRunAlertPanel(const QString &title, const QString &message, const QString &defaultButton,
-    const QString &alternateButton, const QString &otherButton);
+    const QString &alternateButton, const QString &otherButton, QWidget *window = nullptr);
