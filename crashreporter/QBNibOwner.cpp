@@ -13,9 +13,13 @@ QBNibOwner::~QBNibOwner()
 
 bool QBNibOwner::init()
 {
-    loadNibFile(QBAppBundle(), nibFilename(), {{NSNibOwner, this}, {NSNibTopLevelObjects, &topLevelObjects_}});
-    if (topLevelObjects_.empty())
-        NSLog(QStringLiteral("%1: Couldn't find NIB file \"%2.nib\".").arg(className(), nibFilename()));
+    QString failure;
+    loadNibFile(
+        QBAppBundle(), nibFilename(), {{NSNibOwner, this}, {NSNibTopLevelObjects, &topLevelObjects_}}, &failure);
+    if (topLevelObjects_.empty()) {
+        const QString cause = failure.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(failure);
+        NSLog(QStringLiteral("%1: Couldn't find NIB file \"%2.nib\".").arg(className(), nibFilename()) + cause);
+    }
     return !topLevelObjects_.empty();
 }
 

@@ -108,6 +108,16 @@ TEST_F(NibOwner, withoutItsFileItIsOfNoUseAndOneLineNamesItTwice)
     EXPECT_EQ(owner.textWhenAwoken, QString());
 }
 
+TEST_F(NibOwner, aDamagedFileIsOneLineWithTheCause)
+{
+    pane.writeFile("Contents/Resources/SampleOwner.ui", "<ui version=\"4.0\"><widget");
+    SampleOwner owner;
+    EXPECT_FALSE(owner.init());
+    ASSERT_EQ(log.lines().size(), 1);
+    EXPECT_TRUE(log.lines()[0].startsWith("SampleOwner: Couldn't find NIB file \"SampleOwner.nib\". ("));
+    EXPECT_TRUE(log.lines()[0].contains("SampleOwner.ui: "));
+}
+
 TEST_F(NibOwner, theLineNamesTheClassAndTheFileItAskedFor)
 {
     LostOwner owner;

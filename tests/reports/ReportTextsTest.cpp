@@ -81,6 +81,16 @@ TEST_P(ReportTexts, thereIsATextForEveryKey)
         EXPECT_NE(localized(key), key) << key.toStdString();
 }
 
+TEST_P(ReportTexts, noTableNeedsAnother)
+{
+    const TestBundle one("One.bundle");
+    const QString file = QString::fromLatin1(GetParam()) + QStringLiteral(".lproj/QBCrashReporter.qm");
+    one.writeFile(QStringLiteral("Contents/Resources/") + file, builtFile(file));
+    for (const QString &key : testTexts().keys())
+        EXPECT_NE(NSBundle::bundleWithPath(one.path())->localizedStringForKeyValueTable(key, {}, table), key)
+            << key.toStdString();
+}
+
 TEST_P(ReportTexts, everyTextOfTheInterfaceFileIsTranslated)
 {
     ASSERT_FALSE(ownTexts().isEmpty());

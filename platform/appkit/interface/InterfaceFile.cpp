@@ -10,29 +10,34 @@
 
 namespace {
 
-QWidget *refuse(const QString &file, const QString &reason)
+QWidget *refuse(const QString &file, const QString &reason, QString *failure)
 {
-    NSLog(QStringLiteral("lumaroo: %1: %2").arg(file, reason));
+    const QString line = QStringLiteral("lumaroo: %1: %2").arg(file, reason);
+    if (failure)
+        *failure = line;
+    else
+        NSLog(line);
     return nullptr;
 }
 
 } // namespace
 
-QWidget *loadInterfaceFile(const NSBundle *bundle, const QString &nibName, const InterfaceOwner &owner)
+QWidget *loadInterfaceFile(
+    const NSBundle *bundle, const QString &nibName, const InterfaceOwner &owner, QString *failure)
 {
     const QString name = nibName + QStringLiteral(".ui");
     if (!bundle)
-        return refuse(name, QStringLiteral("no bundle to load it from"));
+        return refuse(name, QStringLiteral("no bundle to load it from"), failure);
     QFile file(bundle->resourcePath() + u'/' + name);
     if (!file.open(QIODevice::ReadOnly))
-        return refuse(file.fileName(), file.errorString());
+        return refuse(file.fileName(), file.errorString(), failure);
     const QByteArray xml = file.readAll();
     QString toolkitsReason;
     QWidget *root = InterfaceLoader::loadInterface(
         translatedInterface(xml, bundle, nibName), name, bundle, owner.classes, &toolkitsReason);
     if (!root) {
         const QString problem = problemIn(xml);
-        return refuse(file.fileName(), problem.isEmpty() ? toolkitsReason : problem);
+        return refuse(file.fileName(), problem.isEmpty() ? toolkitsReason : problem, failure);
     }
     InterfaceConnections(name, bundle, owner).connectAll(root);
     return root;

@@ -18,6 +18,7 @@ class NSBundle;
 /// "false" stand for the booleans) and `bindingOnceOnly` where the stored value shows when loaded and is not followed;
 /// the property `enabledBinding`, with "!" before it where the opposite counts, does the same for enabled
 /// (NSUserDefaultsController). An unknown selector or class, an outlet of the wrong type, or a binding that cannot be,
-/// is one logged line with file and object. Returns null, with one logged line, when the file is missing or is no
-/// interface file.
-LM_APPKIT QWidget *loadInterfaceFile(const NSBundle *bundle, const QString &nibName, const InterfaceOwner &owner);
+/// is one logged line with file and object. Returns null when the file is missing or is no interface file, with one
+/// logged line, or with the line in `failure` where the caller gives a place for it.
+LM_APPKIT QWidget *loadInterfaceFile(
+    const NSBundle *bundle, const QString &nibName, const InterfaceOwner &owner, QString *failure = nullptr);

@@ -26,13 +26,14 @@ bool hasInterfaceFile(const NSBundle *bundle, const QString &nibName)
 
 } // namespace
 
-bool loadNibFile(const NSBundle *bundle, const QString &nibName, const NSExternalNameTable &externalNameTable)
+bool loadNibFile(
+    const NSBundle *bundle, const QString &nibName, const NSExternalNameTable &externalNameTable, QString *failure)
 {
     auto &owner = external<NSNibAwaking>(externalNameTable, NSNibOwner);
     auto &topLevelObjects = external<NSTopLevelObjects>(externalNameTable, NSNibTopLevelObjects);
     if (!hasInterfaceFile(bundle, nibName))
         return false;
-    std::unique_ptr<QObject> root(loadInterfaceFile(bundle, nibName, owner.interfaceOwner()));
+    std::unique_ptr<QObject> root(loadInterfaceFile(bundle, nibName, owner.interfaceOwner(), failure));
     if (!root)
         return false;
     topLevelObjects.push_back(std::move(root));

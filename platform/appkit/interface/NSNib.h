@@ -34,6 +34,7 @@ inline const QString NSNibTopLevelObjects = QStringLiteral("NSTopLevelObjects");
 /// its objects over to the table's list, and calls awakeFromNib.
 ///
 /// Returns false, and changes nothing, when there is no such file, which is not logged, or when it is no interface
-/// file, which is one line. An owner and a list that are not in the table are an NSException.
-LM_APPKIT bool loadNibFile(
-    const NSBundle *bundle, const QString &nibName, const NSExternalNameTable &externalNameTable);
+/// file, which is one line, logged or left in `failure`. An owner and a list that are not in the table are an
+/// NSException.
+LM_APPKIT bool loadNibFile(const NSBundle *bundle, const QString &nibName, const NSExternalNameTable &externalNameTable,
+    QString *failure = nullptr);

@@ -55,6 +55,10 @@ Meine Nachricht:
         <translation>System&amp;informationen</translation>
     </message>
     <message>
+        <source>CRASH_REPORT_CGI_URL</source>
+        <translation>https://@LUMAROO_WEB_SITE@/report</translation>
+    </message>
+    <message>
         <source>COULDNT_SEND_CRASH_REPORT_ERROR</source>
         <translation>Der Bericht konnte nicht gesendet werden. Er wird Ihnen wieder angeboten, wenn Sie die Einstellungen das nächste Mal öffnen.</translation>
     </message>
