@@ -36,3 +36,22 @@ QString lastCrashRecord(const QByteArray &log)
     QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::ConvertInitialBom);
     return decoder.decode(lastPiece(unmarked, QByteArray(crashRecordSeparator)));
 }
+
+QByteArray fromWholeCharacter(const QByteArray &endOfLog)
+{
+    constexpr qsizetype mostBytesInside = 3;
+    constexpr auto isInside = [](char byte) { return (quint8(byte) & 0xc0) == 0x80; };
+    qsizetype begin = 0;
+    while (begin < mostBytesInside && begin < endOfLog.size() && isInside(endOfLog[begin]))
+        ++begin;
+    return endOfLog.sliced(begin);
+}
+
+QString shortenedCrashRecord(const QString &record, qsizetype most)
+{
+    if (record.size() <= most)
+        return record;
+    const qsizetype length = record[most - 1].isHighSurrogate() ? most - 1 : most;
+    return record.first(length)
+        + QStringLiteral("\n*** %1 more characters are left out ***").arg(record.size() - length);
+}

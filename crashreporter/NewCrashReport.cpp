@@ -2,18 +2,17 @@
 
 #include "KTXConstants.h"
 #include "crashreporter/CrashRecord.h"
-#include "crashreporter/ProcessorSpeed.h"
+#include "crashreporter/QBAppBundle.h"
 #include "crashreporter/QBCheckForCrash.h"
 #include "crashreporter/QBCrashReporter.h"
 #include "crashreporter/QBSystemInformation.h"
+#include "crashreporter/ReportParts.h"
 #include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/crashlogs/CrashLogPlace.h"
 #include "platform/foundation/files/FileContent.h"
 #include "platform/foundation/files/NSDirectoryEnumerator.h"
 #include "platform/foundation/preferences/CFPreferences.h"
-#include "platform/foundation/preferences/NSUserDefaults.h"
 #include "platform/foundation/propertylists/CFTypeID.h"
-#include "platform/foundation/propertylists/Description.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -21,14 +20,9 @@
 
 namespace {
 
-constexpr qint64 largestLog = qint64(256) * 1024 * 1024;
-const QString hostIdentifier = QStringLiteral("com.apple.systempreferences");
-
-/// The pane runs in the settings application, whose crashes are looked for.
-bool isPlugIn()
-{
-    return NSBundle::mainBundle()->bundleIdentifier() == hostIdentifier;
-}
+constexpr qint64 mostOfALog = qint64(256) * 1024 * 1024; // bytes
+constexpr qsizetype mostOfARecord = qsizetype(1024) * 1024; // characters
+const QString namesThePane = QStringLiteral("PlugIn Identifier: ") + KTXLMAppID;
 
 QString logPath()
 {
@@ -65,26 +59,19 @@ QDateTime rememberedDate()
     return now;
 }
 
+/// Of a log that is too large, its end.
 QString recordOf(const QString &path)
 {
-    const auto log = contentOfFile(QFile::encodeName(path), largestLog);
-    return log ? lastCrashRecord(*log) : QStringLiteral("*** Couldn't read Report ***");
-}
-
-QString preferencesOfReportedBundle()
-{
-    const NSBundle *bundle = isPlugIn() ? NSBundle::bundleWithIdentifier(KTXLMAppID) : NSBundle::mainBundle();
-    const QString domain = bundle ? bundle->bundleIdentifier() : QString();
-    return domain.isEmpty() ? description(QVariant())
-                            : description(NSUserDefaults::standardUserDefaults()->persistentDomainForName(domain));
+    const auto log = lastBytesOfFile(QFile::encodeName(path), mostOfALog);
+    if (!log)
+        return QStringLiteral("*** Couldn't read Report ***");
+    return lastCrashRecord(log->size() < mostOfALog ? *log : fromWholeCharacter(*log));
 }
 
 QString reportWith(const QString &record)
 {
-    const QString machine = QBMachineName();
     return QStringLiteral("Model: %1\nCPU Speed: %2 GHz\n%3\n\nPreferences:\n%4")
-        .arg(machine.isNull() ? description(QVariant()) : machine, processorSpeed(QBCountCores(), QBClockSpeed()),
-            record, preferencesOfReportedBundle());
+        .arg(reportedMachine(), reportedProcessorSpeed(), record, reportedPreferences(QBReportedBundle()));
 }
 
 } // namespace
@@ -96,8 +83,9 @@ std::optional<QString> newCrashReport()
     const QDateTime remembered = rememberedDate();
     if (!date || remembered >= *date)
         return std::nullopt;
-    const QString report = reportWith(recordOf(path));
-    if (isPlugIn() && !report.contains(QStringLiteral("PlugIn Identifier: ") + KTXLMAppID))
+    const QString record = recordOf(path);
+    const QString report = reportWith(shortenedCrashRecord(record, mostOfARecord));
+    if (QBRunsInSettings() && !record.contains(namesThePane) && !report.contains(namesThePane))
         return std::nullopt;
     return report;
 }

@@ -28,7 +28,7 @@ QString QBCrashReporterFindTenFiveCrashReportPath(const QString &applicationName
     QByteArray newest;
     std::chrono::nanoseconds newestDate{};
     while (entries.next()) {
-        const bool isOfApplication = entries.path().startsWith(prefix);
+        const bool isOfApplication = entries.pathStartsWith(prefix);
         if (!isOfApplication)
             entries.skipDescendants(); // what lies below begins in the same way
         if (!isOfApplication || !entries.path().endsWith(".crash") || !entries.path().isValidUtf8())

@@ -5,13 +5,13 @@
 #include "KTXConstants.h"
 #include "crashreporter/QBAppBundle.h"
 #include "crashreporter/QBSystemInformation.h"
+#include "crashreporter/ReportParts.h"
 #include "platform/appkit/NSWindow.h"
 #include "platform/appkit/controls/Controls.h"
 #include "platform/foundation/accounts/ABAddressBook.h"
 #include "platform/foundation/accounts/NSFullUserName.h"
 #include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/bundles/NSFileManager.h"
-#include "platform/foundation/preferences/NSUserDefaults.h"
 #include "platform/foundation/propertylists/Description.h"
 
 namespace {
@@ -32,29 +32,14 @@ QString emailAddress()
     return primary.isEmpty() ? QString() : emails->valueAtIndex(emails->indexForIdentifier(primary));
 }
 
-QString coreCount()
-{
-    const quint32 cores = QBCountCores();
-    return cores == 1 ? QString() : QStringLiteral("%1x ").arg(qint32(cores));
-}
-
-QString clockInGigahertz()
-{
-    const float gigahertz = float(QBClockSpeed()) / 1000.0F;
-    return QString::number(double(gigahertz), 'f', 2);
-}
-
 QString systemInformation(const NSBundle &appBundle)
 {
     // The version is the main bundle's, which is not the pane's.
     const QVariant version = NSBundle::mainBundle()->infoDictionary().value(QStringLiteral("CFBundleVersion"));
-    const QVariantMap preferences =
-        NSUserDefaults::standardUserDefaults()->persistentDomainForName(appBundle.bundleIdentifier());
-    const QString machine = QBMachineName();
     return QStringLiteral("Application: ") + nameOf(appBundle) + u' ' + description(version)
-        + QStringLiteral("\nModel: ") + (machine.isNull() ? description({}) : machine) + QStringLiteral("\nCPU Speed: ")
-        + coreCount() + clockInGigahertz() + QStringLiteral(" GHz\nSystem Version: ") + QBSystemVersionString()
-        + QStringLiteral("\n\nPreferences:\n") + description(preferences);
+        + QStringLiteral("\nModel: ") + reportedMachine() + QStringLiteral("\nCPU Speed: ") + reportedProcessorSpeed()
+        + QStringLiteral(" GHz\nSystem Version: ") + QBSystemVersionString() + QStringLiteral("\n\nPreferences:\n")
+        + reportedPreferences(&appBundle);
 }
 
 } // namespace

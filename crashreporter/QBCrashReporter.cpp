@@ -117,8 +117,11 @@ bool QBCrashReporter::eventFilter(QObject *, QEvent *event)
 
 void QBCrashReporter::storeDateOfReport() const
 {
-    CFPreferencesSetAppValue(QBCrashReporterLastCrashReportDate, QDateTime::currentDateTimeUtc(), appID_);
-    CFPreferencesAppSynchronize(appID_);
+    // Whatever becomes of it, the window is to close.
+    runAtBoundary("storing the date of a crash report", [this] {
+        CFPreferencesSetAppValue(QBCrashReporterLastCrashReportDate, QDateTime::currentDateTimeUtc(), appID_);
+        CFPreferencesAppSynchronize(appID_);
+    });
 }
 
 void QBCrashReporter::connectionDidFinishLoading(NSURLConnection *)
@@ -149,7 +152,7 @@ void QBCrashReporter::showFinishedMessage(const NSError *error)
         const QString title = feedbackMode_ ? QStringLiteral("COULDNT_SEND_FEEDBACK_ERROR")
                                             : QStringLiteral("COULDNT_SEND_CRASH_REPORT_ERROR");
         NSRunAlertPanel(localized(title), error->localizedDescription,
-            localized(QStringLiteral("COULDNT_SEND_CRASH_REPORT_ERROR_OK")), {}, {});
+            localized(QStringLiteral("COULDNT_SEND_CRASH_REPORT_ERROR_OK")), {}, {}, reportWindow_.get());
     }
     setHidden(reportWindow_, true);
     letGo(this);

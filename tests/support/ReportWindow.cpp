@@ -20,13 +20,14 @@ QByteArray builtFile(const QString &inside)
     return file.readAll();
 }
 
-QDialog *shownReportWindow()
+QList<QDialog *> shownReportWindows()
 {
+    QList<QDialog *> windows;
     for (QWidget *window : QApplication::topLevelWidgets()) {
         if (window->objectName() == u"reportWindow" && window->isVisible())
-            return qobject_cast<QDialog *>(window);
+            windows += qobject_cast<QDialog *>(window);
     }
-    return nullptr;
+    return windows;
 }
 
 } // namespace
@@ -83,9 +84,14 @@ void ReportWindow::removeInterfaceFile() const
 
 QBCrashReporter *ReportWindow::opened(QBCrashReporter *(*open)(const QString &), const QString &report)
 {
+    const QList<QDialog *> before = shownReportWindows();
     reporter = open(report);
     opened_ += reporter;
-    window_ = shownReportWindow();
+    window_ = nullptr;
+    for (QDialog *window : shownReportWindows()) {
+        if (!before.contains(window))
+            window_ = window;
+    }
     return reporter;
 }
 

@@ -86,6 +86,8 @@ TEST(ProcessorSpeed, isInGigahertzWithTheNumberOfCores)
     EXPECT_EQ(processorSpeed(1, 2400), "2.40");
     EXPECT_EQ(processorSpeed(2, 2400), "2x 2.40");
     EXPECT_EQ(processorSpeed(0, 0), "0x 0.00");
+    EXPECT_EQ(processorSpeed(quint32(-2), 0), "-2x 0.00") << "the count is printed as a signed number";
+    EXPECT_EQ(processorSpeed(1, quint32(-1894)), "4294965.50") << "the clock as one without a sign";
     EXPECT_EQ(processorSpeed(1, 1065), "1.07") << "in single precision";
 }
 
@@ -189,13 +191,29 @@ TEST_F(CrashCheck, takesAFolderInTheLogsPlaceForOneThatCannotBeRead)
     EXPECT_THAT(report().toStdString(), HasSubstr("GHz\n*** Couldn't read Report ***\n\nPreferences:\n"));
 }
 
-TEST_F(CrashCheck, takesWhatIsTooLargeForOneThatCannotBeRead)
+TEST_F(CrashCheck, findsTheRecordAtTheEndOfALogThatIsTooLarge)
 {
-    CFPreferencesSetAppValue("note", "PlugIn Identifier: com.quorvane.Lumaroo", KTXLMAppID);
+    const QString log = oneFile();
     putNewLog("");
-    ASSERT_EQ(::truncate(QFile::encodeName(oneFile()).constData(), off_t(257) * 1024 * 1024), 0);
-    setDate(oneFile(), 2000);
-    EXPECT_THAT(report().toStdString(), HasSubstr("\n*** Couldn't read Report ***\n"));
+    ASSERT_EQ(::truncate(QFile::encodeName(log).constData(), off_t(300) * 1024 * 1024), 0);
+    QFile file(log);
+    ASSERT_TRUE(file.open(QIODevice::Append));
+    file.write(separator + ofThePane + "\xc3\xa4");
+    file.close();
+    setDate(log, 2000);
+    EXPECT_THAT(report().toStdString(), HasSubstr(" GHz\n" + ofThePane.toStdString() + "\xc3\xa4\n\nPreferences:"));
+}
+
+TEST_F(CrashCheck, showsOfALongRecordItsBeginningAndSaysSo)
+{
+    const qsizetype most = qsizetype(1024) * 1024;
+    putNewLog(ofThePane + QByteArray(most, 'x'));
+    EXPECT_THAT(report().toStdString(),
+        HasSubstr(
+            "xxx\n*** " + std::to_string(ofThePane.size()) + " more characters are left out ***\n\nPreferences:"));
+    EXPECT_LT(report().size(), most + 1000);
+    putNewLog(QByteArray(most, 'x') + ofThePane);
+    EXPECT_TRUE(isOffered()) << "it names the pane where it is not shown";
 }
 
 TEST_F(CrashCheck, findsTheRecordInALogOf200Mebibytes)

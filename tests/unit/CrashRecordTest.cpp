@@ -94,3 +94,21 @@ TEST(CrashRecord, isFoundInALogOf200Mebibytes)
     EXPECT_EQ(lastCrashRecord(record.repeated(200) + "last"), "last");
     EXPECT_EQ(lastCrashRecord("\xff" + record.repeated(200) + "last"), "last");
 }
+
+TEST(CrashRecord, ofALogsEndBeginsWithAWholeCharacter)
+{
+    const QByteArray text = "\xf0\x9f\x98\x80 and \xc3\xa4";
+    for (qsizetype missing = 1; missing <= 4; ++missing)
+        EXPECT_EQ(fromWholeCharacter(text.sliced(missing)), " and \xc3\xa4");
+    EXPECT_EQ(fromWholeCharacter(text), text);
+    EXPECT_EQ(fromWholeCharacter(""), "");
+    EXPECT_EQ(fromWholeCharacter("\xa4\xa4\xa4\xa4"), "\xa4") << "no character is longer";
+}
+
+TEST(CrashRecord, isShortenedWithALineThatSaysSo)
+{
+    EXPECT_EQ(shortenedCrashRecord("12345", 5), "12345");
+    EXPECT_EQ(shortenedCrashRecord("12345678", 5), "12345\n*** 3 more characters are left out ***");
+    EXPECT_EQ(
+        shortenedCrashRecord(QStringLiteral("1234\U0001F600"), 5), "1234\n*** 2 more characters are left out ***");
+}

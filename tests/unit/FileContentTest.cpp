@@ -22,7 +22,7 @@ protected:
         file.write(content);
     }
     QByteArray path() const { return QFile::encodeName(folder_.filePath("file")); }
-    std::optional<QByteArray> content(qint64 most = 1000) const { return contentOfFile(path(), most); }
+    std::optional<QByteArray> content(qint64 most = 1000) const { return lastBytesOfFile(path(), most); }
     /// Changes the file each time that some of it has been read.
     void changeWhileReading(const std::function<void()> &change)
     {
@@ -51,15 +51,16 @@ TEST_F(FileContent, isWhatItHolds)
 TEST_F(FileContent, isNothingOfWhatIsNoFile)
 {
     EXPECT_EQ(content(), std::nullopt);
-    EXPECT_EQ(contentOfFile("/", 1000), std::nullopt);
-    EXPECT_EQ(contentOfFile("/dev/zero", 1000), std::nullopt);
+    EXPECT_EQ(lastBytesOfFile("/", 1000), std::nullopt);
+    EXPECT_EQ(lastBytesOfFile("/dev/zero", 1000), std::nullopt);
 }
 
-TEST_F(FileContent, isNothingBeyondTheBound)
+TEST_F(FileContent, isItsEndWhereItIsLargerThanTheBound)
 {
     put("1234");
     EXPECT_EQ(content(4), QByteArray("1234"));
-    EXPECT_EQ(content(3), std::nullopt);
+    EXPECT_EQ(content(3), QByteArray("234"));
+    EXPECT_EQ(content(0), QByteArray(""));
 }
 
 TEST_F(FileContent, isWhatItHeldAtFirstWhereItGrowsWithoutEnd)

@@ -25,6 +25,8 @@ public:
     bool next();
     /// Where the entry lies, beginning in the folder; valid until next().
     const QByteArray &path() const;
+    /// The same as path().startsWith(), in a fraction of its time: for those that look for few of many entries.
+    bool pathStartsWith(const QByteArray &prefix) const;
     std::optional<std::chrono::nanoseconds> modificationDate() const;
     /// Does not go into the entry, should it be a folder.
     void skipDescendants();

@@ -33,7 +33,7 @@ struct Level
 
 bool isSelfOrParent(const char *name)
 {
-    return qstrcmp(name, ".") == 0 || qstrcmp(name, "..") == 0;
+    return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
 }
 
 bool isFolder(int parent, const dirent &entry)
@@ -57,9 +57,11 @@ public:
     void enter(int descriptor, qsizetype prefix);
     void enterPending();
     bool next();
+    const QByteArray &pathOfEntry();
 
     std::vector<Level> levels;
-    QByteArray path;
+    QByteArray path; // of the entry once that has been asked for; else it begins with the folder's
+    bool isPathOfEntry = false;
     const dirent *entry = nullptr;
     bool isToBeEntered = false;
 };
@@ -77,6 +79,7 @@ void NSDirectoryEnumerator::Private::enterPending()
     const int parent = ::dirfd(levels.back().folder.get());
     const int descriptor =
         ::openat(parent, entry->d_name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK);
+    pathOfEntry();
     path += '/';
     enter(descriptor, path.size());
 }
@@ -90,13 +93,21 @@ bool NSDirectoryEnumerator::Private::next()
         if (!entry) {
             levels.pop_back();
         } else if (!isSelfOrParent(entry->d_name)) {
-            path.truncate(level.prefix);
-            path += entry->d_name;
+            isPathOfEntry = false;
             isToBeEntered = isFolder(::dirfd(level.folder.get()), *entry);
             return true;
         }
     }
     return false;
+}
+
+const QByteArray &NSDirectoryEnumerator::Private::pathOfEntry()
+{
+    if (!std::exchange(isPathOfEntry, true)) {
+        path.truncate(levels.back().prefix);
+        path += entry->d_name;
+    }
+    return path;
 }
 
 NSDirectoryEnumerator::NSDirectoryEnumerator(const QByteArray &folder) : d(std::make_unique<Private>())
@@ -113,7 +124,14 @@ bool NSDirectoryEnumerator::next()
 
 const QByteArray &NSDirectoryEnumerator::path() const
 {
-    return d->path;
+    return d->pathOfEntry();
+}
+
+bool NSDirectoryEnumerator::pathStartsWith(const QByteArray &prefix) const
+{
+    const bool isInFolderItself = d->levels.back().prefix == 0;
+    return isInFolderItself ? qstrncmp(d->entry->d_name, prefix.constData(), size_t(prefix.size())) == 0
+                            : path().startsWith(prefix);
 }
 
 Date NSDirectoryEnumerator::modificationDate() const
