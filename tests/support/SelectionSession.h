@@ -6,7 +6,7 @@
 #include "KeyPress.h"
 #include "WindowOfAnotherProgram.h"
 
-#include <vector>
+#include <deque>
 
 /// The real agent beside four windows, three in a row and one below the first, which has the focus; and a user at the
 /// keyboard. The titles tell where each stands: "left", "middle", "right", "below".
@@ -38,5 +38,5 @@ public:
     AgentProgram agent;
 
 private:
-    std::vector<WindowOfAnotherProgram> windows_;
+    std::deque<WindowOfAnotherProgram> windows_;
 };
