@@ -7,9 +7,7 @@
 #include "WebServer.h"
 
 #include "KTXConstants.h"
-#include "platform/appkit/controls/FloatSlider.h"
 #include "platform/foundation/bundles/NSBundle.h"
-#include "platform/foundation/preferences/CFPreferences.h"
 #include "platform/foundation/preferences/NSUserDefaults.h"
 #include "platform/foundation/system/SystemCalls.h"
 #include "updater/SUUpdater.h"
@@ -179,57 +177,6 @@ TEST_F(PaneUpdates, thatAreAutomaticAreStoredAndAnnounced)
         EXPECT_EQ(store().value(SUEnableAutomaticChecks).typeId(), QMetaType::Bool);
         EXPECT_THAT(bus().notifications(), ElementsAre(changed));
         bus().clear();
-    }
-}
-
-TEST_F(PaneUpdates, hidingTheNotesWritesTheBuildsKeyAndNeitherFlushesNorTells)
-{
-    changeInfo({{"CFBundleVersion", "57"}});
-    showPane();
-    bus().clear();
-    const QVariantMap before = store().domain();
-    performClick(control("hideBetaNotesButton"));
-    EXPECT_EQ(CFPreferencesCopyAppValue("hideBetaNotes57", KTXLMAppID), QVariant(true));
-    EXPECT_EQ(store().domain(), before);
-    EXPECT_EQ(bus().names(), QStringList());
-    performClick(control("hideBetaNotesButton"));
-    EXPECT_EQ(CFPreferencesCopyAppValue("hideBetaNotes57", KTXLMAppID), QVariant(false));
-    EXPECT_EQ(store().domain(), before);
-}
-
-TEST_F(PaneUpdates, hiddenNotesReachTheDiskWithASlidersWholeDomain)
-{
-    changeInfo({{"CFBundleVersion", "57"}});
-    showPane();
-    performClick(control("hideBetaNotesButton"));
-    bus().clear();
-    control<FloatSlider>("repeatDelaySlider")->chooseValue(1.25);
-    EXPECT_EQ(store().value("hideBetaNotes57"), QVariant(true));
-    EXPECT_EQ(store().value(KTXInitialDelay), QVariant(1.25f));
-    EXPECT_EQ(bus().names(), QStringList()) << "a slider tells nobody";
-}
-
-TEST_F(PaneUpdates, hiddenNotesReachTheDiskWithTheNextFlush)
-{
-    changeInfo({{"CFBundleVersion", "57"}});
-    showPane();
-    performClick(control("hideBetaNotesButton"));
-    pane().didUnselect();
-    EXPECT_EQ(store().value("hideBetaNotes57"), QVariant(true));
-}
-
-TEST_F(PaneUpdates, theBuildsKeyGoesByTheVersionsLeadingDigits)
-{
-    const QList<std::pair<QString, QString>> keys{
-        {"12b", "hideBetaNotes12"}, {"b12", "hideBetaNotes0"}, {"1.2.3", "hideBetaNotes1"}, {"", "hideBetaNotes0"}};
-    for (const auto &[version, key] : keys) {
-        store().clear();
-        TestBundle other("Lumaroo.prefPane");
-        other.writeInfo({{"CFBundleVersion", version}});
-        RecordingPane hiding(&calls);
-        ASSERT_TRUE(hiding.initWithBundle(NSBundle::bundleWithPath(other.path())));
-        hiding.hideBetaNotes(control("hideBetaNotesButton"));
-        EXPECT_EQ(CFPreferencesCopyAppValue(key, KTXLMAppID), QVariant(false)) << qPrintable(version);
     }
 }
 

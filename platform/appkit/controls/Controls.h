@@ -39,8 +39,8 @@ LM_APPKIT void setEnabled(QObject *control, bool enabled);
 LM_APPKIT bool isHidden(const QObject *view);
 LM_APPKIT void setHidden(QObject *view, bool hidden);
 
-/// Text and background colours; where one is named the other is set to go with it, so that both themes read well. A text
-/// colour that does not read on its control is lightened or darkened until it does.
+/// Text and background colours; where one is named the other is set to go with it, so that both themes read well. A
+/// text colour that does not read on its control is lightened or darkened until it does.
 LM_APPKIT void setTextColor(QObject *control, const QColor &color);
 LM_APPKIT void setBackgroundColor(QObject *control, const QColor &color);
 
