@@ -14,8 +14,7 @@ class AgentHotKeys;
 /// What the keyboard does to begin a gesture and during one. Main thread; every event comes with the display's own time
 /// of it, in milliseconds. At rest nothing but a modifier key wakes it up.
 ///
-/// An action is the name under which its key is stored. Presses come as they happen, one each: while another gesture
-/// than the one that they began is on, too.
+/// An action is the name under which its key is stored.
 class GestureKeys : public QObject
 {
     Q_OBJECT
@@ -61,7 +60,8 @@ Q_SIGNALS:
     /// At least one of the activation modifiers is up. Told once for beginHeld(), also where another program has the
     /// keyboard; where that holds up all keys, once it lets them go.
     void modifiersReleased(quint32 time);
-    /// All activation modifiers, and nothing else, have been pressed and released within 300 ms.
+    /// All activation modifiers, and nothing else, have been pressed and released within 300 ms; but not within 10 ms,
+    /// in which only programs do.
     void singlePressed(quint32 time);
     /// They have been pressed for the second time within 400 ms; the first time told singlePressed() as well.
     void doublePressed(quint32 time);
