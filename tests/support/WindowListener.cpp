@@ -16,6 +16,12 @@ QList<QRect> WindowListener::places()
     return std::exchange(places_, {});
 }
 
+int WindowListener::appearances()
+{
+    takeEvents();
+    return std::exchange(appearances_, 0);
+}
+
 int WindowListener::disappearances()
 {
     takeEvents();
@@ -32,6 +38,8 @@ void WindowListener::takeEvents()
 void WindowListener::take(const xcb_generic_event_t *event)
 {
     const quint8 type = event->response_type & eventTypeMask;
+    if (type == XCB_MAP_NOTIFY)
+        ++appearances_;
     if (type == XCB_UNMAP_NOTIFY)
         ++disappearances_;
     if (type != XCB_CONFIGURE_NOTIFY)

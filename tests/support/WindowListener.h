@@ -14,6 +14,8 @@ public:
 
     /// What windows that are seen have been given since the last call, in order; twice the same place counts once.
     QList<QRect> places();
+    /// How often one has come onto the screen since the last call.
+    int appearances();
     /// How often one has gone off the screen since the last call.
     int disappearances();
 
@@ -23,5 +25,5 @@ private:
 
     XConnection connection_;
     QList<QRect> places_;
-    int disappearances_ = 0;
+    int appearances_ = 0, disappearances_ = 0;
 };
