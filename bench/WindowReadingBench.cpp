@@ -25,11 +25,15 @@ public:
         const xcb_screen_t *screen = xcb_setup_roots_iterator(xcb_get_setup(connection_.get())).data;
         for (; windows_ < count; ++windows_) {
             const xcb_window_t window = xcb_generate_id(connection_.get());
-            const auto x = qint16(windows_ % 40 * 25), y = qint16(windows_ / 40 * 30);
-            xcb_create_window(connection_.get(), XCB_COPY_FROM_PARENT, window, screen->root, x, y, 200, 150, 0,
+            const auto x = qint16(windows_ % 40 * 30), y = qint16(windows_ / 40 * 30);
+            xcb_create_window(connection_.get(), XCB_COPY_FROM_PARENT, window, screen->root, x, y, 20, 20, 0,
                 XCB_WINDOW_CLASS_INPUT_OUTPUT, screen->root_visual, 0, nullptr);
             xcb_change_property(
                 connection_.get(), XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8, 6, "Window");
+            // The manager need not look for a place.
+            constexpr quint32 userChosePlace[18]{1};
+            xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_NORMAL_HINTS,
+                XCB_ATOM_WM_SIZE_HINTS, 32, std::size(userChosePlace), userChosePlace);
             xcb_map_window(connection_.get(), window);
         }
         wait();
@@ -63,7 +67,7 @@ bool managesAll(WindowSystem &system, int count)
         const auto world = system.read({}, &failure);
         if (world && world->windows.size() == count)
             return true;
-        poll(nullptr, 0, 100);
+        poll(nullptr, 0, 500);
     }
     return false;
 }

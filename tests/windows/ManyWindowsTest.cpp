@@ -11,18 +11,26 @@ using ManyWindows = WindowsOnDesktop;
 
 constexpr int count = 1000;
 
+/// Small and apart, so that managers and server have little to draw.
+QRect placeOf(int number)
+{
+    return {number % 40 * 30, number / 40 * 30, 20, 20};
+}
+
 } // namespace
 
 TEST_F(ManyWindows, areAllReadInTheirOrder)
 {
     std::vector<std::unique_ptr<WindowOfAnotherProgram>> windows;
-    windows.push_back(std::make_unique<WindowOfAnotherProgram>("0", QRect(0, 0, 200, 150)));
+    windows.push_back(std::make_unique<WindowOfAnotherProgram>("0", placeOf(0)));
     for (int number = 1; number < count; ++number) {
-        windows.push_back(std::make_unique<WindowOfAnotherProgram>(
-            *windows.front(), QString::number(number), QRect(number % 40 * 25, number / 40 * 30, 200, 150)));
+        windows.push_back(
+            std::make_unique<WindowOfAnotherProgram>(*windows.front(), QString::number(number), placeOf(number)));
     }
-    for (const auto &window : windows)
+    for (const auto &window : windows) {
+        window->setUndecorated();
         window->map();
+    }
     ASSERT_TRUE(waitUntil([] { return listedWindows().size() == count && stackedWindows().size() == count; }, 200000));
     const WindowWorld now = world();
     ASSERT_EQ(now.windows.size(), count);

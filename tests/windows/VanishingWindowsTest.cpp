@@ -89,6 +89,7 @@ TEST_F(VanishingWindows, areLeftOutWhereTheListStillNamesThem)
     setOnRoot("_NET_CLIENT_LIST", "WINDOW", {staying.id(), gone});
     setOnRoot("_NET_CLIENT_LIST_STACKING", "WINDOW", {staying.id(), gone});
     const WindowWorld now = world();
+    setOnRoot("_NET_CLIENT_LIST", "WINDOW", {staying.id()});
     ASSERT_EQ(now.windows.size(), 1);
     EXPECT_EQ(now.windows.first().windowID, staying.id());
 }

@@ -65,6 +65,7 @@ TEST_F(UnmanagedWindows, areOrderedByTheServerWhereTheManagerTellsNoStack)
     for (const WindowDescription &window : world().windows)
         names += window.windowName;
     EXPECT_EQ(names, QStringList({"Upper", "Middle", "Lower"}));
+    removeFromRoot("_NET_CLIENT_LIST");
 }
 
 TEST_F(UnmanagedWindows, areEachReadOnceAndTheRootNever)
