@@ -26,7 +26,7 @@ QByteArrayView withoutPartAtEnd(QByteArrayView bytes)
     if (continuations == bytes.size())
         return bytes;
     const uchar lead = fromEnd(continuations);
-    const qsizetype needed = lead >= 0xf0 ? 3 : lead >= 0xe0 ? 2 : lead >= 0xc0 ? 1 : 0;
+    const qsizetype needed = lead >= 0xf8 ? 0 : lead >= 0xf0 ? 3 : lead >= 0xe0 ? 2 : lead >= 0xc0 ? 1 : 0;
     return needed > continuations ? bytes.chopped(continuations + 1) : bytes;
 }
 
@@ -46,7 +46,9 @@ QString inOneLine(QString text)
 /// Many programs write their own encoding into what is to be Latin-1, and that is mostly UTF-8.
 QString decoded(QByteArrayView bytes)
 {
-    const QByteArrayView whole = withoutPartAtEnd(bytes);
+    // Only what has been cut may end within a character.
+    const bool isCut = bytes.size() >= longestTitle;
+    const QByteArrayView whole = isCut ? withoutPartAtEnd(bytes) : bytes;
     return whole.isValidUtf8() ? QString::fromUtf8(whole) : QString::fromLatin1(bytes);
 }
 

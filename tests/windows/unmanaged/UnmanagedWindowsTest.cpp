@@ -123,8 +123,8 @@ TEST_F(UnmanagedWindows, haveTitlesWithinBounds)
     EXPECT_EQ(title(), "");
     window.setText("WM_NAME", "STRING", "Caf\xe9");
     EXPECT_EQ(title(), QString::fromUtf8("Caf\xc3\xa9"));
-    window.setText("_NET_WM_NAME", "STRING", "of the wrong type");
-    EXPECT_EQ(title(), QString::fromUtf8("Caf\xc3\xa9"));
+    window.setBytes("_NET_WM_NAME", "UTF8_STRING", 32, QByteArray(64, 'x'));
+    EXPECT_EQ(title(), QString::fromUtf8("Caf\xc3\xa9")) << "of the wrong form";
     window.setText("_NET_WM_NAME", "UTF8_STRING", "two\nlines\tand\x1b more");
     EXPECT_EQ(title(), "two lines and  more");
     window.setText("_NET_WM_NAME", "UTF8_STRING", "\xff\xfe\x80");
