@@ -193,14 +193,14 @@ TEST_F(CrashCheck, takesAFolderInTheLogsPlaceForOneThatCannotBeRead)
 
 TEST_F(CrashCheck, findsTheRecordAtTheEndOfALogThatIsTooLarge)
 {
-    const QString log = oneFile();
+    const QString path = oneFile();
     putNewLog("");
-    ASSERT_EQ(::truncate(QFile::encodeName(log).constData(), off_t(300) * 1024 * 1024), 0);
-    QFile file(log);
+    ASSERT_EQ(::truncate(QFile::encodeName(path).constData(), off_t(300) * 1024 * 1024), 0);
+    QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::Append));
     file.write(separator + ofThePane + "\xc3\xa4");
     file.close();
-    setDate(log, 2000);
+    setDate(path, 2000);
     EXPECT_THAT(report().toStdString(), HasSubstr(" GHz\n" + ofThePane.toStdString() + "\xc3\xa4\n\nPreferences:"));
 }
 
