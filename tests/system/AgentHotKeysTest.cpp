@@ -175,19 +175,6 @@ TEST_F(AgentHotKeys, heldByAnotherProgramAreRefusedWithTheirNameAndTheOthersWork
     EXPECT_TRUE(says(line)) << agent->errors().toStdString();
 }
 
-TEST_F(AgentHotKeys, ofMovementThatAnotherProgramHoldsShowTheModifiersThatAreFree)
-{
-    start();
-    EXPECT_EQ(runningAgent().value("freeModifiers"), QJsonValue(QJsonArray()));
-    store({{KTXFirstLaunch, true}, {KTXUpPref, key(11)}});
-    ASSERT_TRUE(other.grabKey(KEY_B, controlAndAlt));
-    ASSERT_TRUE(other.grabKey(KEY_B, XCB_MOD_MASK_4 | XCB_MOD_MASK_CONTROL));
-    change({{KTXUpPref, key(11)}});
-    EXPECT_EQ(refusal(KTXUpPref), heldElsewhere);
-    const QJsonValue best = runningAgent().value("freeModifiers").toArray().first();
-    EXPECT_EQ(best, qint64(KTXCommandModifier | KTXControlModifier | KTXOptionModifier));
-}
-
 TEST_F(AgentHotKeys, ofTwoActionsWithOneKeyAreTheFirstOnes)
 {
     store({{KTXFirstLaunch, true}, {KTXScreenshotPref, key(126)}});
