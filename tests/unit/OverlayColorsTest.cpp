@@ -19,7 +19,7 @@ double luminance(quint32 color)
 
 double contrastOf(quint32 one, quint32 other)
 {
-    const auto [less, more] = std::minmax(luminance(one), luminance(other));
+    const auto [less, more] = std::minmax({luminance(one), luminance(other)});
     return (more + 0.05) / (less + 0.05);
 }
 
