@@ -50,6 +50,9 @@ protected:
             selection.move(key.movement, MovementKind::Press, *world);
             pressKey(key.evdevCode);
         }
+        // Who lets go before the first press is handled means that one alone.
+        presses_ += pressesOfAGesture;
+        EXPECT_TRUE(waitUntil([this] { return agent.lines().filter("pressed").size() == presses_; }));
         releaseModifiers();
         return selection.selected();
     }
@@ -57,6 +60,7 @@ protected:
 private:
     const std::unique_ptr<WindowSystem> system_ = windowSystem();
     std::mt19937 random_{20261122};
+    qsizetype presses_ = 0;
 };
 
 } // namespace
