@@ -24,8 +24,8 @@
         <translation>Halten Sie die Zusatztasten und drücken Sie eine Bewegungstaste. Lumaroo markiert ein Fenster; jeder weitere Druck bewegt die Markierung zum nächsten Fenster.</translation>
     </message>
     <message>
-        <source>Then press an action key to act on the marked window.</source>
-        <translation>Drücken Sie dann eine Aktionstaste, um mit dem markierten Fenster etwas zu tun.</translation>
+        <source>Let go of the modifier keys, and you are in the marked window.</source>
+        <translation>Lassen Sie die Zusatztasten los, und Sie sind im markierten Fenster.</translation>
     </message>
     <message>
         <source>You see and choose all these keys on the page “Keys”.</source>
