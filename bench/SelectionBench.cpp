@@ -156,7 +156,7 @@ public:
     explicit BareSelector(const QRect &rect)
     {
         const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection_.get())).data->root;
-        xcb_grab_key(connection_.get(), false, root, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1, KEY_F9 + evdevToX11,
+        xcb_grab_key(connection_.get(), false, root, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1, KEY_B + evdevToX11,
             XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
         fromServer(xcb_get_input_focus_reply(connection_.get(), xcb_get_input_focus(connection_.get()), nullptr));
         thread_ = std::thread([this, rect] {
@@ -213,7 +213,7 @@ bool measureRound(const SeenDisplay &display, Windows &windows, BareSelector &ba
     const quint32 ground = display.pixel(windows.rectOf(1).x() + 3, windows.rectOf(1).center().y());
     for (const int key : modifiers)
         keyDown(key);
-    times.floor.push_back(timeUntilMarked(display, windows.rectOf(1), floorColor, KEY_F9));
+    times.floor.push_back(timeUntilMarked(display, windows.rectOf(1), floorColor, KEY_B));
     bare.hide();
     if (!waitForMark(display, windows.rectOf(1), ground))
         return false;
