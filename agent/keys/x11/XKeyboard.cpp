@@ -1,17 +1,13 @@
 #include "agent/keys/x11/XKeyboard.h"
 
 #include "platform/foundation/hotkeys/HotKeys.h"
+#include "platform/foundation/keyboard/KeyboardEvents.h"
 
 #include <algorithm>
 #include <xcb/xinput.h>
 
 namespace {
 
-constexpr quint16 keyboardEvents =
-    XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY | XCB_XKB_EVENT_TYPE_STATE_NOTIFY;
-constexpr quint16 mapParts = XCB_XKB_MAP_PART_KEY_SYMS | XCB_XKB_MAP_PART_MODIFIER_MAP;
-// The first in which a grab does not hide raw events.
-constexpr quint16 inputMajor = 2, inputMinor = 1;
 constexpr int modifierCount = 8;
 constexpr quint16 buttons = XCB_BUTTON_MASK_1 | XCB_BUTTON_MASK_2 | XCB_BUTTON_MASK_3;
 
@@ -38,43 +34,14 @@ bool XKeyboard::open()
 bool XKeyboard::start()
 {
     root_ = xcb_setup_roots_iterator(xcb_get_setup(connection_.get())).data->root;
-    if (!startKeyboardEvents() || !startInputEvents() || !readMapping())
+    // What is latched or locked is not held.
+    const auto codes = startKeyboardEvents(connection_.get(), XCB_XKB_STATE_PART_MODIFIER_BASE);
+    if (!codes || !readMapping())
         return false;
+    firstKeyboardEvent_ = codes->firstKeyboardEvent;
+    inputExtension_ = codes->inputExtension;
     watch({});
     return true;
-}
-
-bool XKeyboard::startKeyboardEvents()
-{
-    xcb_connection_t *const server = connection_.get();
-    const auto use = fromServer(xcb_xkb_use_extension_reply(
-        server, xcb_xkb_use_extension(server, XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION), nullptr));
-    if (!use || !use->supported)
-        return false;
-    firstKeyboardEvent_ = xcb_get_extension_data(server, &xcb_xkb_id)->first_event;
-    constexpr quint32 detectableRepeat = XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT;
-    const auto flags =
-        xcb_xkb_per_client_flags(server, XCB_XKB_ID_USE_CORE_KBD, detectableRepeat, detectableRepeat, 0, 0, 0);
-    xcb_xkb_select_events_details_t details{};
-    details.affectNewKeyboard = details.newKeyboardDetails = XCB_XKB_NKN_DETAIL_KEYCODES | XCB_XKB_NKN_DETAIL_DEVICE_ID;
-    // What is latched or locked is not held.
-    details.affectState = details.stateDetails = XCB_XKB_STATE_PART_MODIFIER_BASE;
-    const auto select = xcb_xkb_select_events_aux_checked(
-        server, XCB_XKB_ID_USE_CORE_KBD, keyboardEvents, 0, 0, mapParts, mapParts, &details);
-    return fromServer(xcb_xkb_per_client_flags_reply(server, flags, nullptr))
-        && !fromServer(xcb_request_check(server, select));
-}
-
-bool XKeyboard::startInputEvents()
-{
-    xcb_connection_t *const server = connection_.get();
-    const xcb_query_extension_reply_t *extension = xcb_get_extension_data(server, &xcb_input_id);
-    if (!extension || !extension->present)
-        return false;
-    inputExtension_ = extension->major_opcode;
-    const auto version = fromServer(
-        xcb_input_xi_query_version_reply(server, xcb_input_xi_query_version(server, inputMajor, inputMinor), nullptr));
-    return version && std::pair(version->major_version, version->minor_version) >= std::pair(inputMajor, inputMinor);
 }
 
 void XKeyboard::watch(Events events)

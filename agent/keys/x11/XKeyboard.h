@@ -34,8 +34,6 @@ private:
     using HeldKeys = std::bitset<256>;
 
     bool start();
-    bool startKeyboardEvents();
-    bool startInputEvents();
     void readMappingIfDue();
     bool readMapping();
     void readDevicesIfDue();

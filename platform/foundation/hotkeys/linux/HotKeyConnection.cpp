@@ -1,15 +1,12 @@
 #include "platform/foundation/hotkeys/linux/HotKeyConnection.h"
 
+#include "platform/foundation/keyboard/KeyboardEvents.h"
+
 #include <xcb/xinput.h>
 
 namespace {
 
-constexpr quint16 keyboardEvents =
-    XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY | XCB_XKB_EVENT_TYPE_STATE_NOTIFY;
-constexpr quint16 mapParts = XCB_XKB_MAP_PART_KEY_SYMS | XCB_XKB_MAP_PART_MODIFIER_MAP;
 constexpr quint16 realModifiers = 0xff; // in a key event, buttons and the layout's group stand beside them
-// The first in which a grab does not hide raw events.
-constexpr quint16 inputMajor = 2, inputMinor = 1;
 
 } // namespace
 
@@ -23,7 +20,7 @@ std::unique_ptr<HotKeyConnection> HotKeyConnection::open(QString *failure)
     const xcb_setup_t *setup = xcb_get_setup(keys->connection_.get());
     for (auto screen = xcb_setup_roots_iterator(setup); screen.rem > 0; xcb_screen_next(&screen))
         keys->roots_.push_back(screen.data->root);
-    if (keys->startKeyboardEvents() && keys->startRawEvents())
+    if (keys->startEvents())
         return keys;
     *failure = keys->isLost()
         ? QStringLiteral("the X server has gone")
@@ -31,36 +28,14 @@ std::unique_ptr<HotKeyConnection> HotKeyConnection::open(QString *failure)
     return nullptr;
 }
 
-bool HotKeyConnection::startKeyboardEvents()
+bool HotKeyConnection::startEvents()
 {
-    xcb_connection_t *const server = connection_.get();
-    const auto use = fromServer(xcb_xkb_use_extension_reply(
-        server, xcb_xkb_use_extension(server, XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION), nullptr));
-    if (!use || !use->supported)
+    const auto codes = startKeyboardEvents(connection_.get(), XCB_XKB_STATE_PART_MODIFIER_STATE);
+    if (!codes)
         return false;
-    firstKeyboardEvent_ = xcb_get_extension_data(server, &xcb_xkb_id)->first_event;
-    constexpr quint32 detectableRepeat = XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT;
-    const auto flags =
-        xcb_xkb_per_client_flags(server, XCB_XKB_ID_USE_CORE_KBD, detectableRepeat, detectableRepeat, 0, 0, 0);
-    xcb_xkb_select_events_details_t details{};
-    details.affectNewKeyboard = details.newKeyboardDetails = XCB_XKB_NKN_DETAIL_KEYCODES | XCB_XKB_NKN_DETAIL_DEVICE_ID;
-    details.affectState = details.stateDetails = XCB_XKB_STATE_PART_MODIFIER_STATE;
-    const auto select = xcb_xkb_select_events_aux_checked(
-        server, XCB_XKB_ID_USE_CORE_KBD, keyboardEvents, 0, 0, mapParts, mapParts, &details);
-    return fromServer(xcb_xkb_per_client_flags_reply(server, flags, nullptr))
-        && !fromServer(xcb_request_check(server, select));
-}
-
-bool HotKeyConnection::startRawEvents()
-{
-    xcb_connection_t *const server = connection_.get();
-    const xcb_query_extension_reply_t *extension = xcb_get_extension_data(server, &xcb_input_id);
-    if (!extension || !extension->present)
-        return false;
-    rawEventExtension_ = extension->major_opcode;
-    const auto version = fromServer(
-        xcb_input_xi_query_version_reply(server, xcb_input_xi_query_version(server, inputMajor, inputMinor), nullptr));
-    return version && std::pair(version->major_version, version->minor_version) >= std::pair(inputMajor, inputMinor);
+    firstKeyboardEvent_ = codes->firstKeyboardEvent;
+    rawEventExtension_ = codes->inputExtension;
+    return true;
 }
 
 void HotKeyConnection::watchReleases(bool watch)

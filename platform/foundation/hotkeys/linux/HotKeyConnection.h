@@ -47,8 +47,7 @@ private:
     };
 
     explicit HotKeyConnection(XConnection connection) : connection_(std::move(connection)) { }
-    bool startKeyboardEvents();
-    bool startRawEvents();
+    bool startEvents();
     void watchReleases(bool watch);
     void carryOut(const std::vector<ServerOrder> &orders);
     void carryOut(ServerOrder order);
