@@ -1,12 +1,12 @@
 #include "SelectionSession.h"
 
+#include "DisplayRoot.h"
 #include "KTXConstants.h"
 #include "Wait.h"
 #include "platform/foundation/system/X11.h"
 
 #include <QRegularExpression>
 #include <linux/input-event-codes.h>
-#include <thread>
 
 namespace {
 
@@ -65,10 +65,11 @@ void SelectionSession::releaseModifiers()
 
 void SelectionSession::pressModifiersTwice()
 {
-    constexpr std::chrono::milliseconds aHandsPress(40);
+    constexpr quint32 handsPace = 40; // milliseconds by the server's clock, which the agent goes by
     for (int i = 0; i < 2; ++i) {
         holdModifiers();
-        std::this_thread::sleep_for(aHandsPress);
+        const quint32 start = serverTime();
+        EXPECT_TRUE(waitUntil([start] { return serverTime() - start >= handsPace; }));
         releaseModifiers();
     }
 }
