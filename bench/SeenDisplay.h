@@ -8,6 +8,7 @@
 #include <QRect>
 #include <QTemporaryDir>
 #include <chrono>
+#include <thread>
 #include <xcb/shape.h>
 
 using Clock = std::chrono::steady_clock;
@@ -39,13 +40,15 @@ public:
 
     bool isThere() const { return isThere_; }
     quint32 pixel(int x, int y) const { return pixels_[y * screenWidth + x] & 0xffffff; }
-    /// False when it does not come.
-    bool waitForPixel(int x, int y, quint32 color) const
+    /// False when it does not come. Looks all the time, or leaves the processor to others in between.
+    bool waitForPixel(int x, int y, quint32 color, std::chrono::microseconds pause = {}) const
     {
         const Clock::time_point end = Clock::now() + longestWait;
         while (pixel(x, y) != color) {
             if (Clock::now() > end)
                 return false;
+            if (pause.count() > 0)
+                std::this_thread::sleep_for(pause);
         }
         return true;
     }

@@ -17,6 +17,10 @@ namespace {
 
 constexpr int rounds = 60, warmUpRounds = 5;
 constexpr quint32 markColor = 0x2a64b8, floorColor = 0x20c060;
+/// Between two looks: what is measured are three programs, on as few as two processors.
+constexpr std::chrono::microseconds pause(20);
+/// A hand takes longer from one key to the next.
+constexpr std::chrono::milliseconds rest(20);
 const QList<int> modifiers{KEY_LEFTCTRL, KEY_LEFTALT};
 
 double microsecondsSince(Clock::time_point start)
@@ -122,6 +126,7 @@ private:
         while (!isMet()) {
             if (Clock::now() > end)
                 return false;
+            std::this_thread::sleep_for(pause);
         }
         return true;
     }
@@ -190,11 +195,12 @@ struct Times
 /// A place on the frame's left side.
 bool waitForMark(const SeenDisplay &display, const QRect &rect, quint32 color)
 {
-    return display.waitForPixel(rect.x() + 3, rect.y() + rect.height() / 2, color);
+    return display.waitForPixel(rect.x() + 3, rect.y() + rect.height() / 2, color, pause);
 }
 
 double timeUntilMarked(const SeenDisplay &display, const QRect &rect, quint32 color, int key)
 {
+    std::this_thread::sleep_for(rest);
     const Clock::time_point start = Clock::now();
     keyDown(key);
     const bool isSeen = waitForMark(display, rect, color);
@@ -205,6 +211,7 @@ double timeUntilMarked(const SeenDisplay &display, const QRect &rect, quint32 co
 
 bool measureRound(const SeenDisplay &display, Windows &windows, BareSelector &bare, Times &times)
 {
+    std::this_thread::sleep_for(rest);
     Clock::time_point start = Clock::now();
     windows.activate(0);
     if (!windows.waitUntilActive(0))
@@ -219,6 +226,7 @@ bool measureRound(const SeenDisplay &display, Windows &windows, BareSelector &ba
         return false;
     times.first.push_back(timeUntilMarked(display, windows.rectOf(1), markColor, KEY_RIGHT));
     times.next.push_back(timeUntilMarked(display, windows.rectOf(2), markColor, KEY_RIGHT));
+    std::this_thread::sleep_for(rest);
     start = Clock::now();
     for (const int key : modifiers)
         keyUp(key);

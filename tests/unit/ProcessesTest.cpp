@@ -86,6 +86,21 @@ TEST(Processes, anApplicationOfAnotherSessionIsNotInTheList)
     EXPECT_TRUE(allProcesses().contains(thisProcess())) << "what is no application is in each";
 }
 
+TEST(Processes, anApplicationIsInTheListFromItsFirstMomentOn)
+{
+    const TestApplication application;
+    for (int start = 0; start < 30; ++start) {
+        QProcess process;
+        process.start(application.program(), {});
+        const ProcessSerialNumber started{0, quint32(process.processId())};
+        ASSERT_NE(started, kNoProcess);
+        while (informationAbout(started).value(kCFBundleExecutableKey) != application.program()) { }
+        ASSERT_TRUE(allProcesses().contains(started)) << start;
+        process.kill();
+        process.waitForFinished();
+    }
+}
+
 TEST(Processes, theListGoesOnBehindAnApplicationOfAnotherSession)
 {
     TestApplication application, elsewhere;

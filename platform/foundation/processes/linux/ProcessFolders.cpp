@@ -1,5 +1,6 @@
 #include "platform/foundation/processes/linux/ProcessFolders.h"
 
+#include "platform/foundation/system/RunningExecutable.h"
 #include "platform/foundation/system/SystemCalls.h"
 
 #include <QList>
@@ -15,6 +16,8 @@
 namespace {
 
 constexpr qsizetype largestEnvironment = 4 * 1024 * 1024;
+constexpr int mostReadings = 200;
+constexpr useconds_t betweenReadings = 500; // microseconds
 
 pid_t processNamed(const char *folder)
 {
@@ -49,6 +52,22 @@ QByteArray contentOf(const QByteArray &path)
     return content;
 }
 
+/// The system shows a program's file a moment before the arguments and the environment that it was started with.
+bool isJustStarting(pid_t process)
+{
+    return contentOf(pathIn(process, "cmdline")).isEmpty() && !executableOf(process).isEmpty();
+}
+
+QByteArray environmentOf(pid_t process)
+{
+    QByteArray environment = contentOf(pathIn(process, "environ"));
+    for (int reading = 1; environment.isEmpty() && reading < mostReadings && isJustStarting(process); ++reading) {
+        ::usleep(betweenReadings);
+        environment = contentOf(pathIn(process, "environ"));
+    }
+    return environment;
+}
+
 } // namespace
 
 std::vector<pid_t> processesOfThisUser()
@@ -69,7 +88,7 @@ std::vector<pid_t> processesOfThisUser()
 QByteArray environmentVariableOf(pid_t process, const QByteArray &name)
 {
     const QByteArray start = name + '=';
-    for (const QByteArray &entry : contentOf(pathIn(process, "environ")).split('\0')) {
+    for (const QByteArray &entry : environmentOf(process).split('\0')) {
         if (entry.startsWith(start))
             return entry.mid(start.size());
     }
