@@ -4,6 +4,7 @@
 #include "KTXConstants.h"
 #include "KTXHotKeyEntry.h"
 
+#include <QSet>
 #include <algorithm>
 #include <array>
 
@@ -24,6 +25,16 @@ bool isMovementAction(const QString &action)
     const auto &all = KTXActionKeys();
     return std::any_of(all.cbegin(), all.cbegin() + KTXMovementKeyCount,
         [&action](const KTXActionKey &one) { return one.preferenceName == action; });
+}
+
+bool isSettingOfKeys(const QString &setting)
+{
+    static const QSet<QString> others{
+        KTXModifierMask, KTXActivateDoubleClick, KTXAutoRepeat, KTXInitialDelay, KTXRepeatRate};
+    const auto &actions = KTXActionKeys();
+    return others.contains(setting)
+        || std::any_of(actions.cbegin(), actions.cend(),
+            [&setting](const KTXActionKey &action) { return action.preferenceName == setting; });
 }
 
 void ActionKeyTable::follow(const QVariantMap &settings)

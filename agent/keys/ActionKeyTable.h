@@ -9,6 +9,8 @@
 /// The key that an action has in these settings.
 VirtualKeyCode actionKeyCode(const QVariantMap &settings, const QString &action);
 bool isMovementAction(const QString &action);
+/// Whether the keys go by a setting: which they are, and what is done about them.
+bool isSettingOfKeys(const QString &setting);
 
 /// Which key is which action's, or which digit's.
 class ActionKeyTable

@@ -186,6 +186,12 @@ void AgentHotKeys::handleLoss()
     freeModifiers_.clear();
 }
 
+bool AgentHotKeys::isAnyRefused() const
+{
+    return std::any_of(
+        keys_.cbegin(), keys_.cend(), [](const ActionKey &key) { return refusalNow(key) != Refusal::None; });
+}
+
 QStringList AgentHotKeys::movementKeysHeldByOthers() const
 {
     QStringList held;

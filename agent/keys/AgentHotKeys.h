@@ -37,6 +37,7 @@ public:
 
     /// In the order of the actions.
     QList<AgentHotKey> hotKeys() const;
+    bool isAnyRefused() const;
     /// The combinations that are to move, but belong to other programs.
     QStringList movementKeysHeldByOthers() const;
     /// Masks of modifiers with which nobody holds a movement key, best first. Looked for while another program holds

@@ -1,6 +1,7 @@
 #include "agent/life/Agent.h"
 
 #include "KTXConstants.h"
+#include "agent/keys/ActionKeyTable.h"
 #include "agent/life/NewerAgent.h"
 #include "agent/life/linux/AgentName.h"
 #include "agent/life/linux/ProgramReplacement.h"
@@ -14,6 +15,7 @@
 #include "platform/foundation/system/RunningExecutable.h"
 
 #include <QCoreApplication>
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -65,7 +67,7 @@ void Agent::readSettings()
     // Its keys are another agent's already.
     if (hasEnded_)
         return;
-    settings_.follow(NSUserDefaults::standardUserDefaults()->persistentDomainForName(KTXLMAppID));
+    changes_ += settings_.follow(NSUserDefaults::standardUserDefaults()->persistentDomainForName(KTXLMAppID));
     followSettings();
     ++readings_;
     Q_EMIT settingsRead();
@@ -76,10 +78,14 @@ void Agent::followSettings()
     isBehind_ = gestures_.isOn();
     if (isBehind_)
         return;
-    hotKeys_.apply(settings());
-    gestureKeys_.apply(settings());
-    gestures_.apply(settings());
-    notices_.lookAtKeys();
+    const QStringList changes = std::exchange(changes_, {});
+    if (hotKeys_.isAnyRefused() || std::any_of(changes.cbegin(), changes.cend(), isSettingOfKeys)) {
+        hotKeys_.apply(settings());
+        gestureKeys_.apply(settings());
+        notices_.lookAtKeys();
+    }
+    if (!changes.isEmpty() || readings_ == 0)
+        gestures_.apply(settings());
 }
 
 void Agent::followSettingsAfterGesture()

@@ -71,6 +71,7 @@ private:
     Gestures gestures_{*windows_, *overlay_, gestureKeys_};
     AgentNotices notices_{hotKeys_, gestures_};
     qint64 readings_ = 0;
+    QStringList changes_; ///< of settings, since they were followed last
     bool isBehind_ = false; ///< what was read last is still to be followed
     bool hasEnded_ = false;
     bool markIsPending_ = false; ///< of the first launch, since it could not be stored

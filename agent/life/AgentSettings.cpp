@@ -129,11 +129,13 @@ QVariantMap effectiveSettings(const QVariantMap &stored)
     return effective;
 }
 
-void EffectiveSettings::follow(const QVariantMap &stored)
+QStringList EffectiveSettings::follow(const QVariantMap &stored)
 {
-    for (const QString &key : differingKeys(stored_, stored)) {
+    const QStringList differing = differingKeys(stored_, stored);
+    for (const QString &key : differing) {
         if (const KTXSetting *setting = settingOf(key))
             values_.insert(key, effectiveValue(*setting, stored.value(key)));
     }
     stored_ = stored;
+    return differing;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QStringList>
 #include <QVariantMap>
 
 /// Each key with the value to go by: what is stored, in its setting's form, or the default; no value where there is no
@@ -11,7 +12,8 @@ QVariantMap effectiveSettings(const QVariantMap &stored);
 class EffectiveSettings
 {
 public:
-    void follow(const QVariantMap &stored);
+    /// Tells the keys whose value may differ from before.
+    QStringList follow(const QVariantMap &stored);
     const QVariantMap &values() const { return values_; }
 
 private:

@@ -32,6 +32,21 @@ public:
 
 } // namespace
 
+TEST_F(ActionKeys, goBySixteenOfTheSettings)
+{
+    QStringList settings;
+    for (const KTXSetting &setting : KTXSettings()) {
+        if (isSettingOfKeys(setting.key))
+            settings += setting.key;
+        EXPECT_TRUE(setting.type != KTXSettingType::HotKey || isSettingOfKeys(setting.key))
+            << setting.key.toStdString();
+    }
+    EXPECT_EQ(settings.size(), 11 + 5);
+    for (const QString &other :
+        {KTXModifierMask, KTXActivateDoubleClick, KTXAutoRepeat, KTXInitialDelay, KTXRepeatRate})
+        EXPECT_TRUE(settings.contains(other)) << other.toStdString();
+}
+
 TEST_F(ActionKeys, areTheElevenByDefault)
 {
     follow({});

@@ -81,9 +81,13 @@ TEST(AgentSettings, areTheSameFromChangeToChangeAsWorkedOutAtOnce)
     for (const KTXSetting &setting : KTXSettings()) {
         for (const QVariant &value : values) {
             stored.insert(setting.key, value);
-            settings.follow(stored);
+            const QVariantMap before = settings.values();
+            const QStringList changes = settings.follow(stored);
             EXPECT_TRUE(isEqualPropertyList(settings.values(), effectiveSettings(stored)))
                 << setting.key.toStdString() << ": " << value.typeName();
+            const bool isSame = isEqualPropertyList(before, settings.values());
+            EXPECT_TRUE(isSame || changes == QStringList(setting.key)) << setting.key.toStdString();
+            EXPECT_TRUE(settings.follow(stored).isEmpty()) << setting.key.toStdString();
         }
     }
     settings.follow({});
