@@ -15,12 +15,12 @@
 
 namespace {
 
-constexpr int rounds = 60, warmUpRounds = 5;
+constexpr int rounds = 40, warmUpRounds = 5;
 constexpr quint32 markColor = 0x2a64b8, floorColor = 0x20c060;
 /// Between two looks: what is measured are three programs, on as few as two processors.
 constexpr std::chrono::microseconds pause(20);
 /// A hand takes longer from one key to the next.
-constexpr std::chrono::milliseconds rest(20);
+constexpr std::chrono::milliseconds rest(100);
 const QList<int> modifiers{KEY_LEFTCTRL, KEY_LEFTALT};
 
 double microsecondsSince(Clock::time_point start)

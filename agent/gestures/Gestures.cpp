@@ -15,6 +15,8 @@ namespace {
 constexpr auto hesitation = 400ms;
 /// Without a key for that long the user has gone.
 constexpr auto patience = 30s;
+/// Windows that take longer come to the front without their mark.
+constexpr auto longestFarewell = 50ms;
 
 /// No value for an action that neither moves nor ends a selection.
 std::optional<GestureEvent> eventOf(const QString &action, quint32 time)
@@ -58,6 +60,7 @@ Gestures::Gestures(WindowSystem &windows, Overlay &overlay, GestureKeys &keys)
 {
     labels_.setSingleShot(true);
     limit_.setSingleShot(true);
+    farewell_.setSingleShot(true);
     const auto tells = [this](Kind kind) { return [this, kind](quint32 time) { take({.kind = kind, .time = time}); }; };
     connect(&keys, &GestureKeys::pressed, this, &Gestures::hearPress);
     connect(&keys, &GestureKeys::keyPressed, this, &Gestures::hearPress);
@@ -78,7 +81,10 @@ Gestures::Gestures(WindowSystem &windows, Overlay &overlay, GestureKeys &keys)
     connect(&session_, &SessionWatch::userIsLeaving, this, &Gestures::cancel);
     connect(&labels_, &QTimer::timeout, this, &Gestures::label);
     connect(&limit_, &QTimer::timeout, this, &Gestures::cancel);
+    connect(&farewell_, &QTimer::timeout, this, &Gestures::takeMarkAway);
+    connect(&windows, &WindowSystem::activated, this, &Gestures::takeMarkAway);
     connect(&windows, &WindowSystem::notActivated, this, [this](quint32 windowID) {
+        takeMarkAway();
         Q_EMIT refused({GestureRefusal::Kind::NotActivated, turnedTo_.value(windowID)});
     });
 }
@@ -98,6 +104,7 @@ void Gestures::apply(const QVariantMap &settings)
 void Gestures::cancel()
 {
     interrupt(0);
+    takeMarkAway();
 }
 
 void Gestures::hearPress(const QString &action, quint32 time)
@@ -162,6 +169,7 @@ bool Gestures::perform(GestureStep step, const GestureEvent &event)
 
 bool Gestures::begin()
 {
+    takeMarkAway();
     run_.emplace(settings_);
     overlay_.setStyle(settings_.overlay);
     if (!read())
@@ -243,6 +251,7 @@ void Gestures::accept(quint32 time)
     before_ = run_->origin;
     turnedTo_ = {{selected, title(selected)}};
     windows_.activate(selected, time);
+    farewell_.start(longestFarewell);
     Q_EMIT accepted(title(selected));
 }
 
@@ -259,13 +268,24 @@ void Gestures::finish()
 {
     labels_.stop();
     limit_.stop();
-    overlay_.hideOverlay();
+    // The display takes a while to draw what was below it, and the window would have to wait for that.
+    if (!farewell_.isActive())
+        overlay_.hideOverlay();
     keys_.end();
     session_.end();
     if (!run_)
         return;
     run_.reset();
     Q_EMIT over();
+}
+
+/// Of the gesture before.
+void Gestures::takeMarkAway()
+{
+    if (!farewell_.isActive())
+        return;
+    farewell_.stop();
+    overlay_.hideOverlay();
 }
 
 QString Gestures::title(quint32 windowID) const

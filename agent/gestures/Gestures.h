@@ -79,6 +79,7 @@ private:
     void accept(quint32 time);
     void goBack(quint32 time);
     void finish();
+    void takeMarkAway();
     void interrupt(quint32 time) { take({.kind = GestureEvent::Kind::Interrupted, .time = time}); }
     QString title(quint32 windowID) const;
 
@@ -93,4 +94,5 @@ private:
     QHash<quint32, QString> turnedTo_; ///< the title of the window that is being turned to
     QTimer labels_;
     QTimer limit_;
+    QTimer farewell_; ///< while the mark stands at a window that is being turned to
 };

@@ -123,8 +123,10 @@ void GestureKeys::end()
 void GestureKeys::handleHotKey(const QString &action, quint32 time)
 {
     note(time);
-    somethingElseWasPressed(time);
+    chord_.somethingElseWasPressed(time);
+    // First: with many windows the display takes a while to change what it tells us.
     Q_EMIT pressed(action, time);
+    updateChordWatch();
     if (isOn_)
         startRepeat(action);
 }
@@ -135,9 +137,9 @@ void GestureKeys::handleModifiers(quint32 held, quint32 time)
     const ChordPresses::Outcome outcome = chord_.modifiersDidChange(held, time);
     if (chord_.isWaiting(time) && held == keys_.modifiers())
         chordWatch_.start();
-    updateWatch();
     if (releaseCheck_.isActive() && (held & keys_.modifiers()) != keys_.modifiers())
         tellRelease(time);
+    updateWatch();
     tellChord(outcome, time);
 }
 
@@ -155,6 +157,11 @@ void GestureKeys::tellChord(ChordPresses::Outcome outcome, quint32 time)
 void GestureKeys::somethingElseWasPressed(quint32 time)
 {
     chord_.somethingElseWasPressed(time);
+    updateChordWatch();
+}
+
+void GestureKeys::updateChordWatch()
+{
     if (!chord_.hasBegun())
         chordWatch_.stop();
     updateWatch();
@@ -257,8 +264,8 @@ void GestureKeys::checkRelease()
 void GestureKeys::tellRelease(quint32 time)
 {
     releaseCheck_.stop();
-    updateWatch();
     Q_EMIT modifiersReleased(time);
+    updateWatch();
 }
 
 void GestureKeys::note(quint32 time)

@@ -96,6 +96,7 @@ private:
     void tellRelease(quint32 time);
     void tellChord(ChordPresses::Outcome outcome, quint32 time);
     void somethingElseWasPressed(quint32 time);
+    void updateChordWatch();
     void tryToGrab();
     void note(quint32 time);
     quint32 timeNow() const;

@@ -46,7 +46,6 @@ void WindowActivation::begin(xcb_window_t window, xcb_timestamp_t time)
 bool WindowActivation::ask(xcb_timestamp_t time)
 {
     const xcb_window_t root = server_.screen->root;
-    watchRoot(XCB_EVENT_MASK_PROPERTY_CHANGE);
     const auto askedCurrent = askProperty(server_.connection, root, server_.atoms.currentDesktop, 1);
     const ReceivedProperty own(
         server_.connection, askProperty(server_.connection, window_, server_.atoms.windowDesktop, 1));
@@ -60,6 +59,9 @@ bool WindowActivation::ask(xcb_timestamp_t time)
     if (isElsewhere)
         send(root, server_.atoms.currentDesktop, {.data32 = {*desktop, time}});
     askForFocus(time);
+    // Not before: with many windows the server takes a while. What has changed by then is looked at anyway.
+    watchRoot(XCB_EVENT_MASK_PROPERTY_CHANGE);
+    xcb_flush(server_.connection);
     return !xcb_connection_has_error(server_.connection);
 }
 
