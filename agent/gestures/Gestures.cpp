@@ -81,7 +81,7 @@ Gestures::Gestures(WindowSystem &windows, Overlay &overlay, GestureKeys &keys)
     connect(&session_, &SessionWatch::userIsLeaving, this, &Gestures::cancel);
     connect(&labels_, &QTimer::timeout, this, &Gestures::label);
     connect(&limit_, &QTimer::timeout, this, &Gestures::cancel);
-    connect(&farewell_, &QTimer::timeout, this, &Gestures::takeMarkAway);
+    connect(&farewell_, &QTimer::timeout, this, [this] { overlay_.hideOverlay(); });
     connect(&windows, &WindowSystem::activated, this, &Gestures::takeMarkAway);
     connect(&windows, &WindowSystem::notActivated, this, [this](quint32 windowID) {
         takeMarkAway();

@@ -2,6 +2,7 @@
 
 #include "KTXConstants.h"
 #include "SelectionSession.h"
+#include "Wait.h"
 
 #include <linux/input-event-codes.h>
 
@@ -59,4 +60,25 @@ TEST_F(SelectionByUser, goesBackWithReturn)
     ASSERT_TRUE(isActive("middle"));
     pressKey(KEY_ENTER, modifiers());
     EXPECT_TRUE(isActive("left"));
+}
+
+TEST_F(SelectionByUser, isNotLeftWithTheMarkOfAWindowThatTakesNoFocus)
+{
+    open();
+    constexpr quint32 inputIsTold = 1;
+    WindowOfAnotherProgram unwilling("unwilling", {460, 500, 250, 200});
+    unwilling.set("WM_HINTS", "WM_HINTS", {inputIsTold, 0, 0, 0, 0, 0, 0, 0, 0});
+    ASSERT_TRUE(unwilling.show());
+    turnToWindow(desktopWindows().first().id);
+    ASSERT_TRUE(isActive("left"));
+    holdModifiers();
+    pressKey(KEY_DOWN);
+    pressKey(KEY_RIGHT);
+    ASSERT_TRUE(says({"began", "moved to below", "moved to unwilling"}));
+    EXPECT_GT(marksOnScreen(), 0);
+    releaseModifiers();
+    EXPECT_TRUE(waitUntil([] { return marksOnScreen() == 0; }));
+    EXPECT_FALSE(steps().last().startsWith("refused")) << "the verdict comes much later";
+    EXPECT_TRUE(says({"began", "moved to below", "moved to unwilling", "accepted unwilling",
+        "refused: “unwilling” did not come to the front"}));
 }
