@@ -1,0 +1,48 @@
+#pragma once
+
+#include "agent/windows/WindowWorld.h"
+
+#include <QObject>
+#include <memory>
+#include <optional>
+
+class Closing;
+class Gestures;
+class Preview;
+class Screenshots;
+class WindowSystem;
+
+/// What the agent does with a window besides choosing it: with the selected one during a gesture, else with the active
+/// one. Asked for by the keys of these actions, and by whoever calls it; nothing goes on between two actions but a
+/// preview.
+///
+/// Each call returns at once, and its outcome is told later. A time is the display's own of the key or button that
+/// asks; 0 where there was none, as with a command.
+class Actions : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Both outlive it.
+    Actions(WindowSystem &windows, Gestures &gestures);
+    ~Actions() override;
+
+    /// Stores a picture of the window, covered or not. screenshotTaken() or refused() follows.
+    void takeScreenshot();
+    /// Asks the window to close, and its user before anything is ended that does not answer. windowClosed(), a dialog
+    /// of its program, which is selected then, or refused() follows within about 2 s.
+    void closeWindow(quint32 time = 0);
+    /// Shows the window enlarged, or ends that. During a gesture it follows the selection, and ends with it.
+    void showPreview();
+    /// Opens the settings at Lumaroo's pane, or brings them to the front as they are.
+    void openPrefPane(quint32 time = 0);
+
+Q_SIGNALS:
+    void screenshotTaken(const QString &path);
+    void windowClosed();
+    void previewShown();
+    void previewEnded();
+    void settingsOpened();
+    /// Nothing came of an action. A whole sentence in the user's language, which the user has been told as well.
+    void refused(const QString &sentence);
+};
