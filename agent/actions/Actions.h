@@ -1,16 +1,12 @@
 #pragma once
 
-#include "agent/windows/WindowWorld.h"
+#include "agent/actions/Closing.h"
+#include "agent/notices/Notices.h"
 
 #include <QObject>
-#include <memory>
 #include <optional>
 
-class Closing;
 class Gestures;
-class Preview;
-class Screenshots;
-class WindowSystem;
 
 /// What the agent does with a window besides choosing it: with the selected one during a gesture, else with the active
 /// one. Asked for by the keys of these actions, and by whoever calls it; nothing goes on between two actions but a
@@ -45,4 +41,23 @@ Q_SIGNALS:
     void settingsOpened();
     /// Nothing came of an action. A whole sentence in the user's language, which the user has been told as well.
     void refused(const QString &sentence);
+
+private:
+    struct Target
+    {
+        WindowWorld world;
+        WindowDescription window;
+    };
+
+    void perform(const QString &action, quint32 time);
+    std::optional<Target> target();
+    void hearEnd(const WindowDescription &window, Closing::Outcome outcome, quint32 dialog);
+    void hearButton(const QString &matter);
+    void endUnansweringProgram();
+    void refuse(const QString &title, const QString &sentence, const QString &button = {});
+
+    WindowSystem &windows_;
+    Gestures &gestures_;
+    Notices notices_;
+    WindowDescription unanswering_; ///< the window whose program its user may end
 };

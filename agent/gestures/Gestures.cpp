@@ -109,8 +109,43 @@ void Gestures::cancel()
 
 void Gestures::hearPress(const QString &action, quint32 time)
 {
-    if (const auto event = eventOf(action, time))
+    if (const auto event = eventOf(action, time)) {
         take(*event);
+        return;
+    }
+    if (isOn())
+        limit_.start(patience);
+    Q_EMIT asked(action, time);
+}
+
+void Gestures::select(quint32 windowID)
+{
+    if (!isOn())
+        return;
+    const quint32 before = selected();
+    run_->selection.select(windowID);
+    endUnless(read() && showSelected(before));
+}
+
+void Gestures::followWindows()
+{
+    if (!isOn())
+        return;
+    const quint32 before = selected();
+    const bool isRead = read();
+    if (isRead)
+        run_->selection.follow(run_->world);
+    endUnless(isRead && showSelected(before));
+}
+
+void Gestures::endUnless(bool goesOn)
+{
+    if (goesOn) {
+        run_->isCurrent = false;
+        return;
+    }
+    gesture_.end();
+    finish();
 }
 
 void Gestures::take(const GestureEvent &event)
@@ -190,15 +225,23 @@ bool Gestures::move(const GestureEvent &event)
     const bool isPress = event.kind == Kind::Movement;
     const bool hasMoved =
         run_->selection.move(event.movement, isPress ? MovementKind::Press : MovementKind::Repeat, run_->world);
-    if (run_->selection.selected() == 0) {
+    if (!showSelected(hasMoved ? 0 : selected()))
+        return false;
+    if (!hasMoved && isPress && run_->settings.beeps)
+        keys_.ring();
+    return true;
+}
+
+/// False where nothing is left to select.
+bool Gestures::showSelected(quint32 before)
+{
+    if (selected() == 0) {
         Q_EMIT refused({});
         return false;
     }
     show();
-    if (hasMoved)
-        Q_EMIT moved(title(run_->selection.selected()));
-    else if (isPress && run_->settings.beeps)
-        keys_.ring();
+    if (selected() != before)
+        Q_EMIT moved(title(selected()));
     return true;
 }
 
@@ -248,6 +291,10 @@ void Gestures::choose(int digit)
 void Gestures::accept(quint32 time)
 {
     const quint32 selected = run_->selection.selected();
+    if (selected == closing_) {
+        Q_EMIT cancelled();
+        return;
+    }
     before_ = run_->origin;
     turnedTo_ = {{selected, title(selected)}};
     windows_.activate(selected, time);

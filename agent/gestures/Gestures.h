@@ -43,6 +43,15 @@ public:
     /// Ends the gesture that is on as if nothing had been; harmless where none is.
     void cancel();
 
+    /// 0 where none is on.
+    quint32 selected() const { return run_ ? run_->selection.selected() : 0; }
+    /// Selects a window without a key, as one that has just come up; harmless where none is on.
+    void select(quint32 windowID);
+    /// Lets go of windows that have gone; the selection goes on with a neighbour. Harmless where none is on.
+    void followWindows();
+    /// A window that has been asked to close is not turned to; 0 for none any more.
+    void setClosing(quint32 windowID) { closing_ = windowID; }
+
 Q_SIGNALS:
     void began();
     /// Another window is selected. Titles are of one line.
@@ -52,6 +61,8 @@ Q_SIGNALS:
     void refused(const GestureRefusal &refusal);
     /// None is on any more.
     void over();
+    /// The key of an action that neither moves nor ends a selection, at any time.
+    void asked(const QString &action, quint32 time);
 
 private:
     /// What one gesture knows; gone with it.
@@ -73,6 +84,7 @@ private:
     bool begin();
     bool move(const GestureEvent &event);
     bool read();
+    bool showSelected(quint32 before);
     void show();
     void label();
     void choose(int digit);
@@ -80,6 +92,7 @@ private:
     void goBack(quint32 time);
     void finish();
     void takeMarkAway();
+    void endUnless(bool goesOn);
     void interrupt(quint32 time) { take({.kind = GestureEvent::Kind::Interrupted, .time = time}); }
     QString title(quint32 windowID) const;
 
@@ -91,6 +104,7 @@ private:
     Gesture gesture_;
     std::optional<Run> run_;
     quint32 before_ = 0; ///< the window with the focus before the last one that was accepted
+    quint32 closing_ = 0;
     QHash<quint32, QString> turnedTo_; ///< the title of the window that is being turned to
     QTimer labels_;
     QTimer limit_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "agent/actions/Actions.h"
 #include "agent/gestures/Gestures.h"
 #include "agent/keys/AgentHotKeys.h"
 #include "agent/life/AgentSettings.h"
@@ -27,6 +28,8 @@ public:
     const AgentHotKeys &hotKeys() const { return hotKeys_; }
     /// What its user does with windows.
     const Gestures &gestures() const { return gestures_; }
+    Actions &actions() { return actions_; }
+    const Actions &actions() const { return actions_; }
 
     /// Reads the settings, observes the pane and announces itself. Called once, when the name is owned.
     void launch();
@@ -70,6 +73,7 @@ private:
     const std::unique_ptr<Overlay> overlay_ = overlay();
     Gestures gestures_{*windows_, *overlay_, gestureKeys_};
     AgentNotices notices_{hotKeys_, gestures_};
+    Actions actions_{*windows_, gestures_};
     qint64 readings_ = 0;
     QStringList changes_; ///< of settings, since they were followed last
     bool isBehind_ = false; ///< what was read last is still to be followed

@@ -41,6 +41,15 @@ void printGestures(const Agent &agent)
         [](const GestureRefusal &refusal) { printText(QStringLiteral("refused: %1\n").arg(sentence(refusal))); });
 }
 
+void printActions(const Agent &agent)
+{
+    const Actions *actions = &agent.actions();
+    QObject::connect(actions, &Actions::windowClosed, &agent, [] { printLine("window closed\n"); });
+    QObject::connect(actions, &Actions::settingsOpened, &agent, [] { printLine("settings opened\n"); });
+    QObject::connect(actions, &Actions::refused, &agent,
+        [](const QString &sentence) { printText(QStringLiteral("action refused: %1\n").arg(sentence)); });
+}
+
 /// Says what happens, for people and tests.
 void printEvents(const Agent &agent)
 {
@@ -54,6 +63,7 @@ void printEvents(const Agent &agent)
             printText(QStringLiteral("pressed %1 (%2)\n").arg(action, combination));
         });
     printGestures(agent);
+    printActions(agent);
     QObject::connect(&agent, &Agent::tutorialRequested, &agent, [] { printLine("tutorial requested\n"); });
 }
 

@@ -11,6 +11,7 @@ struct Notice
     QString title;
     QString text; ///< plain
     QString button; ///< its only one; none where it is empty
+    QString picture = {}; ///< a file that shows it
 };
 
 /// The desktop's notifications. Nothing is listened to but while a bubble with a button is up.

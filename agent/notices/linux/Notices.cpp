@@ -6,6 +6,7 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QUrl>
 #include <QVariantMap>
 #include <utility>
 
@@ -21,7 +22,9 @@ QDBusMessage notifyCall(const Notice &notice, quint32 replaced)
 {
     QDBusMessage call = QDBusMessage::createMethodCall(service, path, service, QStringLiteral("Notify"));
     const QStringList actions = notice.button.isEmpty() ? QStringList() : QStringList{buttonAction, notice.button};
-    const QVariantMap hints{{QStringLiteral("desktop-entry"), QStringLiteral("com.quorvane.LumarooSettings")}};
+    QVariantMap hints{{QStringLiteral("desktop-entry"), QStringLiteral("com.quorvane.LumarooSettings")}};
+    if (!notice.picture.isEmpty())
+        hints.insert(QStringLiteral("image-path"), QUrl::fromLocalFile(notice.picture).toString(QUrl::FullyEncoded));
     // A server may take the text for markup.
     call << QStringLiteral("Lumaroo") << replaced << QStringLiteral("com.quorvane.LumarooSettings") << notice.title
          << notice.text.toHtmlEscaped() << actions << hints << asLongAsTheDesktopLikes;

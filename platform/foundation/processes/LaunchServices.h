@@ -4,7 +4,9 @@
 #include "platform/foundation/OSStatus.h"
 #include "platform/foundation/processes/ProcessSerialNumber.h"
 
+#include <QHash>
 #include <QString>
+#include <QStringList>
 #include <QUrl>
 
 inline constexpr OSStatus kLSUnknownErr = -10810; ///< the system could not start another process
@@ -37,6 +39,8 @@ struct LSApplicationParameters
     qint64 version = 0; ///< always 0
     LSLaunchFlags flags = 0;
     const FSRef *application = nullptr; ///< the .app bundle
+    QStringList argv = {}; ///< without the program's own name
+    QHash<QString, QString> environment = {}; ///< in place of this process's variables of these names
 };
 
 /// Launches an application as a session of its own, which outlives this process, and stores its serial number.

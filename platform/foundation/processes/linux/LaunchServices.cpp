@@ -35,10 +35,20 @@ void logFailure(const QString &path, int error)
               .arg(path, QString::fromLocal8Bit(std::strerror(error))));
 }
 
-OSStatus launch(const QString &executable, const QString &identifier, ProcessSerialNumber *process)
+ProgramStart startOf(const QString &executable, const QString &identifier, const LSApplicationParameters &parameters)
 {
-    const QByteArray identity = QByteArray(applicationIdentifierVariable) + '=' + identifier.toUtf8();
-    const StartedProgram started = startProgram({QFile::encodeName(executable), {}, {identity}});
+    ProgramStart start{QFile::encodeName(executable), {}, {}};
+    for (const QString &argument : parameters.argv)
+        start.arguments += QFile::encodeName(argument);
+    for (auto entry = parameters.environment.cbegin(); entry != parameters.environment.cend(); ++entry)
+        start.environment += QFile::encodeName(entry.key() + u'=' + entry.value());
+    start.environment += QByteArray(applicationIdentifierVariable) + '=' + identifier.toUtf8();
+    return start;
+}
+
+OSStatus launch(const QString &executable, const ProgramStart &start, ProcessSerialNumber *process)
+{
+    const StartedProgram started = startProgram(start);
     if (started.error != 0)
         logFailure(executable, started.error);
     else if (process)
@@ -76,5 +86,5 @@ OSStatus LSOpenApplication(const LSApplicationParameters *parameters, ProcessSer
     const QString program = NSBundle::executablePathNamedBy(info, path);
     if (program.isEmpty())
         return kLSApplicationNotFoundErr;
-    return launch(program, info.value(kCFBundleIdentifierKey).toString(), process);
+    return launch(program, startOf(program, info.value(kCFBundleIdentifierKey).toString(), *parameters), process);
 }
