@@ -3,23 +3,41 @@
 #include "KTXConstants.h"
 #include "agent/actions/ActionTexts.h"
 #include "agent/actions/Closing.h"
+#include "agent/actions/PictureShowing.h"
+#include "agent/actions/Screenshot.h"
 #include "agent/actions/SettingsProgram.h"
 #include "agent/actions/x11/ActionConnection.h"
+#include "agent/actions/x11/PreviewWindow.h"
 #include "agent/actions/x11/WindowCloser.h"
 #include "agent/gestures/GestureView.h"
 #include "agent/gestures/Gestures.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QHash>
+#include <utility>
 
 namespace {
 
 const QString closingMatter = QStringLiteral("closing");
+const QString pictureMatter = QStringLiteral("picture");
+const QString previewMatter = QStringLiteral("preview");
+const QString settingsMatter = QStringLiteral("settings");
+
+/// For whoever reads it, with the home folder's sign.
+QString shownFolder(const QString &path)
+{
+    const QString folder = QFileInfo(path).path(), home = QDir::homePath();
+    return folder.startsWith(home + u'/') ? u'~' + folder.mid(home.size()) : folder;
+}
 
 } // namespace
 
 Actions::Actions(WindowSystem &windows, Gestures &gestures) : windows_(windows), gestures_(gestures)
 {
     connect(&gestures, &Gestures::asked, this, &Actions::perform);
+    connect(&gestures, &Gestures::moved, this, &Actions::followWithPreview);
+    connect(&gestures, &Gestures::over, this, &Actions::endPreview);
     connect(&notices_, &Notices::pressed, this, &Actions::hearButton);
 }
 
@@ -31,8 +49,14 @@ void Actions::perform(const QString &action, quint32 time)
         {KTXOpenPrefPanePref, &Actions::openPrefPane},
         {KTXScreenClosePref, &Actions::closeWindow},
     };
+    static const QHash<QString, void (Actions::*)()> timeless{
+        {KTXScreenshotPref, &Actions::takeScreenshot},
+        {KTXPreviewPref, &Actions::showPreview},
+    };
     if (const auto act = actions.value(action))
         (this->*act)(time);
+    else if (const auto other = timeless.value(action))
+        (this->*other)();
 }
 
 /// The desktop and its panels may have the focus, but are nothing to act on.
@@ -49,11 +73,41 @@ std::optional<Actions::Target> Actions::target()
     return Target{*world, *window};
 }
 
+void Actions::takeScreenshot()
+{
+    const auto found = target();
+    const QString reason =
+        found ? reasonForNoPicture(found->window) : actionText("There is no window to take a picture of.");
+    if (!reason.isEmpty()) {
+        refuse(pictureMatter, actionText("No picture was taken"), reason);
+        return;
+    }
+    auto *const screenshot = new Screenshot(found->window);
+    screenshot->setParent(this);
+    connect(screenshot, &Screenshot::taken, this, [this, screenshot](const QString &path) {
+        screenshot->deleteLater();
+        tellOfPicture(screenshot->window(), path);
+    });
+    connect(screenshot, &Screenshot::failed, this, [this, screenshot](const QString &sentence) {
+        screenshot->deleteLater();
+        refuse(pictureMatter, actionText("No picture was taken"), sentence);
+    });
+}
+
+void Actions::tellOfPicture(const WindowDescription &window, const QString &path)
+{
+    picture_ = path;
+    notices_.tell({pictureMatter, actionText("Picture of “%1” taken").arg(titleOf(window)),
+        actionText("It is stored as “%1” in %2.").arg(QFileInfo(path).fileName(), shownFolder(path)),
+        actionText("Show"), path});
+    Q_EMIT screenshotTaken(path);
+}
+
 void Actions::closeWindow(quint32 time)
 {
     const auto found = target();
     if (!found) {
-        refuse(actionText("No window was closed"), actionText("There is no window to close."));
+        refuse(closingMatter, actionText("No window was closed"), actionText("There is no window to close."));
         return;
     }
     auto *const closing = new Closing(windows_, found->world, found->window.windowID);
@@ -80,11 +134,11 @@ void Actions::hearEnd(const WindowDescription &window, Closing::Outcome outcome,
             gestures_.select(dialog);
         break;
     case Closing::Outcome::StaysOpen:
-        refuse(actionText("A window did not close"), actionText("“%1” is still open.").arg(title));
+        refuse(closingMatter, actionText("A window did not close"), actionText("“%1” is still open.").arg(title));
         break;
     case Closing::Outcome::CannotBeAsked:
         unanswering_ = window;
-        refuse(actionText("A window cannot be asked to close"),
+        refuse(closingMatter, actionText("A window cannot be asked to close"),
             actionText("“%1” does not answer to being closed. Ending its program loses what it has not stored.")
                 .arg(title),
             actionText("End it"));
@@ -96,6 +150,8 @@ void Actions::hearButton(const QString &matter)
 {
     if (matter == closingMatter)
         endUnansweringProgram();
+    else if (matter == pictureMatter)
+        showFile(picture_);
 }
 
 /// Meanwhile the window may have gone, and its number may be another's.
@@ -116,11 +172,75 @@ void Actions::openPrefPane(quint32 time)
     if (reason.isEmpty())
         Q_EMIT settingsOpened();
     else
-        refuse(actionText("The settings did not open"), actionText("The settings cannot be opened: %1.").arg(reason));
+        refuse(settingsMatter, actionText("The settings did not open"),
+            actionText("The settings cannot be opened: %1.").arg(reason));
 }
 
-void Actions::refuse(const QString &title, const QString &sentence, const QString &button)
+void Actions::showPreview()
 {
-    notices_.tell({closingMatter, title, sentence, button});
+    if (isPreviewing_) {
+        endPreview();
+        return;
+    }
+    const auto found = target();
+    QString reason = found ? reasonForNoPicture(found->window) : actionText("There is no window to show.");
+    if (reason.isEmpty())
+        preview(*found);
+    if (reason.isEmpty() && !preview_)
+        reason = actionText("This X server gives no pictures of windows.");
+    if (reason.isEmpty())
+        Q_EMIT previewShown();
+    else
+        refuse(previewMatter, actionText("No preview is shown"), reason);
+}
+
+/// The one before goes only when this one is there.
+void Actions::preview(const Target &target)
+{
+    auto shown = std::make_unique<PreviewWindow>(target.window, monitorOf(target.window, target.world.monitors));
+    if (!shown->isShown()) {
+        hidePreview();
+        return;
+    }
+    connect(shown.get(), &PreviewWindow::ended, this, &Actions::hearPreviewsEnd, Qt::QueuedConnection);
+    preview_ = std::move(shown);
+    isPreviewing_ = true;
+}
+
+void Actions::followWithPreview()
+{
+    if (!isPreviewing_)
+        return;
+    const auto found = target();
+    if (found && reasonForNoPicture(found->window).isEmpty())
+        preview(*found);
+    else
+        hidePreview();
+}
+
+/// During a gesture the selection goes on, and the preview with it.
+void Actions::hearPreviewsEnd()
+{
+    if (gestures_.isOn())
+        hidePreview();
+    else
+        endPreview();
+}
+
+void Actions::hidePreview()
+{
+    preview_.reset();
+}
+
+void Actions::endPreview()
+{
+    hidePreview();
+    if (std::exchange(isPreviewing_, false))
+        Q_EMIT previewEnded();
+}
+
+void Actions::refuse(const QString &matter, const QString &title, const QString &sentence, const QString &button)
+{
+    notices_.tell({matter, title, sentence, button});
     Q_EMIT refused(sentence);
 }

@@ -4,9 +4,11 @@
 #include "agent/notices/Notices.h"
 
 #include <QObject>
+#include <memory>
 #include <optional>
 
 class Gestures;
+class PreviewWindow;
 
 /// What the agent does with a window besides choosing it: with the selected one during a gesture, else with the active
 /// one. Asked for by the keys of these actions, and by whoever calls it; nothing goes on between two actions but a
@@ -54,10 +56,19 @@ private:
     void hearEnd(const WindowDescription &window, Closing::Outcome outcome, quint32 dialog);
     void hearButton(const QString &matter);
     void endUnansweringProgram();
-    void refuse(const QString &title, const QString &sentence, const QString &button = {});
+    void tellOfPicture(const WindowDescription &window, const QString &path);
+    void preview(const Target &target);
+    void followWithPreview();
+    void hearPreviewsEnd();
+    void hidePreview();
+    void endPreview();
+    void refuse(const QString &matter, const QString &title, const QString &sentence, const QString &button = {});
 
     WindowSystem &windows_;
     Gestures &gestures_;
     Notices notices_;
     WindowDescription unanswering_; ///< the window whose program its user may end
+    QString picture_; ///< the last one that was taken
+    bool isPreviewing_ = false; ///< also while the selection has no picture
+    std::unique_ptr<PreviewWindow> preview_;
 };

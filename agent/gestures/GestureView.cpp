@@ -9,15 +9,6 @@ int area(const QRect &rect)
     return rect.isEmpty() ? 0 : rect.width() * rect.height();
 }
 
-/// The first one where nothing of the window shows.
-Monitor monitorOf(const WindowDescription &window, const QList<Monitor> &monitors)
-{
-    const auto shown = [&window](const Monitor &monitor) { return area(monitor.rect & window.windowRect); };
-    const auto most = std::max_element(monitors.cbegin(), monitors.cend(),
-        [&shown](const Monitor &one, const Monitor &other) { return shown(one) < shown(other); });
-    return most == monitors.cend() ? Monitor{window.windowRect} : *most;
-}
-
 QList<OverlayLabel> shownLabels(const WindowWorld &world, const QHash<int, quint32> &labels)
 {
     QList<OverlayLabel> shown;
@@ -30,6 +21,14 @@ QList<OverlayLabel> shownLabels(const WindowWorld &world, const QHash<int, quint
 }
 
 } // namespace
+
+Monitor monitorOf(const WindowDescription &window, const QList<Monitor> &monitors)
+{
+    const auto shown = [&window](const Monitor &monitor) { return area(monitor.rect & window.windowRect); };
+    const auto most = std::max_element(monitors.cbegin(), monitors.cend(),
+        [&shown](const Monitor &one, const Monitor &other) { return shown(one) < shown(other); });
+    return most == monitors.cend() ? Monitor{window.windowRect} : *most;
+}
 
 OverlayView gestureView(const WindowWorld &world, quint32 selected, const QHash<int, quint32> &labels)
 {

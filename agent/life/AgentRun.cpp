@@ -45,6 +45,10 @@ void printActions(const Agent &agent)
 {
     const Actions *actions = &agent.actions();
     QObject::connect(actions, &Actions::windowClosed, &agent, [] { printLine("window closed\n"); });
+    QObject::connect(actions, &Actions::screenshotTaken, &agent,
+        [](const QString &path) { printText(QStringLiteral("picture %1\n").arg(path)); });
+    QObject::connect(actions, &Actions::previewShown, &agent, [] { printLine("preview shown\n"); });
+    QObject::connect(actions, &Actions::previewEnded, &agent, [] { printLine("preview ended\n"); });
     QObject::connect(actions, &Actions::settingsOpened, &agent, [] { printLine("settings opened\n"); });
     QObject::connect(actions, &Actions::refused, &agent,
         [](const QString &sentence) { printText(QStringLiteral("action refused: %1\n").arg(sentence)); });

@@ -22,6 +22,7 @@ struct WindowDescription
     QString windowName; ///< its title, of at most 1,024 characters; may be empty
     QString appName; ///< its program's class; may be empty
     QRect windowRect; ///< what is seen of its frame, without shadows, within the monitors; empty where nothing is
+    QRect frameRect; ///< the same, but also beyond the monitors
     int windowOrder = 0; ///< its place in the stack, 0 on top
     WindowIgnored windowIsIgnored = WindowIgnored::No;
     bool isMinimised = false; ///< then it covers nothing, and its rectangle is where it would come up

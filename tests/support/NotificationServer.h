@@ -20,6 +20,7 @@ public:
         QString title;
         QString text;
         QStringList actions;
+        QString picture; ///< its address
     };
 
     NotificationServer()
@@ -41,9 +42,9 @@ public:
 public Q_SLOTS:
     // The interface on the bus. A bubble's number is its place, counted from 1.
     quint32 Notify(const QString &, quint32 replaced, const QString &, const QString &title, const QString &text,
-        const QStringList &actions, const QVariantMap &, int)
+        const QStringList &actions, const QVariantMap &hints, int)
     {
-        bubbles_.append({replaced, title, text, actions});
+        bubbles_.append({replaced, title, text, actions, hints.value(QStringLiteral("image-path")).toString()});
         return quint32(bubbles_.size());
     }
 

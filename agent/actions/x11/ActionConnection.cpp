@@ -1,6 +1,7 @@
 #include "agent/actions/x11/ActionConnection.h"
 
-#include <cstring>
+#include <utility>
+#include <xcb/xcbext.h>
 
 namespace {
 
@@ -21,10 +22,10 @@ ActionConnection::ActionConnection()
     screen_ = screens.data;
 }
 
-xcb_atom_t ActionConnection::atom(const char *name) const
+xcb_atom_t ActionConnection::atom(const QByteArray &name) const
 {
-    const auto reply = fromServer(
-        xcb_intern_atom_reply(server(), xcb_intern_atom(server(), false, quint16(std::strlen(name)), name), nullptr));
+    const auto asked = xcb_intern_atom(server(), false, quint16(name.size()), name.constData());
+    const auto reply = fromServer(xcb_intern_atom_reply(server(), asked, nullptr));
     return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
 }
 
@@ -74,6 +75,27 @@ void ActionConnection::listen(std::function<void(const xcb_generic_event_t &)> h
     lookSoon();
 }
 
+void ActionConnection::expect(unsigned request, std::function<void(void *)> handler)
+{
+    request_ = request;
+    answerHandler_ = std::move(handler);
+    flush();
+    lookSoon();
+}
+
+/// One that has been read along with the events.
+bool ActionConnection::takeAnswer()
+{
+    void *answer = nullptr;
+    xcb_generic_error_t *error = nullptr;
+    if (request_ == 0 || xcb_poll_for_reply(server(), request_, &answer, &error) == 0)
+        return false;
+    std::free(error);
+    request_ = 0;
+    std::exchange(answerHandler_, nullptr)(answer);
+    return true;
+}
+
 void ActionConnection::lookSoon()
 {
     QMetaObject::invokeMethod(this, &ActionConnection::look, Qt::QueuedConnection);
@@ -81,8 +103,10 @@ void ActionConnection::lookSoon()
 
 void ActionConnection::look()
 {
-    while (const auto event = fromServer(xcb_poll_for_event(server())))
-        handler_(*event);
+    do {
+        while (const auto event = fromServer(xcb_poll_for_event(server())))
+            handler_(*event);
+    } while (takeAnswer());
     flush();
     if (!isLost() || !input_->isEnabled())
         return;

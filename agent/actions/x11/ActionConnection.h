@@ -2,6 +2,7 @@
 
 #include "platform/foundation/system/X11.h"
 
+#include <QByteArray>
 #include <QObject>
 #include <QSocketNotifier>
 #include <functional>
@@ -23,7 +24,7 @@ public:
     bool isLost() const { return xcb_connection_has_error(server()) != 0; }
     void flush() const { xcb_flush(server()); }
 
-    xcb_atom_t atom(const char *name) const;
+    xcb_atom_t atom(const QByteArray &name) const;
     /// Null where the server lacks it.
     const xcb_query_extension_reply_t *extension(xcb_extension_t *which) const;
     /// By the server's clock. Not while it listens.
@@ -33,6 +34,9 @@ public:
 
     /// Tells all events from now on, but none within this call.
     void listen(std::function<void(const xcb_generic_event_t &)> handler);
+    /// Has the answer to a request handled while it listens; one after the other. The handler owns the answer, which is
+    /// null for an error.
+    void expect(unsigned request, std::function<void(void *answer)> handler);
     /// To be called whenever an answer has been waited for while it listens: events may have come in with it.
     void lookSoon();
 
@@ -42,9 +46,12 @@ Q_SIGNALS:
 
 private:
     void look();
+    bool takeAnswer();
 
     XConnection connection_;
     const xcb_screen_t *screen_ = nullptr;
     std::function<void(const xcb_generic_event_t &)> handler_;
+    std::function<void(void *)> answerHandler_;
+    unsigned request_ = 0; ///< whose answer is expected; 0 for none
     std::unique_ptr<QSocketNotifier> input_;
 };

@@ -117,7 +117,8 @@ WindowDescription describe(const WindowFacts &facts, const WindowSurroundings &s
     window.windowPID = facts.processID;
     window.windowName = facts.title;
     window.appName = facts.program.name.isEmpty() ? facts.program.instance : facts.program.name;
-    window.windowRect = withinMonitors(frameOf(facts), surroundings.monitors);
+    window.frameRect = frameOf(facts);
+    window.windowRect = withinMonitors(window.frameRect, surroundings.monitors);
     window.windowIsIgnored = ignoredBecause(facts, surroundings);
     window.isMinimised = isMinimised(facts, surroundings.atoms);
     return window;

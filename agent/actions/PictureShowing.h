@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QString>
+
+/// Shows a file in the user's file manager; where that cannot be asked, its folder is opened. Returns at once in the
+/// first case.
+void showFile(const QString &path);
