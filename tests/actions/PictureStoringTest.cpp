@@ -4,6 +4,7 @@
 #include "AgentProgram.h"
 #include "Wait.h"
 
+#include <QColorSpace>
 #include <QDir>
 #include <QTemporaryDir>
 #include <cerrno>
@@ -72,8 +73,12 @@ TEST_F(Storing, makesAPictureOfEveryPixel)
     store(pixelsOf(colors, {300, 200}));
     EXPECT_EQ(path, place() + "/Picture.png");
     const QImage expected(reinterpret_cast<const uchar *>(colors.constData()), 300, 200, QImage::Format_RGB32);
-    EXPECT_EQ(QImage(path).convertToFormat(QImage::Format_RGB32), expected);
+    QImage picture = QImage(path).convertToFormat(QImage::Format_RGB32);
     EXPECT_FALSE(QImage(path).hasAlphaChannel());
+    EXPECT_EQ(picture.colorSpace(), QColorSpace(QColorSpace::SRgb));
+    // Else it would count as different.
+    picture.setColorSpace({});
+    EXPECT_EQ(picture, expected);
 }
 
 TEST_F(Storing, replacesNoPicture)

@@ -54,9 +54,35 @@ bool PixelReading::isAnyTransparent() const
     return false;
 }
 
+/// As nearly all servers have it.
+bool PixelReading::isOfBytes() const
+{
+    return form_.pixelBits == 32 && form_.isLittleEndian && form_.red == 0xff0000 && form_.green == 0xff00
+        && form_.blue == 0xff && !hasAlpha_;
+}
+
 const uint8_t *PixelReading::row(uint32_t number)
 {
     const uint8_t *place = pixels_ + size_t(number) * form_.rowBytes;
+    if (isOfBytes())
+        readBytes(place);
+    else
+        readBits(place);
+    return row_.data();
+}
+
+void PixelReading::readBytes(const uint8_t *place)
+{
+    uint8_t *out = row_.data();
+    for (uint32_t x = 0; x < form_.width; ++x, place += 4, out += 3) {
+        out[0] = place[2];
+        out[1] = place[1];
+        out[2] = place[0];
+    }
+}
+
+void PixelReading::readBits(const uint8_t *place)
+{
     uint8_t *out = row_.data();
     for (uint32_t x = 0; x < form_.width; ++x, place += form_.pixelBits / 8) {
         const uint32_t value = pixel(place);
@@ -68,5 +94,4 @@ const uint8_t *PixelReading::row(uint32_t number)
         if (hasAlpha_)
             *out++ = alpha;
     }
-    return row_.data();
 }

@@ -32,6 +32,9 @@ public:
 private:
     uint32_t pixel(const uint8_t *place) const;
     bool isAnyTransparent() const;
+    bool isOfBytes() const;
+    void readBytes(const uint8_t *place);
+    void readBits(const uint8_t *place);
 
     const PixelForm form_;
     const uint8_t *const pixels_;

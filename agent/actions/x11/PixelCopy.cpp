@@ -82,6 +82,7 @@ void PixelCopy::copy()
 {
     quiet_.stop();
     limit_.stop();
+    Q_EMIT drawn();
     const auto pixmap = window_.pixmap();
     connection_.lookSoon();
     if (!pixmap)

@@ -19,6 +19,8 @@ public:
     WindowPixels takePixels() { return std::move(pixels_); }
 
 Q_SIGNALS:
+    /// The window's program has had its time to draw; the rest takes no longer than it must.
+    void drawn();
     void copied();
     void failed(PictureFailure failure);
 
