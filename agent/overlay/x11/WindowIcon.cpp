@@ -1,77 +1,17 @@
 #include "agent/overlay/x11/WindowIcon.h"
 
-#include <algorithm>
-#include <vector>
-
-namespace {
-
-constexpr quint32 greatestSide = 1024; // pixels
-constexpr int mostIcons = 32;
-constexpr quint32 headLength = 2; // width and height; lengths and places are in items of four bytes
-
-/// One of a window's icons: where its pixels begin in the property.
-struct IconPlace
-{
-    quint32 start, width, height;
-
-    quint32 length() const { return width * height; }
-    int side() const { return int(std::max(width, height)); }
-};
-
-struct Items
-{
-    std::vector<quint32> values;
-    quint32 rest = 0; ///< how many follow
-};
-
-Items readItems(const MarkDisplay &display, xcb_window_t window, quint32 start, quint32 length)
-{
-    xcb_connection_t *const server = display.server();
-    const auto reply = fromServer(xcb_get_property_reply(server,
-        xcb_get_property(server, false, window, display.atoms().icon, XCB_ATOM_CARDINAL, start, length), nullptr));
-    if (!reply || reply->type != XCB_ATOM_CARDINAL || reply->format != 32)
-        return {};
-    const auto *values = static_cast<const quint32 *>(xcb_get_property_value(reply.get()));
-    return {{values, values + reply->value_len}, reply->bytes_after / 4};
-}
-
-std::vector<IconPlace> readPlaces(const MarkDisplay &display, xcb_window_t window)
-{
-    std::vector<IconPlace> places;
-    quint32 start = 0;
-    while (places.size() < mostIcons) {
-        const Items head = readItems(display, window, start, headLength);
-        if (head.values.size() != headLength)
-            break;
-        const IconPlace place{start + headLength, head.values[0], head.values[1]};
-        const bool isSize = place.width - 1 < greatestSide && place.height - 1 < greatestSide;
-        if (!isSize || place.length() > head.rest)
-            break;
-        places.push_back(place);
-        start = place.start + place.length();
-    }
-    return places;
-}
-
-bool isBetter(const IconPlace &one, const IconPlace &other, int side)
-{
-    const bool isEnough = one.side() >= side, isOtherEnough = other.side() >= side;
-    if (isEnough != isOtherEnough)
-        return isEnough;
-    return isEnough ? one.side() < other.side() : one.side() > other.side();
-}
-
-} // namespace
+#include "agent/overlay/x11/IconChoice.h"
 
 OverlayPicture windowIcon(const MarkDisplay &display, xcb_window_t window, int side)
 {
-    const std::vector<IconPlace> places = readPlaces(display, window);
-    const auto best = std::min_element(places.begin(), places.end(),
-        [side](const IconPlace &one, const IconPlace &other) { return isBetter(one, other, side); });
-    if (best == places.end())
-        return {};
-    OverlayPicture icon{
-        QSize(int(best->width), int(best->height)), readItems(display, window, best->start, best->length()).values};
-    // It may have been set anew meanwhile.
-    return icon.pixels.size() == best->length() ? icon : OverlayPicture();
+    const auto read = [&display, window](quint32 start, quint32 length) -> PropertyItems {
+        xcb_connection_t *const server = display.server();
+        const auto reply = fromServer(xcb_get_property_reply(server,
+            xcb_get_property(server, false, window, display.atoms().icon, XCB_ATOM_CARDINAL, start, length), nullptr));
+        if (!reply || reply->type != XCB_ATOM_CARDINAL || reply->format != 32)
+            return {};
+        const auto *values = static_cast<const quint32 *>(xcb_get_property_value(reply.get()));
+        return {{values, values + reply->value_len}, reply->bytes_after / 4};
+    };
+    return chosenIcon(read, side);
 }
