@@ -107,6 +107,12 @@ void Gestures::cancel()
     takeMarkAway();
 }
 
+void Gestures::command(GestureEvent event)
+{
+    event.time = windows_.time();
+    take(event);
+}
+
 void Gestures::hearPress(const QString &action, quint32 time)
 {
     if (const auto event = eventOf(action, time)) {
@@ -170,7 +176,7 @@ bool Gestures::perform(GestureStep step, const GestureEvent &event)
 {
     switch (step) {
     case GestureStep::Begin:
-        return begin();
+        return begin(event);
     case GestureStep::Move:
         return move(event);
     case GestureStep::Choose:
@@ -181,6 +187,9 @@ bool Gestures::perform(GestureStep step, const GestureEvent &event)
         return true;
     case GestureStep::WatchModifiers:
         keys_.beginHeld();
+        return true;
+    case GestureStep::WatchSession:
+        session_.begin();
         return true;
     case GestureStep::TakeKeyboard:
         session_.begin();
@@ -202,10 +211,11 @@ bool Gestures::perform(GestureStep step, const GestureEvent &event)
     return true;
 }
 
-bool Gestures::begin()
+bool Gestures::begin(const GestureEvent &event)
 {
     takeMarkAway();
     run_.emplace(settings_);
+    run_->takesKeys = event.kind != Kind::Command;
     overlay_.setStyle(settings_.overlay);
     if (!read())
         return false;
@@ -222,7 +232,7 @@ bool Gestures::move(const GestureEvent &event)
 {
     if (!run_->isCurrent && !read())
         return false;
-    const bool isPress = event.kind == Kind::Movement;
+    const bool isPress = event.kind != Kind::Repeat;
     const bool hasMoved =
         run_->selection.move(event.movement, isPress ? MovementKind::Press : MovementKind::Repeat, run_->world);
     if (!showSelected(hasMoved ? 0 : selected()))
@@ -261,7 +271,7 @@ bool Gestures::read()
 void Gestures::show()
 {
     overlay_.showOverlay(gestureView(run_->world, run_->selection.selected(), run_->labels));
-    if (run_->labels.isEmpty() && !labels_.isActive())
+    if (run_->takesKeys && run_->labels.isEmpty() && !labels_.isActive())
         labels_.start(run_->settings.labelsAtOnce ? 0ms : hesitation);
 }
 

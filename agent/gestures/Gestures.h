@@ -42,6 +42,9 @@ public:
     void apply(const QVariantMap &settings);
     /// Ends the gesture that is on as if nothing had been; harmless where none is.
     void cancel();
+    /// Something that no key asks for happens now. A selection that a movement begins so takes nothing from the
+    /// keyboard.
+    void command(GestureEvent event);
 
     /// 0 where none is on.
     quint32 selected() const { return run_ ? run_->selection.selected() : 0; }
@@ -73,6 +76,7 @@ private:
         GestureSettings settings;
         Selection selection;
         WindowWorld world;
+        bool takesKeys = true; ///< those of the digits, when they come up
         bool isCurrent = false; ///< read for the event that is being taken
         quint32 origin = 0; ///< the window with the focus when it began
         QHash<int, quint32> labels; ///< digits with their windows
@@ -81,7 +85,7 @@ private:
     void hearPress(const QString &action, quint32 time);
     void take(const GestureEvent &event);
     bool perform(GestureStep step, const GestureEvent &event);
-    bool begin();
+    bool begin(const GestureEvent &event);
     bool move(const GestureEvent &event);
     bool read();
     bool showSelected(quint32 before);

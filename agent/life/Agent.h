@@ -1,7 +1,7 @@
 #pragma once
 
 #include "agent/actions/Actions.h"
-#include "agent/gestures/Gestures.h"
+#include "agent/gestures/GestureCommands.h"
 #include "agent/keys/AgentHotKeys.h"
 #include "agent/life/AgentSettings.h"
 #include "agent/notices/AgentNotices.h"
@@ -30,6 +30,8 @@ public:
     const Gestures &gestures() const { return gestures_; }
     Actions &actions() { return actions_; }
     const Actions &actions() const { return actions_; }
+    /// What scripts do with windows in its stead.
+    GestureCommands commands() { return GestureCommands(gestures_); }
 
     /// Reads the settings, observes the pane and announces itself. Called once, when the name is owned.
     void launch();

@@ -1,5 +1,7 @@
 #include "agent/life/AgentArguments.h"
 
+#include "agent/gestures/GestureCommands.h"
+
 #include <QHash>
 
 const char *const agentHelp =
@@ -11,6 +13,9 @@ usage: LumarooAgent [--foreground]
        LumarooAgent --set KEY [-TYPE] VALUE
        LumarooAgent --start-at-login on|off
        LumarooAgent --quit
+       LumarooAgent --move left|right|up|down|under
+       LumarooAgent --accept
+       LumarooAgent --cancel
 
   without an option      runs until it is told to quit; at most one runs in a session
   --foreground           runs, with a line on standard output for each event
@@ -19,7 +24,11 @@ usage: LumarooAgent [--foreground]
   --set                  stores a setting, tells the running agent and announces the change
   --start-at-login       whether the desktop starts the agent at login; at first it does not
   --quit                 asks the running agent to quit, and waits until it has
+  --move                 has the running agent select the next window there; --accept turns to it, --cancel leaves it
   --help, --version      show this; show the version
+
+A selection that --move begins takes no key from other programs. It stays until it is accepted or cancelled, until the
+session is locked or sleeps, or until nothing has been done with it for 30 s.
 
 Values:
   -bool    true or false, yes or no, 1 or 0
@@ -44,8 +53,9 @@ const QHash<QString, Action> &actions()
         {QStringLiteral("--print-settings"), Action::PrintSettings},
         {QStringLiteral("--print-windows"), Action::PrintWindows}, {QStringLiteral("--set"), Action::Set},
         {QStringLiteral("--start-at-login"), Action::StartAtLogin}, {QStringLiteral("--quit"), Action::Quit},
-        {QStringLiteral("--help"), Action::Help}, {QStringLiteral("-h"), Action::Help},
-        {QStringLiteral("--version"), Action::Version}};
+        {QStringLiteral("--move"), Action::Move}, {QStringLiteral("--accept"), Action::Accept},
+        {QStringLiteral("--cancel"), Action::Cancel}, {QStringLiteral("--help"), Action::Help},
+        {QStringLiteral("-h"), Action::Help}, {QStringLiteral("--version"), Action::Version}};
     return all;
 }
 
@@ -60,6 +70,14 @@ bool takeSwitch(QStringList &arguments)
     if (text != QStringLiteral("on") && text != QStringLiteral("off"))
         throw UsageError(QStringLiteral("--start-at-login is on or off"));
     return text == QStringLiteral("on");
+}
+
+QString takeDirection(QStringList &arguments)
+{
+    const QString text = arguments.isEmpty() ? QString() : arguments.takeFirst();
+    if (!movementNames().contains(text))
+        throw UsageError(QStringLiteral("--move goes one of %1").arg(movementNames().join(QStringLiteral(", "))));
+    return text;
 }
 
 QVariant takeValueToSet(QStringList &arguments)
@@ -98,6 +116,8 @@ AgentRequest parseAgentArguments(QStringList arguments)
         takeSetting(request, arguments);
     else if (request.action == Action::StartAtLogin)
         request.startAtLogin = takeSwitch(arguments);
+    else if (request.action == Action::Move)
+        request.direction = takeDirection(arguments);
     if (!arguments.isEmpty())
         throw UsageError(QStringLiteral("\"%1\" is too much").arg(arguments.first()));
     return request;

@@ -5,12 +5,25 @@
 /// What the command line asks of the program.
 struct AgentRequest
 {
-    enum class Action { Run, PrintSettings, PrintWindows, Set, StartAtLogin, Quit, Help, Version };
+    enum class Action {
+        Run,
+        PrintSettings,
+        PrintWindows,
+        Set,
+        StartAtLogin,
+        Quit,
+        Move,
+        Accept,
+        Cancel,
+        Help,
+        Version
+    };
     Action action = Action::Run;
     bool foreground = false; ///< say on standard output what happens
     QString key; ///< what to set
     QVariant value;
     bool startAtLogin = false;
+    QString direction; ///< where to move
 };
 
 /// Throws UsageError.

@@ -23,14 +23,35 @@ void print(const char *text)
         throw CommandFailure(QStringLiteral("standard output takes no more"));
 }
 
-void printSettings(const AgentRequest &)
+/// What the running agent answers.
+QString needRunningAgent(const char *method, const QVariantList &arguments = {})
 {
-    const AgentAnswer answer = askRunningAgent(QStringLiteral("Settings"));
+    const AgentAnswer answer = askRunningAgent(QString::fromLatin1(method), arguments);
     if (answer.outcome == AgentAnswer::Outcome::NotRunning)
         throw CommandFailure(QStringLiteral("no agent runs"));
     if (answer.outcome == AgentAnswer::Outcome::Failed)
         throw CommandFailure(answer.text);
-    print(answer.text.toUtf8().constData());
+    return answer.text;
+}
+
+void printSettings(const AgentRequest &)
+{
+    print(needRunningAgent("Settings").toUtf8().constData());
+}
+
+void move(const AgentRequest &request)
+{
+    needRunningAgent("Move", {request.direction});
+}
+
+void accept(const AgentRequest &)
+{
+    needRunningAgent("Accept");
+}
+
+void cancel(const AgentRequest &)
+{
+    needRunningAgent("Cancel");
 }
 
 void printWindows(const AgentRequest &)
@@ -101,6 +122,7 @@ void perform(const AgentRequest &request)
     using Action = AgentRequest::Action;
     static const QHash<Action, void (*)(const AgentRequest &)> commands{{Action::PrintSettings, printSettings},
         {Action::PrintWindows, printWindows}, {Action::Set, setValue}, {Action::StartAtLogin, startAtLogin},
-        {Action::Quit, quit}, {Action::Help, help}, {Action::Version, version}};
+        {Action::Quit, quit}, {Action::Move, move}, {Action::Accept, accept}, {Action::Cancel, cancel},
+        {Action::Help, help}, {Action::Version, version}};
     commands.value(request.action)(request);
 }

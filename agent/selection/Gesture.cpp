@@ -21,6 +21,10 @@ QList<GestureStep> Gesture::takeInIdle(const GestureEvent &event)
 {
     if (event.kind == Kind::Snap)
         return {GoBack};
+    if (event.kind == Kind::Command) {
+        enter(State::Persistent);
+        return {Begin, Move, WatchSession};
+    }
     if (event.kind == Kind::Movement && !rules_.onlyByDoublePress) {
         enter(State::Held);
         return {Begin, Move, WatchModifiers};
@@ -40,6 +44,7 @@ QList<GestureStep> Gesture::takeInGesture(const GestureEvent &event)
     switch (event.kind) {
     case Kind::Movement:
     case Kind::Repeat:
+    case Kind::Command:
         return {Move};
     case Kind::Digit:
         return endWith({Choose, Accept});

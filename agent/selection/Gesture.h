@@ -21,6 +21,7 @@ struct GestureEvent
     enum class Kind : quint8 {
         Movement, ///< a movement key, with what it leads to
         Repeat, ///< the same key held
+        Command, ///< a movement that no key asks for
         Cancel,
         Snap,
         Digit, ///< a label's
@@ -44,7 +45,8 @@ enum class GestureStep : quint8 {
     Choose, ///< the event's digit
     Show, ///< without having moved
     WatchModifiers, ///< until one of them is released
-    TakeKeyboard,
+    WatchSession, ///< until its user leaves
+    TakeKeyboard, ///< and watch the session
     TellOfKeyboard, ///< that only the combinations work
     Accept, ///< turn to what is selected
     Drop, ///< end as if nothing had been

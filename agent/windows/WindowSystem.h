@@ -23,6 +23,10 @@ public:
     /// notActivated() follows later, within 500 ms, unless activate() is called again before.
     virtual void activate(quint32 windowID, quint32 time) = 0;
 
+    /// The time of something that no key or button decided: now, in the display's own clock. 0 without a display. Waits
+    /// for the display.
+    virtual quint32 time() = 0;
+
 Q_SIGNALS:
     /// It has the focus, or a modal window of its own has.
     void activated(quint32 windowID);

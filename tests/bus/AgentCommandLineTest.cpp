@@ -79,6 +79,40 @@ TEST_F(TheCommandLine, hasNothingToPrintWhereNoAgentRuns)
     EXPECT_EQ(result.errors, "LumarooAgent: no agent runs\n");
 }
 
+TEST_F(TheCommandLine, movesNothingWhereNoAgentRuns)
+{
+    for (const QStringList &arguments : QList<QStringList>{{"--move", "left"}, {"--accept"}, {"--cancel"}}) {
+        const ProgramResult result = runAgent(arguments);
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(result.output, "");
+        EXPECT_EQ(result.errors, "LumarooAgent: no agent runs\n");
+    }
+}
+
+TEST_F(TheCommandLine, saysThatAnAgentOfAnotherVersionCannotMove)
+{
+    QObject other;
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    ASSERT_TRUE(bus.registerService(KTXLMAgentID));
+    bus.registerObject("/com/quorvane/LumarooAgent", KTXLMAgentID, &other, QDBusConnection::ExportAllContents);
+    AgentProgram command({"--move", "left"});
+    EXPECT_EQ(command.exitStatus(), 1);
+    EXPECT_EQ(command.errors(), "LumarooAgent: the running agent is of another version and cannot do that\n");
+    bus.unregisterObject("/com/quorvane/LumarooAgent");
+    bus.unregisterService(KTXLMAgentID);
+}
+
+TEST_F(TheCommandLine, saysWhyNothingCameOfAMove)
+{
+    AgentProgram agent;
+    ASSERT_TRUE(agent.waitForLaunch());
+    EXPECT_EQ(runAgent({"--move", "left"}).errors, "LumarooAgent: there is no X server\n");
+    EXPECT_EQ(runAgent({"--accept"}).errors, "LumarooAgent: no window is selected\n");
+    const ProgramResult result = runAgent({"--cancel"});
+    EXPECT_EQ(result.errors, "LumarooAgent: no window is selected\n");
+    EXPECT_EQ(result.status, 1);
+}
+
 TEST_F(TheCommandLine, doesNotWaitWithoutEndForAnAgentThatDoesNotAnswer)
 {
     AgentProgram agent;
@@ -185,7 +219,8 @@ TEST_F(TheCommandLine, explainsItselfWhereItMakesNoSense)
     for (const QStringList &arguments : QList<QStringList>{{"--bogus"}, {"bogus"}, {"-foreground"}, {"--set"},
              {"--set", "key"}, {"--set", "--quit"}, {"--set", "key", "-bool"}, {"--set", "key", "-bool", "maybe"},
              {"--set", "key", "-5"}, {"--set", "key", "a", "b"}, {"--start-at-login"}, {"--start-at-login", "perhaps"},
-             {"--quit", "--print-settings"}, {"--foreground", "now"}, {""}}) {
+             {"--quit", "--print-settings"}, {"--foreground", "now"}, {"--move"}, {"--move", "away"},
+             {"--move", "--accept"}, {"--move", "left", "up"}, {"--accept", "left"}, {"--cancel", "--accept"}, {""}}) {
         const ProgramResult result = runAgent(arguments);
         EXPECT_EQ(result.status, 2) << arguments.join(' ').toStdString();
         EXPECT_EQ(result.output, "");
@@ -236,6 +271,7 @@ TEST_F(TheCommandLine, findsTheAgentThroughTheCheckedInInterface)
     QFile file(qEnvironmentVariable("LUMAROO_SOURCE") + "/agent/life/com.quorvane.LumarooAgent.xml");
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QStringList described = methodsOf(file.readAll(), KTXLMAgentID);
-    EXPECT_EQ(described, QStringList({"Version out i", "Settings out s", "ReadSettings", "Quit"}));
+    EXPECT_EQ(described,
+        QStringList({"Version out i", "Settings out s", "ReadSettings", "Quit", "Move in s", "Accept", "Cancel"}));
     EXPECT_EQ(methodsOf(answer.arguments().value(0).toString().toUtf8(), KTXLMAgentID), described);
 }

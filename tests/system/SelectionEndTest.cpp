@@ -1,56 +1,16 @@
 // However a selection ends, the keyboard is free and nothing of it is left on screen.
 
 #include "KTXConstants.h"
+#include "LoginManager.h"
 #include "OtherClient.h"
-#include "SecondBus.h"
 #include "SelectionSession.h"
 #include "Wait.h"
 
-#include <QDBusConnection>
-#include <QDBusMessage>
 #include <csignal>
 #include <linux/input-event-codes.h>
 #include <random>
 
 namespace {
-
-/// A system bus of the test's own, on which the test stands for the login manager.
-class LoginManager
-{
-public:
-    /// Has a program find this bus.
-    QMap<QString, QString> variables() const { return {{QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"), address()}}; }
-
-    void lock()
-    {
-        say(QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/login1/session/_31"),
-            QStringLiteral("org.freedesktop.login1.Session"), QStringLiteral("Lock")));
-    }
-    void prepareForSleep()
-    {
-        QDBusMessage signal = QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/login1"),
-            QStringLiteral("org.freedesktop.login1.Manager"), QStringLiteral("PrepareForSleep"));
-        signal << true;
-        say(signal);
-    }
-
-private:
-    QString address() const { return bus_.environment().value(QStringLiteral("DBUS_SESSION_BUS_ADDRESS")); }
-    void say(const QDBusMessage &signal)
-    {
-        QDBusConnection connection = QDBusConnection::connectToBus(address(), QStringLiteral("login-manager"));
-        ASSERT_TRUE(connection.registerService(QStringLiteral("org.freedesktop.login1")));
-        ASSERT_TRUE(connection.send(signal));
-        QDBusConnection::disconnectFromBus(QStringLiteral("login-manager"));
-    }
-
-    SecondBus bus_;
-};
-
-struct WithLoginManager
-{
-    LoginManager loginManager;
-};
 
 class SelectionEnd : private WithLoginManager, public SelectionSession
 {

@@ -55,3 +55,25 @@ void AgentObject::Quit()
     // Later, so that the answer goes first.
     QMetaObject::invokeMethod(&agent_, &Agent::terminate, Qt::QueuedConnection);
 }
+
+void AgentObject::Move(const QString &direction)
+{
+    tell(agent_.commands().move(direction));
+}
+
+void AgentObject::Accept()
+{
+    tell(agent_.commands().accept());
+}
+
+void AgentObject::Cancel()
+{
+    tell(agent_.commands().cancel());
+}
+
+/// Whoever asked has an error where there is one.
+void AgentObject::tell(const QString &failure) const
+{
+    if (!failure.isEmpty())
+        sendErrorReply(QDBusError::Failed, failure);
+}

@@ -30,7 +30,12 @@ public Q_SLOTS:
     Q_SCRIPTABLE QString Settings() const;
     Q_SCRIPTABLE void ReadSettings();
     Q_SCRIPTABLE void Quit();
+    Q_SCRIPTABLE void Move(const QString &direction);
+    Q_SCRIPTABLE void Accept();
+    Q_SCRIPTABLE void Cancel();
 
 private:
+    void tell(const QString &failure) const;
+
     Agent &agent_;
 };

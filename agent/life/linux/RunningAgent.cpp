@@ -20,17 +20,22 @@ AgentAnswer failure(const QDBusError &error)
         return {AgentAnswer::Outcome::Failed, QStringLiteral("the running agent does not answer")};
     if (meansNoOwner(error))
         return {AgentAnswer::Outcome::NotRunning, {}};
+    if (error.type() == QDBusError::UnknownMethod)
+        return {
+            AgentAnswer::Outcome::Failed, QStringLiteral("the running agent is of another version and cannot do that")};
     return {AgentAnswer::Outcome::Failed, error.message()};
 }
 
 } // namespace
 
-AgentAnswer askRunningAgent(const QString &method)
+AgentAnswer askRunningAgent(const QString &method, const QVariantList &arguments)
 {
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return {AgentAnswer::Outcome::Failed, QStringLiteral("there is no session bus")};
-    const QDBusMessage answer = bus.call(agentCall(method), QDBus::Block, longestAnswer);
+    QDBusMessage call = agentCall(method);
+    call.setArguments(arguments);
+    const QDBusMessage answer = bus.call(call, QDBus::Block, longestAnswer);
     if (answer.type() != QDBusMessage::ReplyMessage) {
         // The bus library's thread still has to do with a call that was not answered; a program must not exit
         // meanwhile.

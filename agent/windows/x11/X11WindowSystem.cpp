@@ -1,6 +1,7 @@
 #include "agent/windows/x11/X11WindowSystem.h"
 
 #include "agent/windows/x11/MonitorReading.h"
+#include "agent/windows/x11/ServerTime.h"
 #include "agent/windows/x11/WindowReading.h"
 
 X11WindowSystem::X11WindowSystem()
@@ -52,4 +53,9 @@ void X11WindowSystem::activate(quint32 windowID, quint32 time)
     else
         QMetaObject::invokeMethod(
             this, [this, windowID] { Q_EMIT notActivated(windowID); }, Qt::QueuedConnection);
+}
+
+quint32 X11WindowSystem::time()
+{
+    return connection_ ? currentServerTime() : 0;
 }
