@@ -3,6 +3,7 @@
 #include "KTXConstants.h"
 #include "agent/keys/ActionKeyTable.h"
 #include "agent/life/NewerAgent.h"
+#include "agent/life/TutorialStart.h"
 #include "agent/life/linux/AgentName.h"
 #include "agent/life/linux/ProgramReplacement.h"
 #include "platform/foundation/bundles/NSBundle.h"
@@ -181,8 +182,9 @@ void Agent::startAnew(const QString &program)
 
 void Agent::hearTutorialRequest()
 {
-    NSLog(QStringLiteral("lumaroo: agent: the tutorial was asked for; this version has none"));
     Q_EMIT tutorialRequested();
+    if (!startTutorial())
+        notices_.tellOfMissingTutorial();
 }
 
 void Agent::goOn(const QString &program, const QString &error)

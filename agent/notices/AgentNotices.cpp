@@ -63,6 +63,12 @@ void AgentNotices::lookAtKeys()
     notices_.tell(notice);
 }
 
+void AgentNotices::tellOfMissingTutorial()
+{
+    notices_.tell({QStringLiteral("tutorial"), localized("The tutorial cannot be started"),
+        localized("A part of Lumaroo is missing. Install it again."), {}});
+}
+
 void AgentNotices::handleRefusal(const GestureRefusal &refusal)
 {
     // Another window each time; the others stay as they are.

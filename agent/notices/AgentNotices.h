@@ -17,6 +17,8 @@ public:
     /// Tells of movement keys that other programs hold, with other modifiers to take. Called when the keys have
     /// followed the settings.
     void lookAtKeys();
+    /// Tells that the tutorial, which was asked for, could not be started.
+    void tellOfMissingTutorial();
 
 Q_SIGNALS:
     /// The user takes these modifiers.

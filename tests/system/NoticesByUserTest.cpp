@@ -1,5 +1,6 @@
 // The real agent beside a program that holds its keys, and a notification server.
 
+#include "AgentBundle.h"
 #include "AgentProgram.h"
 #include "AgentSession.h"
 #include "KTXConstants.h"
@@ -70,4 +71,19 @@ TEST_F(NoticesByUser, goToTheLogWhereNobodyShowsThem)
         return agent.errors().contains(
             QStringLiteral("Another program holds Lumaroo's keys: Lumaroo does not get ⌃⌥←."));
     }));
+}
+
+TEST_F(NoticesByUser, tellThatTheTutorialIsMissing)
+{
+    NotificationServer server;
+    const AgentBundle bundle(builtVersion()); // the agent alone
+    AgentProgram agent({QStringLiteral("--foreground")}, bundle.executable());
+    ASSERT_TRUE(waitForLaunchOf(agent));
+    for (int i = 0; i < 2; ++i)
+        paneAnnounces(KTXLMRunTutorial);
+    ASSERT_TRUE(waitUntil([&] { return server.bubbles().size() == 2; }));
+    EXPECT_EQ(server.bubbles().first().title, u"The tutorial cannot be started");
+    EXPECT_EQ(server.bubbles().first().text, u"A part of Lumaroo is missing. Install it again.");
+    EXPECT_EQ(agent.errors().count(QStringLiteral("LumarooTutorial.app does not start")), 2);
+    EXPECT_TRUE(agent.isRunning());
 }

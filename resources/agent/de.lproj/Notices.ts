@@ -43,5 +43,13 @@
         <source>Use %1</source>
         <translation>%1 verwenden</translation>
     </message>
+    <message>
+        <source>The tutorial cannot be started</source>
+        <translation>Die Einführung lässt sich nicht starten</translation>
+    </message>
+    <message>
+        <source>A part of Lumaroo is missing. Install it again.</source>
+        <translation>Ein Teil von Lumaroo fehlt. Installieren Sie es neu.</translation>
+    </message>
 </context>
 </TS>
