@@ -29,6 +29,7 @@ const QMap<QString, QStringList> &layers()
         {QStringLiteral("pane"), {crashreporter, updater, updaterCore, shared, appkit, foundation}},
         {QStringLiteral("host"), {appkit, foundation}},
         {agent, {shared, foundation}},
+        {QStringLiteral("tutorial"), {QStringLiteral("host"), shared, appkit, foundation}},
         {QStringLiteral("tools"), {updaterCore, shared, foundation}},
         {QStringLiteral("launcher"), {}},
     };

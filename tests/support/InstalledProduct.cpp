@@ -48,7 +48,8 @@ InstalledProduct::InstalledProduct()
 InstalledProduct::~InstalledProduct()
 {
     // The launchers first: they would bring back what is killed after them.
-    for (const QString &program : {launcher(), HostProgram::builtExecutable(), agentProgram(), agentItself()})
+    for (const QString &program :
+        {launcher(), HostProgram::builtExecutable(), tutorialProgram(), agentProgram(), agentItself()})
         killProcessesOf(program);
     qputenv("XDG_DATA_HOME", previousData_);
 }
@@ -56,6 +57,11 @@ InstalledProduct::~InstalledProduct()
 QString InstalledProduct::agentProgram() const
 {
     return pane_ + QStringLiteral("/Contents/Resources/LumarooAgent.app/Contents/Linux/LumarooAgent");
+}
+
+QString InstalledProduct::tutorialProgram() const
+{
+    return pane_ + QStringLiteral("/Contents/Resources/LumarooTutorial.app/Contents/Linux/LumarooTutorial");
 }
 
 void InstalledProduct::install(int version) const

@@ -24,6 +24,7 @@ protected:
 
     QString pane() const { return pane_; }
     QString agentProgram() const;
+    QString tutorialProgram() const;
     QString launcher() const { return pane_ + QStringLiteral("/Contents/Resources/launcher"); }
     /// Puts code of a version in place of what is there, as an installer does: pane and agent.
     void install(int version) const;

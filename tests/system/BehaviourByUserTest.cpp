@@ -4,6 +4,7 @@
 #include "InstalledProduct.h"
 #include "KTXConstants.h"
 #include "KeyPress.h"
+#include "RunningPrograms.h"
 #include "Wait.h"
 
 #include <QWidget>
@@ -68,6 +69,8 @@ TEST_F(BehaviourByUser, theTutorialIsAskedOfTheRunningAgent)
     EXPECT_TRUE(agent.waitForLine("tutorial requested"));
     EXPECT_EQ(agents().size(), 1);
     EXPECT_EQ(agent.lines().count("tutorial requested"), 1);
+    EXPECT_TRUE(waitUntil([] { return activeWindowTitle() == "Circle"; })) << "its first step is before the settings";
+    EXPECT_EQ(processesOf(tutorialProgram()).size(), 1);
 }
 
 TEST_F(BehaviourByUser, theTutorialStartsAnAgentThatIsOffAndIsHeardByIt)
@@ -82,6 +85,7 @@ TEST_F(BehaviourByUser, theTutorialStartsAnAgentThatIsOffAndIsHeardByIt)
     EXPECT_EQ(linesOfAgent().count("tutorial requested"), 1);
     EXPECT_EQ(linesOfAgent().filter("launched").size(), 1);
     EXPECT_EQ(bus.names().count(KTXLMRunTutorial), 1);
+    EXPECT_TRUE(waitUntil([] { return activeWindowTitle() == "Circle"; }));
 }
 
 TEST_F(BehaviourByUser, theTutorialIsNotRunForAnotherSender)

@@ -101,6 +101,15 @@ TEST_F(InstalledFiles, thePaneHasTheAgentAndTheLibraryItRunsWith)
             QString("share/dbus-1/interfaces/com.quorvane.LumarooAgent.xml")}));
 }
 
+TEST_F(InstalledFiles, thePaneHasTheTutorialBesideTheAgent)
+{
+    const QString tutorial =
+        "lib/lumaroo/PreferencePanes/Lumaroo.prefPane/Contents/Resources/LumarooTutorial.app/Contents/";
+    EXPECT_THAT(files(),
+        testing::IsSupersetOf({tutorial + "Info.plist", tutorial + "Linux/LumarooTutorial",
+            tutorial + "Resources/de.lproj/Tutorial.qm", tutorial + "Resources/de.lproj/Localizable.qm"}));
+}
+
 TEST_F(InstalledFiles, whatAsksForWebPagesAndShowsHelpLiesBesideTheLibraryThatLoadsIt)
 {
     EXPECT_THAT(files(),
@@ -123,17 +132,16 @@ TEST_F(InstalledFiles, theUpdaterLiesInThePanesBundle)
     EXPECT_THAT(files().filter(QRegularExpression("liblumaroo-.*\\.so$")), testing::IsEmpty()) << "for who links only";
 }
 
-TEST_F(InstalledFiles, theAgentRunsFromWhereverThePrefixIsMovedTo)
+TEST_F(InstalledFiles, theAgentAndTheTutorialRunFromWhereverThePrefixIsMovedTo)
 {
     const QString moved = folder.path() + "/moved";
     ASSERT_TRUE(QDir().rename(prefix, moved));
     // Without the library beside the bundles: the agent has its own.
     for (const QString &library : QDir(moved + "/lib/lumaroo").entryList({"liblumaroo-*"}))
         ASSERT_TRUE(QFile::remove(moved + "/lib/lumaroo/" + library));
-    run(moved
-            + "/lib/lumaroo/PreferencePanes/Lumaroo.prefPane/Contents/Resources/LumarooAgent.app/Contents/Linux/"
-              "LumarooAgent",
-        {"--version"});
+    const QString resources = moved + "/lib/lumaroo/PreferencePanes/Lumaroo.prefPane/Contents/Resources/";
+    run(resources + "LumarooAgent.app/Contents/Linux/LumarooAgent", {"--version"});
+    run(resources + "LumarooTutorial.app/Contents/Linux/LumarooTutorial", {"--version"});
 }
 
 TEST_F(InstalledFiles, removingWhatTheManifestListsLeavesNoFile)

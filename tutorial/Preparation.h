@@ -1,0 +1,31 @@
+#pragma once
+
+#include "tutorial/AgentReport.h"
+
+#include <QStringList>
+
+/// What keeps the tutorial from its first step.
+enum class Obstacle : quint8 {
+    None,
+    Asking, ///< the agent has yet to answer
+    NoBus,
+    AgentOff,
+    AgentDoesNotStart,
+    AgentSilent,
+    NoHotKeys, ///< in this session at all
+    NoModifiers, ///< none are chosen
+    KeysHeld, ///< by another program
+    KeysUseless ///< no step is possible with the keys that are set
+};
+
+struct Preparation
+{
+    Obstacle obstacle = Obstacle::None;
+    QStringList keys = {}; ///< that another program holds, as people read them
+    quint32 offered = 0; ///< modifiers that would do; 0 where none are known
+
+    bool operator==(const Preparation &) const = default;
+};
+
+/// From what the agent that runs says.
+Preparation preparationFor(const AgentReport &report);
