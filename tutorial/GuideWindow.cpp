@@ -35,7 +35,10 @@ QLabel *textLabel(QWidget *parent, const char *name, int lines)
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignLeading | Qt::AlignTop);
-    label->setMinimumHeight(lines * label->fontMetrics().lineSpacing());
+    QFont larger = label->font();
+    larger.setPointSizeF(larger.pointSizeF() * 1.1);
+    label->setFont(larger);
+    label->setMinimumHeight(lines * QFontMetrics(larger).lineSpacing());
     return label;
 }
 
@@ -193,8 +196,8 @@ void GuideWindow::setRemark(const GuidePage &page)
 void GuideWindow::giveRoom()
 {
     layout()->activate();
-    const int needed = layout()->totalHeightForWidth(guideWidth);
-    setFixedSize(guideWidth, std::max({needed, height(), layout()->totalMinimumSize().height()}));
+    tallest_ = std::max({tallest_, layout()->totalHeightForWidth(guideWidth), layout()->totalMinimumSize().height()});
+    setFixedSize(guideWidth, tallest_);
 }
 
 QString GuideWindow::spokenText() const
@@ -204,7 +207,9 @@ QString GuideWindow::spokenText() const
 
 void GuideWindow::focusButton()
 {
-    for (QPushButton *button : {first_, second_, skip_, back_}) {
+    // Return shall not leave by mistake.
+    const bool isStep = back_->isVisibleTo(this);
+    for (QPushButton *button : {isStep ? skip_ : first_, second_}) {
         if (button->isVisibleTo(this) && button->isEnabled()) {
             button->setFocus(Qt::OtherFocusReason);
             return;

@@ -40,6 +40,7 @@ private:
     void setRemark(const GuidePage &page);
     void giveRoom();
 
+    int tallest_ = 0; ///< page so far
     StyledLabel *progress_ = nullptr;
     ProgressDots *dots_ = nullptr;
     StyledLabel *title_ = nullptr;

@@ -52,6 +52,30 @@ QPainterPath outline(Shape shape)
     return path;
 }
 
+void paint(QPainter &painter, Shape shape, const QRectF &room)
+{
+    const double radius = std::min(room.width(), room.height()) / 2;
+    QTransform place;
+    place.translate(room.center().x(), room.center().y());
+    place.scale(radius, radius);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(place.map(outline(shape)), QColor(colors.at(size_t(shape))));
+}
+
+/// A window that is covered is known by its icon.
+QIcon iconOf(Shape shape)
+{
+    QIcon icon;
+    for (const int side : {16, 32, 64, 128}) {
+        QPixmap picture(side, side);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        paint(painter, shape, picture.rect());
+        icon.addPixmap(picture);
+    }
+    return icon;
+}
+
 } // namespace
 
 QString shapeName(Shape shape)
@@ -63,6 +87,7 @@ PracticeWindow::PracticeWindow(Shape shape) : shape_(shape)
 {
     setObjectName(QString::fromLatin1(names.at(size_t(shape))));
     setWindowTitle(shapeName(shape));
+    setWindowIcon(iconOf(shape));
     setAccessibleName(shapeName(shape));
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -72,15 +97,9 @@ void PracticeWindow::paintEvent(QPaintEvent *)
 {
     const QColor color(colors.at(size_t(shape_)));
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(rect(), mixed(palette().color(QPalette::Base), color, 0.14F));
     const int name = fontMetrics().height() + 16;
-    const QRectF room = QRectF(rect()).adjusted(0, 12, 0, -name);
-    const double radius = std::min(room.width(), room.height()) / 2;
-    QTransform place;
-    place.translate(room.center().x(), room.center().y());
-    place.scale(radius, radius);
-    painter.fillPath(place.map(outline(shape_)), color);
+    paint(painter, shape_, QRectF(rect()).adjusted(0, 12, 0, -name));
     painter.setPen(palette().color(QPalette::Text));
     QFont bold = font();
     bold.setBold(true);

@@ -36,8 +36,7 @@ constexpr ObstacleTexts obstacleTexts[]{
     {Obstacle::KeysHeld, "Another program holds Lumaroo's keys", "Lumaroo does not get %1.", Wish::AskAgain,
         "&Ask again"},
     {Obstacle::KeysUseless, "The keys do not work",
-        "Choose other keys on the page “Keys” of Lumaroo's settings, then ask again.", Wish::AskAgain,
-        "&Ask again"},
+        "Choose other keys on the page “Keys” of Lumaroo's settings, then ask again.", Wish::AskAgain, "&Ask again"},
 };
 
 const ObstacleTexts &textsOf(Obstacle obstacle)
@@ -54,7 +53,7 @@ GuidePage::Button useButton(quint32 modifiers)
     return {Wish::UseModifiers, tutorialText("&Use %1").arg(modifierGlyphs(modifiers))};
 }
 
-/// As "Control+Super (⌃⌘)".
+/// Control+Super (⌃⌘).
 QString namesAndGlyphs(quint32 modifiers)
 {
     return QStringLiteral("%1 (%2)").arg(modifierNames(modifiers), modifierGlyphs(modifiers));

@@ -1,5 +1,6 @@
 #include "tutorial/Stage.h"
 
+#include "tutorial/TutorialText.h"
 #include "tutorial/WindowRequests.h"
 
 #include <QCloseEvent>
@@ -19,6 +20,7 @@ public:
         setAttribute(Qt::WA_ShowWithoutActivating);
         setAttribute(Qt::WA_QuitOnClose, false);
         setFocusPolicy(Qt::NoFocus);
+        setWindowTitle(tutorialText("Lumaroo tutorial"));
         leaveOutOfTaskBars(this);
     }
 

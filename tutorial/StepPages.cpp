@@ -63,8 +63,10 @@ const QString &keyAfter(const StepTexts &texts, const AgentReport &report)
 
 QString filled(const char *text, const StepTexts &texts, const AgentReport &report)
 {
-    return tutorialText(text).arg(
-        modifierNames(report.modifiers), keyName(report, texts.key), keyName(report, keyAfter(texts, report)));
+    return tutorialText(text)
+        .replace(QStringLiteral("%1"), modifierNames(report.modifiers))
+        .replace(QStringLiteral("%2"), keyName(report, texts.key))
+        .replace(QStringLiteral("%3"), keyName(report, keyAfter(texts, report)));
 }
 
 GuidePage::Cap between(const char *text)

@@ -6,6 +6,7 @@
 #include "tutorial/WindowRequests.h"
 
 #include <QGuiApplication>
+#include <QIcon>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QWindow>
@@ -43,7 +44,15 @@ void TutorialApplication::start()
     guide_.move(stageLayout(guide_.screen()->availableGeometry(), guide_.size()).guide);
     guide_.show();
     guide_.focusButton();
-    QMetaObject::invokeMethod(&course_, &Course::begin, Qt::QueuedConnection);
+    turnTo(&guide_);
+    QMetaObject::invokeMethod(this, &TutorialApplication::begin, Qt::QueuedConnection);
+}
+
+/// Looking for the icon would hold the first window up.
+void TutorialApplication::begin()
+{
+    guide_.setWindowIcon(QIcon::fromTheme(QGuiApplication::desktopFileName()));
+    course_.begin();
 }
 
 void TutorialApplication::raise()

@@ -23,6 +23,7 @@ protected:
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
+    void begin();
     void showPage();
     void showStage(Shape front);
     void hideStage();

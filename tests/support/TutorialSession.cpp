@@ -6,6 +6,16 @@
 
 #include <QDir>
 #include <csignal>
+#include <linux/input-event-codes.h>
+
+namespace {
+
+bool hasTheKeyboard(const QString &title)
+{
+    return activeWindowTitle() == title && windowWithKeyboard() == activeWindow();
+}
+
+} // namespace
 
 TutorialProgram::TutorialProgram(const QMap<QString, QString> &variables)
 {
@@ -68,11 +78,32 @@ void TutorialSession::startTutorial(const QMap<QString, QString> &variables)
     tutorial = std::make_unique<TutorialProgram>(variables);
 }
 
+bool TutorialSession::isActive(const QString &title)
+{
+    return waitUntil([&] { return hasTheKeyboard(title); });
+}
+
+bool TutorialSession::isAtPage(const QString &title)
+{
+    return isActive(title);
+}
+
+testing::AssertionResult TutorialSession::skipTo(int step)
+{
+    static const QStringList windows{"Circle", "Triangle", "Square", "Circle", "Circle", "Star"};
+    for (int i = 1; i < step; ++i) {
+        if (const auto isThere = isAtStep(QStringLiteral("%1 of 6").arg(i), windows.at(i - 1)); !isThere)
+            return isThere;
+        pressKey(KEY_PAGEDOWN);
+    }
+    return isAtStep(QStringLiteral("%1 of 6").arg(step), windows.at(step - 1));
+}
+
 testing::AssertionResult TutorialSession::isAtStep(const QString &place, const QString &window)
 {
     const auto isThere = [&] {
         const QStringList titles = openWindowTitles();
-        return activeWindowTitle() == window && std::any_of(titles.cbegin(), titles.cend(), [&](const QString &title) {
+        return hasTheKeyboard(window) && std::any_of(titles.cbegin(), titles.cend(), [&](const QString &title) {
             return title.startsWith(place + QStringLiteral(" – "));
         });
     };

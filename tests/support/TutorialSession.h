@@ -35,12 +35,14 @@ public:
     void startAgent(const QVariantMap &settings = {});
     void startTutorial(const QMap<QString, QString> &variables = {});
 
-    /// Waits until a window of the tutorial has the focus.
-    static bool isActive(const QString &title) { return SelectionSession::isActive(title); }
+    /// Waits until a window has the focus, and the keyboard.
+    static bool isActive(const QString &title);
     /// Waits for a step, until its first window has the focus.
     static testing::AssertionResult isAtStep(const QString &place, const QString &window);
     /// Waits until the guide, which is on no step, has the focus.
-    static bool isAtPage(const QString &title = QStringLiteral("Lumaroo tutorial")) { return isActive(title); }
+    static bool isAtPage(const QString &title = QStringLiteral("Lumaroo tutorial"));
+    /// Goes to a step, counted from 1, of all six by skipping those before it.
+    static testing::AssertionResult skipTo(int step);
     /// Whether it is stored that the tutorial was closed.
     bool isClosedForGood() const;
 

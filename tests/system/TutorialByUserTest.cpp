@@ -44,7 +44,7 @@ protected:
         ASSERT_TRUE(isAt(4, 6, words.circle, words.of));
         changeOnesMind(held);
         ASSERT_TRUE(isAt(5, 6, words.circle, words.of));
-        goFurther(held);
+        goFurther(held, words);
         ASSERT_TRUE(isAt(6, 6, words.star, words.of));
         pressKey(KEY_PAGEDOWN);
         ASSERT_TRUE(isAtPage(words.name));
@@ -64,13 +64,15 @@ protected:
             keyUp(key);
     }
 
-    static void goFurther(const QList<int> &held)
+    void goFurther(const QList<int> &held, const Words &words)
     {
         for (const int key : held)
             keyDown(key);
         pressKey(KEY_RIGHT);
         pressKey(KEY_RIGHT);
+        ASSERT_TRUE(agent->waitForLine("moved to " + words.triangle));
         pressKey(KEY_ENTER);
+        ASSERT_TRUE(agent->waitForLine("accepted " + words.triangle));
         for (const int key : held)
             keyUp(key);
     }
@@ -118,6 +120,19 @@ TEST_F(TutorialByUser, beginsWithFreeModifiersWhereAnotherProgramHoldsEveryKey)
     EXPECT_TRUE(announces({changedByAgent()}));
     EXPECT_EQ(stored().value(KTXModifierMask), QVariant(0x1100));
     takeTheCourse(controlAndSuper, english);
+}
+
+TEST_F(TutorialByUser, endsWithAWindowThatIsClosedByItsKey)
+{
+    startAgent();
+    startTutorial();
+    ASSERT_TRUE(skipTo(6));
+    pressKey(KEY_W, SelectionSession::modifiers());
+    EXPECT_TRUE(waitUntil([] { return !openWindowTitles().contains("Star"); }));
+    EXPECT_TRUE(isAtPage());
+    pressKey(KEY_O, {KEY_LEFTALT}); // Once more
+    EXPECT_TRUE(isAt(1, 6, "Circle"));
+    EXPECT_TRUE(openWindowTitles().contains("Star"));
 }
 
 TEST_F(TutorialByUser, goesOnWithoutTheKeysThatAnotherProgramHolds)
@@ -181,9 +196,7 @@ TEST_F(TutorialByUser, saysWhatWentWrongAndHasItTriedAgain)
     const ScreenReader reader;
     startAgent();
     startTutorial();
-    ASSERT_TRUE(isAt(1, 6, "Circle"));
-    pressKey(KEY_PAGEDOWN);
-    ASSERT_TRUE(isAt(2, 6, "Triangle"));
+    ASSERT_TRUE(skipTo(2));
     pressKey(KEY_LEFT, SelectionSession::modifiers());
     EXPECT_TRUE(reader.waitForText(tutorial->processId(), "That led somewhere else. Try once more from here."));
     ASSERT_TRUE(isAt(2, 6, "Triangle"));

@@ -19,7 +19,7 @@ AgentReport report()
 {
     AgentReport report;
     for (const KTXActionKey &action : KTXActionKeys())
-        report.keys += {action.preferenceName, action.defaultKeyCode, u"⌃⌥" + action.preferenceName, {}};
+        report.keys += {action.preferenceName, action.defaultKeyCode, QStringLiteral("⌃⌥") + action.preferenceName, {}};
     report.modifiers = 0x1800;
     return report;
 }
