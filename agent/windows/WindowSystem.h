@@ -28,7 +28,7 @@ public:
     virtual quint32 time() = 0;
 
 Q_SIGNALS:
-    /// It has the focus, or a modal window of its own has.
+    /// It has the focus, or a modal window of its own or of its group has.
     void activated(quint32 windowID);
     void notActivated(quint32 windowID);
 };

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr xcb_atom_t utf8Text = 200;
+constexpr xcb_atom_t utf8Text = 200, compoundText = 201;
 
 void expectGoodText(const QString &text)
 {
@@ -33,7 +33,8 @@ WindowFacts factsFrom(const PropertyBytes &property)
         property.type, property.format, property.bytes.sliced(std::min<qsizetype>(4, property.bytes.size()))};
     facts.shadow = marginsOf(rest);
     facts.program = programClassOf(property);
-    facts.title = titleOf(property, utf8Text);
+    facts.title = titleOf(property, {utf8Text, compoundText});
+    groupLeaderOf(property);
     return facts;
 }
 
@@ -44,7 +45,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t size)
     if (size < 2)
         return 0;
     const xcb_atom_t types[]{
-        XCB_ATOM_NONE, XCB_ATOM_CARDINAL, XCB_ATOM_WINDOW, XCB_ATOM_ATOM, XCB_ATOM_STRING, utf8Text};
+        XCB_ATOM_NONE, XCB_ATOM_CARDINAL, XCB_ATOM_WINDOW, XCB_ATOM_ATOM, XCB_ATOM_STRING, utf8Text, compoundText};
     const PropertyBytes property{types[bytes[0] % std::size(types)], quint8(8 << (bytes[1] % 3)),
         {reinterpret_cast<const char *>(bytes + 2), qsizetype(size - 2)}};
     const WindowFacts facts = factsFrom(property);

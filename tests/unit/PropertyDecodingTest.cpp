@@ -9,7 +9,8 @@ using testing::ElementsAre;
 
 namespace {
 
-constexpr xcb_atom_t utf8Text = 300;
+constexpr xcb_atom_t utf8Text = 300, compoundText = 301;
+constexpr TextTypes textTypes{utf8Text, compoundText};
 
 QByteArray bytesOf(const QList<quint32> &values)
 {
@@ -18,7 +19,7 @@ QByteArray bytesOf(const QList<quint32> &values)
 
 QString title(const QByteArray &bytes, xcb_atom_t type = utf8Text)
 {
-    return titleOf({type, 8, bytes}, utf8Text);
+    return titleOf({type, 8, bytes}, textTypes);
 }
 
 } // namespace
@@ -66,9 +67,48 @@ TEST(PropertyDecoding, readsTitlesInWhicheverEncoding)
         QString::fromUtf8("Stra\xc3\x9f"
                           "e"));
     EXPECT_EQ(title("", XCB_ATOM_NONE), "");
-    EXPECT_EQ(titleOf({utf8Text, 32, "text"}, utf8Text), "");
+    EXPECT_EQ(titleOf({utf8Text, 32, "text"}, textTypes), "");
     EXPECT_EQ(title(QByteArray("one\0two", 7)), "one");
     EXPECT_EQ(title("  a\r\nb\x7f "), "a  b");
+}
+
+TEST(PropertyDecoding, readsTitlesThatChangeTheirEncoding)
+{
+    const auto compound = [](const QByteArray &bytes) { return title(bytes, compoundText); };
+    EXPECT_EQ(compound("plain"), "plain");
+    EXPECT_EQ(compound("Caf\xe9"), u"Café");
+    EXPECT_EQ(compound("Caf\xc3\xa9"), u"Café") << "that does not say so";
+    EXPECT_EQ(compound("Caf\x1b-A\xe9 \x1b(Bend"), u"Café end");
+    EXPECT_EQ(compound("\x1b%G\xe2\x82\xac\x1b%@ and \xe9"), u"€ and é");
+    EXPECT_EQ(compound("\x1b%G\xe2\x82\xac"), u"€") << "not ended";
+    EXPECT_EQ(compound("a\x9b\x31]b\x9b]c\xe9"), u"abcé");
+    EXPECT_EQ(compound("\x1b%G\xe2\x9b\x84\x1b%@"), u"⛄") << "a byte that else begins a direction";
+}
+
+TEST(PropertyDecoding, readsNoTitleWithCharactersThatItCannotTell)
+{
+    const auto compound = [](const QByteArray &bytes) { return title(bytes, compoundText); };
+    EXPECT_EQ(compound("\x1b$(B\x46\x7c\x4b\x5c"), "");
+    EXPECT_EQ(compound("known \x1b-B\xe6"), "");
+    EXPECT_EQ(compound("\x1b%/1\x80\x8ciso8859-15\x02\xa4"), "");
+    EXPECT_EQ(compound("\x1b%G\xe2\x82 \x1b%@"), "") << "broken";
+    EXPECT_EQ(compound("cut \x1b%"), "cut");
+    EXPECT_EQ(compound("\x1b%Gcut \xe2\x82"), "cut");
+}
+
+TEST(PropertyDecoding, findsTheLeaderOfAGroup)
+{
+    const auto leader = [](const QList<quint32> &hints, xcb_atom_t type = XCB_ATOM_WM_HINTS) {
+        const QByteArray bytes = bytesOf(hints);
+        return groupLeaderOf({type, 32, bytes});
+    };
+    EXPECT_EQ(leader({64, 0, 0, 0, 0, 0, 0, 0, 7}), 7U);
+    EXPECT_EQ(leader({64 | 3, 1, 1, 0, 0, 0, 0, 0, 7, 8}), 7U);
+    EXPECT_FALSE(leader({3, 1, 1, 0, 0, 0, 0, 0, 7})) << "it does not say so";
+    EXPECT_FALSE(leader({64, 0, 0, 0, 0, 0, 0, 0, 0}));
+    EXPECT_FALSE(leader({64, 0, 0, 0, 0, 0, 0, 7}));
+    EXPECT_FALSE(leader({64, 0, 0, 0, 0, 0, 0, 0, 7}, XCB_ATOM_CARDINAL));
+    EXPECT_FALSE(leader({}));
 }
 
 TEST(PropertyDecoding, cutsTitlesBetweenCharacters)

@@ -65,7 +65,8 @@ std::optional<WindowFacts> ClientReading::take(const WindowAtoms &atoms)
     facts.isTransient = numberOf(bytes(Transient), XCB_ATOM_WINDOW).value_or(XCB_WINDOW_NONE) != XCB_WINDOW_NONE;
     facts.processID = numberOf(bytes(ProcessID), XCB_ATOM_CARDINAL).value_or(0);
     facts.program = programClassOf(bytes(Class));
-    const QString title = titleOf(bytes(Name), atoms.utf8Text);
-    facts.title = title.isEmpty() ? titleOf(bytes(OldName), atoms.utf8Text) : title;
+    const TextTypes types{atoms.utf8Text, atoms.compoundText};
+    const QString title = titleOf(bytes(Name), types);
+    facts.title = title.isEmpty() ? titleOf(bytes(OldName), types) : title;
     return facts;
 }

@@ -1,5 +1,7 @@
 #include "agent/windows/x11/PropertyDecoding.h"
 
+#include "agent/windows/x11/CompoundText.h"
+
 #include <QStringDecoder>
 #include <algorithm>
 #include <cstring>
@@ -13,21 +15,6 @@ QByteArrayView textAt(QByteArrayView bytes)
 {
     const qsizetype end = bytes.indexOf('\0');
     return end < 0 ? bytes : bytes.first(end);
-}
-
-/// Without a character's first bytes at the end, whose others were not asked for.
-QByteArrayView withoutPartAtEnd(QByteArrayView bytes)
-{
-    constexpr qsizetype mostContinuations = 3;
-    qsizetype continuations = 0;
-    const auto fromEnd = [bytes](qsizetype place) { return uchar(bytes[bytes.size() - 1 - place]); };
-    while (continuations < std::min(mostContinuations, bytes.size()) && (fromEnd(continuations) & 0xc0) == 0x80)
-        ++continuations;
-    if (continuations == bytes.size())
-        return bytes;
-    const uchar lead = fromEnd(continuations);
-    const qsizetype needed = lead >= 0xf8 ? 0 : lead >= 0xf0 ? 3 : lead >= 0xe0 ? 2 : lead >= 0xc0 ? 1 : 0;
-    return needed > continuations ? bytes.chopped(continuations + 1) : bytes;
 }
 
 QString inOneLine(QString text)
@@ -59,6 +46,20 @@ bool isText(const PropertyBytes &property)
 
 } // namespace
 
+QByteArrayView withoutPartAtEnd(QByteArrayView bytes)
+{
+    constexpr qsizetype mostContinuations = 3;
+    qsizetype continuations = 0;
+    const auto fromEnd = [bytes](qsizetype place) { return uchar(bytes[bytes.size() - 1 - place]); };
+    while (continuations < std::min(mostContinuations, bytes.size()) && (fromEnd(continuations) & 0xc0) == 0x80)
+        ++continuations;
+    if (continuations == bytes.size())
+        return bytes;
+    const uchar lead = fromEnd(continuations);
+    const qsizetype needed = lead >= 0xf8 ? 0 : lead >= 0xf0 ? 3 : lead >= 0xe0 ? 2 : lead >= 0xc0 ? 1 : 0;
+    return needed > continuations ? bytes.chopped(continuations + 1) : bytes;
+}
+
 std::optional<QList<quint32>> numbersOf(const PropertyBytes &property, xcb_atom_t type)
 {
     if (property.type != type || type == XCB_ATOM_NONE || property.format != itemsOf32Bits)
@@ -85,14 +86,27 @@ std::optional<QMargins> marginsOf(const PropertyBytes &property)
     return QMargins(int(sides->at(0)), int(sides->at(2)), int(sides->at(1)), int(sides->at(3)));
 }
 
-QString titleOf(const PropertyBytes &property, xcb_atom_t utf8Text)
+QString titleOf(const PropertyBytes &property, const TextTypes &types)
 {
     if (!isText(property))
         return {};
     const QByteArrayView text = textAt(property.bytes);
-    if (property.type == utf8Text)
+    if (property.type == types.utf8)
         return inOneLine(QString::fromUtf8(withoutPartAtEnd(text)));
-    return inOneLine(decoded(text));
+    // Some programs write UTF-8 there without saying so, as in what is to be Latin-1.
+    const bool isCompound = property.type == types.compound && (text.contains('\x1b') || !text.isValidUtf8());
+    return inOneLine(isCompound ? compoundText(text).value_or(QString()) : decoded(text));
+}
+
+std::optional<xcb_window_t> groupLeaderOf(const PropertyBytes &hints)
+{
+    constexpr quint32 tellsGroup = 64;
+    constexpr qsizetype leaderPlace = 8;
+    const auto items = numbersOf(hints, XCB_ATOM_WM_HINTS);
+    if (!items || items->size() <= leaderPlace || (items->first() & tellsGroup) == 0)
+        return std::nullopt;
+    const xcb_window_t leader = items->at(leaderPlace);
+    return leader == XCB_WINDOW_NONE ? std::nullopt : std::optional(leader);
 }
 
 ProgramClass programClassOf(const PropertyBytes &property)

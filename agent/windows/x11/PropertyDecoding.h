@@ -33,8 +33,22 @@ std::optional<quint32> numberOf(const PropertyBytes &property, xcb_atom_t type);
 /// What stands around a window's content, or within it: left, right, top and bottom.
 std::optional<QMargins> marginsOf(const PropertyBytes &property);
 
-/// A title in one line, in whichever encoding its type tells. Empty where there is none; whole characters only.
-QString titleOf(const PropertyBytes &property, xcb_atom_t utf8Text);
+/// The types of texts besides Latin-1.
+struct TextTypes
+{
+    xcb_atom_t utf8 = XCB_ATOM_NONE;
+    xcb_atom_t compound = XCB_ATOM_NONE;
+};
+
+/// A title in one line, in whichever encoding its type tells. Empty where there is none, or none that can be read;
+/// whole characters only.
+QString titleOf(const PropertyBytes &property, const TextTypes &types);
+
+/// Of a text that was cut: without a character's first bytes at the end, whose others were not asked for.
+QByteArrayView withoutPartAtEnd(QByteArrayView utf8);
+
+/// The window that leads the group of a window, by its hints (WM_HINTS).
+std::optional<xcb_window_t> groupLeaderOf(const PropertyBytes &hints);
 
 /// A program's name for the window, and its class.
 struct ProgramClass

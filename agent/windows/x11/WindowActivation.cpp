@@ -10,7 +10,7 @@ constexpr int mostMilliseconds = 500;
 constexpr int mostRepetitions = 3;
 constexpr quint32 fromUserByPager = 2;
 constexpr quint32 onAllDesktops = 0xffffffff;
-constexpr quint32 mostStates = 64;
+constexpr quint32 mostStates = 64, mostHints = 9;
 // Of dialogs on dialogs.
 constexpr int mostParents = 8;
 
@@ -135,17 +135,41 @@ bool WindowActivation::isActive() const
     return active != XCB_WINDOW_NONE && (active == window_ || isModalChild(active));
 }
 
+/// Of the window itself, or of all windows of its group where it belongs to none of them.
 bool WindowActivation::isModalChild(xcb_window_t window) const
 {
-    const auto askedState = askProperty(server_.connection, window, server_.atoms.windowState, mostStates);
-    const ReceivedProperty state(server_.connection, askedState);
-    if (!numbersOf(state.bytes(), XCB_ATOM_ATOM).value_or(QList<quint32>()).contains(server_.atoms.stateModal))
+    if (!isModal(window))
         return false;
-    for (int step = 0; step < mostParents && window != XCB_WINDOW_NONE && window != window_; ++step) {
+    for (int step = 0; step < mostParents; ++step) {
         const auto asked = askProperty(server_.connection, window, XCB_ATOM_WM_TRANSIENT_FOR, 1);
-        window = take(server_, asked, XCB_ATOM_WINDOW).value_or(XCB_WINDOW_NONE);
+        const xcb_window_t parent = take(server_, asked, XCB_ATOM_WINDOW).value_or(XCB_WINDOW_NONE);
+        if (parent == window_)
+            return true;
+        if (parent == XCB_WINDOW_NONE || parent == server_.screen->root)
+            return isModal(window) && isOfGroup(window);
+        window = parent;
     }
-    return window == window_;
+    return false;
+}
+
+bool WindowActivation::isModal(xcb_window_t window) const
+{
+    const auto asked = askProperty(server_.connection, window, server_.atoms.windowState, mostStates);
+    const ReceivedProperty states(server_.connection, asked);
+    return numbersOf(states.bytes(), XCB_ATOM_ATOM).value_or(QList<quint32>()).contains(server_.atoms.stateModal);
+}
+
+/// A group's leader may be one of its windows.
+bool WindowActivation::isOfGroup(xcb_window_t window) const
+{
+    const auto leader = groupLeader(window);
+    return leader && (leader == window_ || leader == groupLeader(window_));
+}
+
+std::optional<xcb_window_t> WindowActivation::groupLeader(xcb_window_t window) const
+{
+    const auto asked = askProperty(server_.connection, window, XCB_ATOM_WM_HINTS, mostHints);
+    return groupLeaderOf(ReceivedProperty(server_.connection, asked).bytes());
 }
 
 void WindowActivation::finish(bool isActive)

@@ -32,6 +32,9 @@ private:
     bool hasActiveWindowChanged();
     bool isActive() const;
     bool isModalChild(xcb_window_t window) const;
+    bool isModal(xcb_window_t window) const;
+    bool isOfGroup(xcb_window_t window) const;
+    std::optional<xcb_window_t> groupLeader(xcb_window_t window) const;
     void finish(bool isActive);
 
     WindowServer server_;

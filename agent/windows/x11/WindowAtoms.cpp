@@ -12,6 +12,7 @@ const struct
     const char *name;
 } names[]{
     {&WindowAtoms::utf8Text, "UTF8_STRING"},
+    {&WindowAtoms::compoundText, "COMPOUND_TEXT"},
     {&WindowAtoms::supported, "_NET_SUPPORTED"},
     {&WindowAtoms::supportingManager, "_NET_SUPPORTING_WM_CHECK"},
     {&WindowAtoms::clientList, "_NET_CLIENT_LIST"},

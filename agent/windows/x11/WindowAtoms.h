@@ -7,7 +7,7 @@
 /// The names of properties, of their types and of what they list, as this server numbers them.
 struct WindowAtoms
 {
-    xcb_atom_t utf8Text;
+    xcb_atom_t utf8Text, compoundText;
 
     xcb_atom_t supported, supportingManager, clientList, clientsByStack, activeWindow, currentDesktop;
 
