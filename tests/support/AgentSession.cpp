@@ -86,7 +86,8 @@ int AgentSession::builtVersion()
     return intValue(NSBundle::infoDictionaryOnDisk(AgentProgram::builtBundle()).value("CFBundleVersion"));
 }
 
-AgentSessionAfterFirstLaunch::AgentSessionAfterFirstLaunch()
+AgentSessionAfterFirstLaunch::AgentSessionAfterFirstLaunch(QVariantMap settings)
 {
-    store({{KTXFirstLaunch, true}});
+    settings.insert(KTXFirstLaunch, true);
+    store(settings);
 }

@@ -42,5 +42,6 @@ private:
 class AgentSessionAfterFirstLaunch : public AgentSession
 {
 public:
-    AgentSessionAfterFirstLaunch();
+    /// Its user has chosen these settings besides.
+    explicit AgentSessionAfterFirstLaunch(QVariantMap settings = {});
 };

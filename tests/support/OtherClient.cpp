@@ -173,23 +173,41 @@ void OtherClient::setModifierKeys(const QList<QList<int>> &keys)
     EXPECT_TRUE(reply && reply->status == XCB_MAPPING_STATUS_SUCCESS);
 }
 
-quint64 OtherClient::resourcesOf(qint64 process)
+QList<quint32> OtherClient::clientsOf(qint64 process)
 {
     xcb_connection_t *const server = connection_.get();
     fromServer(xcb_res_query_version_reply(server, xcb_res_query_version(server, 1, 2), nullptr));
     const xcb_res_client_id_spec_t everybody{0, XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID};
-    const auto clients =
+    const auto reply =
         fromServer(xcb_res_query_client_ids_reply(server, xcb_res_query_client_ids(server, 1, &everybody), nullptr));
+    QList<quint32> clients;
+    for (auto id = xcb_res_query_client_ids_ids_iterator(reply.get()); id.rem > 0; xcb_res_client_id_value_next(&id)) {
+        if (*xcb_res_client_id_value_value(id.data) == quint32(process))
+            clients += id.data->spec.client;
+    }
+    return clients;
+}
+
+quint64 OtherClient::resourcesOf(qint64 process)
+{
     quint64 count = 0;
-    for (auto id = xcb_res_query_client_ids_ids_iterator(clients.get()); id.rem > 0;
-         xcb_res_client_id_value_next(&id)) {
-        if (*xcb_res_client_id_value_value(id.data) != quint32(process))
-            continue;
+    for (const quint32 client : clientsOf(process)) {
         const auto resources = fromServer(xcb_res_query_client_resources_reply(
-            server, xcb_res_query_client_resources(server, id.data->spec.client), nullptr));
+            connection_.get(), xcb_res_query_client_resources(connection_.get(), client), nullptr));
         for (auto type = xcb_res_query_client_resources_types_iterator(resources.get()); type.rem > 0;
              xcb_res_type_next(&type))
             count += type.data->count;
     }
     return count;
+}
+
+quint64 OtherClient::pictureBytesOf(qint64 process)
+{
+    quint64 bytes = 0;
+    for (const quint32 client : clientsOf(process)) {
+        const auto reply = fromServer(xcb_res_query_client_pixmap_bytes_reply(
+            connection_.get(), xcb_res_query_client_pixmap_bytes(connection_.get(), client), nullptr));
+        bytes += reply ? quint64(reply->bytes_overflow) << 32 | reply->bytes : 0;
+    }
+    return bytes;
 }

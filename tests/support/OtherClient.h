@@ -42,10 +42,14 @@ public:
     QList<QList<int>> modifierKeys();
     void setModifierKeys(const QList<QList<int>> &keys);
 
-    /// How many passive grabs and event selections the server keeps for the connections of a process.
+    /// How many windows, passive grabs, event selections and the like the server keeps for the connections of a
+    /// process.
     quint64 resourcesOf(qint64 process);
+    /// How many bytes of pictures it keeps for them.
+    quint64 pictureBytesOf(qint64 process);
 
 private:
+    QList<quint32> clientsOf(qint64 process);
     xcb_window_t rootOf(int screen) const;
     bool grabKeyboard(xcb_grab_mode_t keys);
     void useKeyboardExtension();

@@ -2,6 +2,8 @@
 
 #include "DisplayRoot.h"
 #include "KTXConstants.h"
+#include "KTXModifiers.h"
+#include "OtherClient.h"
 #include "Wait.h"
 #include "platform/foundation/system/X11.h"
 
@@ -18,23 +20,49 @@ QProcessEnvironment environmentWith(const QMap<QString, QString> &variables)
     return environment;
 }
 
+/// As long as no agent runs it is the window manager who holds them.
+bool managerHoldsArrows()
+{
+    static const bool areHeld = OtherClient().isHeldElsewhere(KEY_LEFT, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1);
+    return areHeld;
+}
+
+QVariantMap chosenModifiers()
+{
+    if (!managerHoldsArrows())
+        return {};
+    return {{KTXModifierMask, KTXControlModifier | KTXCommandModifier}};
+}
+
+bool isAgents(xcb_connection_t *server, xcb_window_t window)
+{
+    constexpr QByteArrayView agent("LumarooAgent");
+    const auto asked = xcb_get_property(server, 0, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 0, 64);
+    const auto reply = fromServer(xcb_get_property_reply(server, asked, nullptr));
+    return reply
+        && QByteArrayView(
+            static_cast<const char *>(xcb_get_property_value(reply.get())), xcb_get_property_value_length(reply.get()))
+               .startsWith(agent);
+}
+
 } // namespace
 
 SelectionSession::SelectionSession(const QMap<QString, QString> &variables)
-    : agent({QStringLiteral("--foreground")}, AgentProgram::builtExecutable(), environmentWith(variables))
+    : AgentSessionAfterFirstLaunch(chosenModifiers()),
+      agent({QStringLiteral("--foreground")}, AgentProgram::builtExecutable(), environmentWith(variables))
 {
 }
 
 void SelectionSession::open(const QVariantMap &settings)
 {
     const QList<std::pair<const char *, QPoint>> places{
-        {"left", {50, 50}}, {"middle", {400, 60}}, {"right", {800, 70}}, {"below", {60, 500}}};
+        {"left", {50, 50}}, {"middle", {360, 60}}, {"right", {800, 70}}, {"below", {60, 500}}};
     for (const auto &[title, place] : places) {
-        windows_.emplace_back(QString::fromLatin1(title), QRect(place, QSize(250, 200)));
-        ASSERT_TRUE(windows_.back().show());
+        const QString name = QString::fromLatin1(title);
+        windows_.try_emplace(name, name, QRect(place, QSize(250, 200)));
+        ASSERT_TRUE(window(name).show());
     }
-    turnToWindow(windows_.front().id());
-    ASSERT_TRUE(isActive(QStringLiteral("left")));
+    ASSERT_TRUE(window(QStringLiteral("left")).takesFocus());
     ASSERT_TRUE(waitForLaunchOf(agent));
     if (settings.isEmpty())
         return;
@@ -45,10 +73,15 @@ void SelectionSession::open(const QVariantMap &settings)
     ASSERT_TRUE(agent.waitForLine(QStringLiteral("settings read (2)")));
 }
 
+WindowOfAnotherProgram &SelectionSession::window(const QString &title)
+{
+    return windows_.at(title);
+}
+
 const QList<int> &SelectionSession::modifiers()
 {
-    static const QList<int> controlAndAlt{KEY_LEFTCTRL, KEY_LEFTALT};
-    return controlAndAlt;
+    static const QList<int> controlAndAlt{KEY_LEFTCTRL, KEY_LEFTALT}, controlAndSuper{KEY_LEFTCTRL, KEY_LEFTMETA};
+    return managerHoldsArrows() ? controlAndSuper : controlAndAlt;
 }
 
 void SelectionSession::holdModifiers()
@@ -92,21 +125,23 @@ testing::AssertionResult SelectionSession::says(const QStringList &lines)
     return testing::AssertionFailure() << agent.lines().join(u'\n').toStdString() << agent.errors().toStdString();
 }
 
-int SelectionSession::marksOnScreen()
+QList<QRect> SelectionSession::marks()
 {
     const XConnection connection = connectToXServer();
     xcb_connection_t *const server = connection.get();
     const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(server)).data->root;
     const auto tree = fromServer(xcb_query_tree_reply(server, xcb_query_tree(server, root), nullptr));
-    int marks = 0;
+    QList<QRect> marks;
     for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i) {
         const xcb_window_t window = xcb_query_tree_children(tree.get())[i];
+        // Window managers and compositors have some like it.
+        if (!isAgents(server, window))
+            continue;
         const auto state =
             fromServer(xcb_get_window_attributes_reply(server, xcb_get_window_attributes(server, window), nullptr));
-        // Window managers' own ones are outside the screen.
         const auto place = fromServer(xcb_get_geometry_reply(server, xcb_get_geometry(server, window), nullptr));
-        const bool isShown = state && place && state->override_redirect && state->map_state == XCB_MAP_STATE_VIEWABLE;
-        marks += isShown && place->x >= 0 && place->y >= 0 ? 1 : 0;
+        if (state && place && state->map_state == XCB_MAP_STATE_VIEWABLE)
+            marks += QRect(place->x, place->y, place->width, place->height);
     }
     return marks;
 }

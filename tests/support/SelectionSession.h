@@ -7,6 +7,7 @@
 #include "WindowOfAnotherProgram.h"
 
 #include <deque>
+#include <map>
 
 /// The real agent beside four windows, three in a row and one below the first, which has the focus; and a user at the
 /// keyboard. The titles tell where each stands: "left", "middle", "right", "below".
@@ -19,7 +20,11 @@ public:
     /// Opens the windows, and waits for the agent, which goes by these settings.
     void open(const QVariantMap &settings = {});
 
-    // The activation modifiers, Control and Alt.
+    /// One of the windows, by its title.
+    WindowOfAnotherProgram &window(const QString &title);
+
+    // The activation modifiers: Control and Alt, or what users choose where the window manager holds the arrows with
+    // these, Control and Super.
     static const QList<int> &modifiers();
     static void holdModifiers();
     static void releaseModifiers();
@@ -32,11 +37,12 @@ public:
     QStringList steps();
     /// Waits until these are the steps.
     testing::AssertionResult says(const QStringList &lines);
-    /// Windows of the agent that are on screen.
-    static int marksOnScreen();
+    /// Where windows of the agent are on screen, and how many.
+    static QList<QRect> marks();
+    static int marksOnScreen() { return int(marks().size()); }
 
     AgentProgram agent;
 
 private:
-    std::deque<WindowOfAnotherProgram> windows_;
+    std::map<QString, WindowOfAnotherProgram> windows_;
 };

@@ -27,6 +27,13 @@ QByteArray bytesOf(const QList<quint32> &values)
     return {reinterpret_cast<const char *>(values.constData()), values.size() * qsizetype(sizeof(quint32))};
 }
 
+bool isOnDesktop(quint32 window, quint32 desktop)
+{
+    constexpr quint32 onAll = 0xffffffff;
+    const quint32 own = desktopOfWindow(window);
+    return own == desktop || own == onAll;
+}
+
 } // namespace
 
 WindowOfAnotherProgram::WindowOfAnotherProgram(const QString &title, const QRect &place)
@@ -132,7 +139,23 @@ void WindowOfAnotherProgram::map()
 bool WindowOfAnotherProgram::show()
 {
     map();
-    return waitUntil([this] { return listedWindows().contains(id_); });
+    // Some managers list it a while before they put it on screen and give it the focus.
+    return waitUntil(
+        [this] { return listedWindows().contains(id_) && (isOnScreen() || !isOnDesktop(id_, currentDesktop())); });
+}
+
+bool WindowOfAnotherProgram::takesFocus() const
+{
+    turnToWindow(id_);
+    waitForWindowManager();
+    return waitUntil([this] { return activeWindow() == id_; });
+}
+
+bool WindowOfAnotherProgram::isOnScreen() const
+{
+    const auto state = fromServer(
+        xcb_get_window_attributes_reply(connection_.get(), xcb_get_window_attributes(connection_.get(), id_), nullptr));
+    return state && state->map_state == XCB_MAP_STATE_VIEWABLE;
 }
 
 bool WindowOfAnotherProgram::takesState(const QByteArray &state, const QByteArray &other)

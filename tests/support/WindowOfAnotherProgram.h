@@ -40,8 +40,11 @@ public:
 
     /// Asks for it to be shown, and does not wait.
     void map();
-    /// Has it managed, and waits until it is; false when that does not come about.
+    /// Has it managed, and waits until it is, and on screen if it is on this desktop; false when that does not come
+    /// about.
     bool show();
+    /// Has its user turn to it, and waits until it has the focus and the manager has heard of all before.
+    bool takesFocus() const;
     /// Has its manager add one or two states such as "FULLSCREEN", and waits until it has them.
     bool takesState(const QByteArray &state, const QByteArray &other = {});
     /// Has its manager bring it to a desktop, or to all (0xffffffff), and waits until it is there.
@@ -51,6 +54,7 @@ public:
 
 private:
     WindowOfAnotherProgram(std::shared_ptr<xcb_connection_t> connection, const QString &title, const QRect &place);
+    bool isOnScreen() const;
 
     std::shared_ptr<xcb_connection_t> connection_;
     quint32 id_ = 0;

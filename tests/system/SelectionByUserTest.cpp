@@ -29,6 +29,17 @@ TEST_F(SelectionByUser, isThereAfterAQuickTap)
     EXPECT_TRUE(isActive("below"));
 }
 
+TEST_F(SelectionByUser, holdsTheModifiersInAnyOrder)
+{
+    open();
+    keyDown(modifiers().last());
+    keyDown(modifiers().first());
+    pressKey(KEY_RIGHT);
+    EXPECT_TRUE(says({"began", "moved to middle"}));
+    releaseModifiers();
+    EXPECT_TRUE(isActive("middle"));
+}
+
 TEST_F(SelectionByUser, changesItsMindWithEscape)
 {
     open();
@@ -51,6 +62,18 @@ TEST_F(SelectionByUser, pressesTheModifiersTwiceAndWalksWithoutThem)
     pressKey(KEY_ENTER);
     EXPECT_TRUE(says({"began", "moved to middle", "moved to right", "accepted right"}));
     EXPECT_TRUE(isActive("right"));
+}
+
+TEST_F(SelectionByUser, pressesTheModifiersTwiceAndChangesItsMind)
+{
+    open();
+    pressModifiersTwice();
+    EXPECT_TRUE(says({"began"}));
+    pressKey(KEY_RIGHT);
+    pressKey(KEY_ESC);
+    EXPECT_TRUE(says({"began", "moved to middle", "cancelled"}));
+    waitForWindowManager();
+    EXPECT_EQ(activeWindowTitle(), u"left");
 }
 
 TEST_F(SelectionByUser, goesBackWithReturn)
