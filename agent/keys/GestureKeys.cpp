@@ -51,6 +51,7 @@ void GestureKeys::apply(const QVariantMap &settings)
 void GestureKeys::beginHeld()
 {
     isOn_ = true;
+    heldSince_ = lastTime_;
     releaseCheck_.start();
     updateWatch();
 }
@@ -137,7 +138,9 @@ void GestureKeys::handleModifiers(quint32 held, quint32 time)
     const ChordPresses::Outcome outcome = chord_.modifiersDidChange(held, time);
     if (chord_.isWaiting(time) && held == keys_.modifiers())
         chordWatch_.start();
-    if (releaseCheck_.isActive() && (held & keys_.modifiers()) != keys_.modifiers())
+    // What went up before the press ended the gesture before, and may come late: presses come another way.
+    const bool isLate = qint32(time - heldSince_) < 0;
+    if (releaseCheck_.isActive() && !isLate && (held & keys_.modifiers()) != keys_.modifiers())
         tellRelease(time);
     updateWatch();
     tellChord(outcome, time);

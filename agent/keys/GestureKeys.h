@@ -117,5 +117,6 @@ private:
     bool isGrabbed_ = false;
     Keyboard::Events watched_;
     quint32 lastTime_ = 0;
+    quint32 heldSince_ = 0; ///< the time of the press that began the gesture
     QElapsedTimer sinceLastTime_;
 };

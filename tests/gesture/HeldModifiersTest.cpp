@@ -62,6 +62,21 @@ TEST_F(HeldModifiers, areUpAlreadyWhenAQuickPressIsHandled)
     EXPECT_FALSE(areDown);
 }
 
+TEST_F(HeldModifiers, thatWentUpBeforeThePressAreNoRelease)
+{
+    // All of it is there before any is handled, and the presses are handled first.
+    beginsHeld = true;
+    pressKey(KEY_RIGHT, {KEY_LEFTCTRL, KEY_LEFTALT});
+    for (const quint32 start = other.serverTime(); other.serverTime() == start;) { }
+    holdModifiers();
+    pressKey(KEY_RIGHT);
+    LMFreeHotKeyModifiers({VirtualKeyCode(0)}, {controlKey});
+    ASSERT_TRUE(waitUntil([this] { return count(pressedRight) == 2; }));
+    EXPECT_EQ(heard().last(), pressedRight);
+    releaseModifiers();
+    EXPECT_EQ(heard(), released);
+}
+
 TEST_F(HeldModifiers, thatWentUpBeforeTheyWereWatchedAreToldAll)
 {
     const quint32 start = other.serverTime();
