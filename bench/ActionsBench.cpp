@@ -2,12 +2,10 @@
 // be had: a bare copy by shared memory, and libpng with the same settings in the same process. How long it holds up the
 // event loop at most. How often the preview draws while a window draws all the time, and how often it wakes up at rest.
 
-#include "agent/actions/PictureStoring.h"
-#include "agent/actions/x11/PixelCopy.h"
+#include "agent/actions/x11/PictureThread.h"
 #include "agent/actions/x11/PreviewWindow.h"
 #include "bench/Median.h"
 
-#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
@@ -54,10 +52,11 @@ public:
         window.windowRect = window.frameRect = {0, 0, width, height};
         return window;
     }
+    /// A part, as a program does: servers without a graphics card take long for all of it.
     void draw()
     {
-        xcb_clear_area(server(), false, id_, 0, 0, 0, 0);
-        xcb_flush(server());
+        xcb_clear_area(server(), false, id_, 200, 200, 300, 200);
+        sync();
     }
     void sync() const { fromServer(xcb_get_input_focus_reply(server(), xcb_get_input_focus(server()), nullptr)); }
 
@@ -89,56 +88,52 @@ private:
     const xcb_window_t id_;
 };
 
-/// The longest time between two waits of the event loop.
-class LoopWatch
+/// Knows how long each event held up the event loop.
+class WatchedApplication : public QCoreApplication
 {
 public:
-    LoopWatch()
+    using QCoreApplication::QCoreApplication;
+
+    bool notify(QObject *receiver, QEvent *event) override
     {
-        auto *const dispatcher = QAbstractEventDispatcher::instance();
-        QObject::connect(dispatcher, &QAbstractEventDispatcher::awake, &context_, [this] {
-            ++wakeUps_;
-            busySince_ = Clock::now();
-        });
-        QObject::connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, &context_,
-            [this] { longest_ = std::max(longest_, millisecondsSince(busySince_)); });
+        if (QThread::currentThread() != thread())
+            return QCoreApplication::notify(receiver, event);
+        const Clock::time_point start = Clock::now();
+        const bool isHandled = QCoreApplication::notify(receiver, event);
+        longest = std::max(longest, millisecondsSince(start));
+        ++events;
+        return isHandled;
     }
 
-    double longest() const { return longest_; }
-    int wakeUps() const { return wakeUps_; }
-
-private:
-    QObject context_;
-    Clock::time_point busySince_ = Clock::now();
-    double longest_ = 0;
-    int wakeUps_ = 0;
+    double longest = 0; ///< in milliseconds
+    int events = 0;
 };
+
+WatchedApplication *application()
+{
+    return static_cast<WatchedApplication *>(QCoreApplication::instance());
+}
 
 /// As the agent does it; milliseconds without the wait for the window's program.
 double timeOfPicture(const DrawnWindow &window, const QString &program, const QString &folder, double *longestBlock)
 {
     QEventLoop loop;
-    std::unique_ptr<PixelCopy> copy;
-    PictureStoring storing(program);
+    PictureThread thread({window.description(), program, folder, QStringLiteral("Picture")});
     Clock::time_point start;
     double time = -1;
-    QObject::connect(&storing, &PictureStoring::stored, &loop, [&] {
+    QObject::connect(
+        &thread, &PictureThread::drawn, &thread, [&] { start = Clock::now(); }, Qt::DirectConnection);
+    QObject::connect(&thread, &PictureThread::stored, &loop, [&] {
         time = millisecondsSince(start);
         loop.quit();
     });
-    QObject::connect(&storing, &PictureStoring::failed, &loop, &QEventLoop::quit);
-    const LoopWatch watch;
-    const auto begin = [&] {
-        copy = std::make_unique<PixelCopy>(window.description());
-        QObject::connect(copy.get(), &PixelCopy::drawn, &loop, [&] { start = Clock::now(); });
-        QObject::connect(copy.get(), &PixelCopy::failed, &loop, &QEventLoop::quit);
-        QObject::connect(
-            copy.get(), &PixelCopy::copied, &loop,
-            [&] { storing.begin(copy->takePixels(), folder, QStringLiteral("Picture")); }, Qt::QueuedConnection);
-    };
-    QMetaObject::invokeMethod(&loop, begin, Qt::QueuedConnection);
+    QObject::connect(&thread, &PictureThread::notStored, &loop, &QEventLoop::quit);
+    QObject::connect(&thread, &PictureThread::notCopied, &loop, &QEventLoop::quit);
+    application()->longest = 0;
+    QMetaObject::invokeMethod(
+        &loop, [&] { thread.start(); }, Qt::QueuedConnection);
     loop.exec();
-    *longestBlock = watch.longest();
+    *longestBlock = application()->longest;
     return time;
 }
 
@@ -223,8 +218,11 @@ public:
     {
         fromServer(xcb_get_input_focus_reply(connection_.get(), xcb_get_input_focus(connection_.get()), nullptr));
         int count = 0;
-        while (fromServer(xcb_poll_for_event(connection_.get())))
-            ++count;
+        while (const auto event = fromServer(xcb_poll_for_event(connection_.get()))) {
+            // What the server draws of windows below is told with the border.
+            const auto *damage = reinterpret_cast<const xcb_damage_notify_event_t *>(event.get());
+            count += damage->area.x == 0 ? 1 : 0;
+        }
         return count;
     }
 
@@ -239,8 +237,17 @@ void runLoopFor(int milliseconds)
     loop.exec();
 }
 
+/// Some are those by which this ends.
+int eventsOfRest()
+{
+    const int before = application()->events;
+    runLoopFor(restMilliseconds);
+    return application()->events - before;
+}
+
 bool measurePreview(DrawnWindow &window)
 {
+    const int ownEvents = eventsOfRest();
     const Monitor monitor{{0, 0, width, height}, 1, refreshRate};
     const PreviewWindow preview(window.description(), monitor);
     if (!preview.isShown())
@@ -249,18 +256,16 @@ bool measurePreview(DrawnWindow &window)
     PreviewWatch watch(window);
     QTimer drawing;
     QObject::connect(&drawing, &QTimer::timeout, &drawing, [&window] { window.draw(); });
-    drawing.start(1);
+    drawing.start(4);
     const Clock::time_point start = Clock::now();
     runLoopFor(restMilliseconds);
     const double frames = millisecondsSince(start) * refreshRate / 1000;
     drawing.stop();
     std::printf("preview of a window that draws all the time: %.2f redraws in a frame (goal: at most 1)\n",
         watch.take() / frames);
-    runLoopFor(200);
-    const LoopWatch rest;
-    runLoopFor(restMilliseconds);
-    // One is that of the timer by which this ends.
-    std::printf("preview of a window that draws nothing: %d wake-ups in %d s (goal: 0)\n", rest.wakeUps() - 1,
+    window.sync();
+    runLoopFor(500);
+    std::printf("preview of a window that draws nothing: %d wake-ups in %d s (goal: 0)\n", eventsOfRest() - ownEvents,
         restMilliseconds / 1000);
     return true;
 }
@@ -269,7 +274,7 @@ bool measurePreview(DrawnWindow &window)
 
 int main(int argumentCount, char **arguments)
 {
-    QCoreApplication application(argumentCount, arguments);
+    const WatchedApplication watched(argumentCount, arguments);
     const QString program = QCoreApplication::arguments().value(1);
     if (program.isEmpty()) {
         std::fputs("usage: ActionsBench PROGRAM-THAT-STORES-PICTURES\n", stderr);

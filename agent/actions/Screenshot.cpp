@@ -3,7 +3,7 @@
 #include "agent/actions/ActionTexts.h"
 #include "agent/actions/PictureName.h"
 #include "agent/actions/PictureStoring.h"
-#include "agent/actions/x11/PixelCopy.h"
+#include "agent/actions/x11/PictureThread.h"
 #include "agent/gestures/GestureView.h"
 
 #include <cerrno>
@@ -35,6 +35,12 @@ QString sentenceOf(int error, const QString &folder)
     }
 }
 
+PictureOrder orderOf(const WindowDescription &window)
+{
+    return {window, PictureStoring::builtInProgram(), pictureFolder(),
+        pictureName(window.appName, QDateTime::currentDateTime())};
+}
+
 } // namespace
 
 QString reasonForNoPicture(const WindowDescription &window)
@@ -47,23 +53,14 @@ QString reasonForNoPicture(const WindowDescription &window)
 }
 
 Screenshot::Screenshot(const WindowDescription &window)
-    : window_(window), copy_(std::make_unique<PixelCopy>(window)), storing_(std::make_unique<PictureStoring>())
+    : window_(window), thread_(std::make_unique<PictureThread>(orderOf(window)))
 {
-    const QString folder = pictureFolder();
-    connect(copy_.get(), &PixelCopy::copied, this, &Screenshot::store, Qt::QueuedConnection);
-    connect(copy_.get(), &PixelCopy::failed, this,
+    connect(thread_.get(), &PictureThread::stored, this, &Screenshot::taken);
+    connect(thread_.get(), &PictureThread::notCopied, this,
         [this](PictureFailure failure) { Q_EMIT failed(sentenceOf(failure, window_)); });
-    connect(storing_.get(), &PictureStoring::stored, this, &Screenshot::taken);
-    connect(storing_.get(), &PictureStoring::failed, this,
-        [this, folder](int error) { Q_EMIT failed(sentenceOf(error, folder)); });
+    connect(thread_.get(), &PictureThread::notStored, this,
+        [this, folder = pictureFolder()](int error) { Q_EMIT failed(sentenceOf(error, folder)); });
+    thread_->start();
 }
 
 Screenshot::~Screenshot() = default;
-
-void Screenshot::store()
-{
-    WindowPixels pixels = copy_->takePixels();
-    // The server need not keep the window whole any more.
-    copy_.reset();
-    storing_->begin(std::move(pixels), pictureFolder(), pictureName(window_.appName, QDateTime::currentDateTime()));
-}

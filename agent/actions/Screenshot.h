@@ -5,8 +5,7 @@
 #include <QObject>
 #include <memory>
 
-class PictureStoring;
-class PixelCopy;
+class PictureThread;
 
 /// One picture of a window, from its pixels to the file.
 class Screenshot : public QObject
@@ -26,11 +25,8 @@ Q_SIGNALS:
     void failed(const QString &sentence);
 
 private:
-    void store();
-
     const WindowDescription window_;
-    std::unique_ptr<PixelCopy> copy_; ///< until there are pixels
-    const std::unique_ptr<PictureStoring> storing_;
+    const std::unique_ptr<PictureThread> thread_;
 };
 
 /// Why there can be no picture of a window from the outset, as a whole sentence; empty where there can.

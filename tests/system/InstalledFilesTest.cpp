@@ -95,8 +95,9 @@ TEST_F(InstalledFiles, thePaneHasTheAgentAndTheLibraryItRunsWith)
     const QString contents = "lib/lumaroo/PreferencePanes/Lumaroo.prefPane/Contents/";
     const QString agent = contents + "Resources/LumarooAgent.app/Contents/";
     EXPECT_THAT(files(),
-        testing::IsSupersetOf({agent + "Info.plist", agent + "Linux/LumarooAgent", contents + "Resources/launcher",
-            contents + "Resources/installer", contents + "Frameworks/liblumaroo-foundation.so.1",
+        testing::IsSupersetOf({agent + "Info.plist", agent + "Linux/LumarooAgent", agent + "Resources/screenshot",
+            contents + "Resources/launcher", contents + "Resources/installer",
+            contents + "Frameworks/liblumaroo-foundation.so.1",
             contents + "Frameworks/liblumaroo-overlay-pictures.so.100",
             QString("share/dbus-1/interfaces/com.quorvane.LumarooAgent.xml")}));
 }

@@ -38,6 +38,8 @@ const xcb_query_extension_reply_t *ActionConnection::extension(xcb_extension_t *
 /// It comes with events only, such as that of a property that changes.
 xcb_timestamp_t ActionConnection::time() const
 {
+    if (isLost())
+        return XCB_CURRENT_TIME;
     const xcb_window_t window = xcb_generate_id(server());
     const quint32 events = XCB_EVENT_MASK_PROPERTY_CHANGE;
     xcb_create_window(server(), 0, window, root(), 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT,

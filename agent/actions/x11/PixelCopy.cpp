@@ -50,6 +50,7 @@ quint32 rowBytesOf(int width, const xcb_format_t &format)
 
 PixelCopy::PixelCopy(const WindowDescription &window) : window_(connection_, window)
 {
+    xcb_prefetch_extension_data(connection_.server(), &xcb_shm_id);
     for (QTimer *timer : {&quiet_, &limit_}) {
         timer->setSingleShot(true);
         timer->setTimerType(Qt::PreciseTimer);
@@ -135,13 +136,13 @@ bool PixelCopy::shareMemory()
     if (!connection_.extension(&xcb_shm_id))
         return false;
     const auto version = fromServer(xcb_shm_query_version_reply(server, xcb_shm_query_version(server), nullptr));
-    if (!version || std::pair(version->major_version, version->minor_version) < shmVersion)
-        return false;
-    segment_ = xcb_generate_id(server);
     // The library closes what it sends.
     const int sent = ::fcntl(pixels_.memory.get(), F_DUPFD_CLOEXEC, 0);
-    return sent >= 0
-        && !fromServer(xcb_request_check(server, xcb_shm_attach_fd_checked(server, segment_, sent, false)));
+    if (!version || std::pair(version->major_version, version->minor_version) < shmVersion || sent < 0)
+        return false;
+    segment_ = xcb_generate_id(server);
+    xcb_shm_attach_fd(server, segment_, sent, false);
+    return true;
 }
 
 void PixelCopy::copyAtOnce()
@@ -154,7 +155,7 @@ void PixelCopy::copyAtOnce()
         if (reply)
             Q_EMIT copied();
         else
-            fail(PictureFailure::NotPossible);
+            copyNextRows(); // as where the server is on another machine, which looks like this one
     });
 }
 

@@ -156,7 +156,7 @@ void PreviewWindow::drawByNextFrame()
 {
     if (nextFrame_.isActive())
         return;
-    const qint64 frame = qint64(1000 / std::max(1.0, monitor_.refreshRate));
+    const auto frame = qint64(std::ceil(1000 / std::max(1.0, monitor_.refreshRate)));
     const qint64 rest = frame - sinceDrawn_.elapsed();
     if (rest > 0)
         nextFrame_.start(int(rest));

@@ -88,6 +88,6 @@ void WindowCloser::endProgramOf(quint32 window)
     const ActionConnection connection;
     if (connection.isLost())
         return;
-    xcb_kill_client(connection.server(), window);
-    connection.flush();
+    // Waits, since the server may not read what it is sent by a connection that has gone.
+    fromServer(xcb_request_check(connection.server(), xcb_kill_client_checked(connection.server(), window)));
 }
