@@ -2,14 +2,16 @@
 // be had: a bare copy by shared memory, and libpng with the same settings in the same process. How long it holds up the
 // event loop at most. How often the preview draws while a window draws all the time, and how often it wakes up at rest.
 
-#include "agent/actions/x11/PictureThread.h"
-#include "agent/actions/x11/PreviewWindow.h"
+#include "agent/actions/PictureThread.h"
+#include "agent/actions/Preview.h"
 #include "bench/Median.h"
+#include "platform/foundation/system/X11.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <chrono>
 #include <cstdio>
 #include <png.h>
@@ -249,8 +251,8 @@ bool measurePreview(DrawnWindow &window)
 {
     const int ownEvents = eventsOfRest();
     const Monitor monitor{{0, 0, width, height}, 1, refreshRate};
-    const PreviewWindow preview(window.description(), monitor);
-    if (!preview.isShown())
+    const auto preview = showPreview(window.description(), monitor);
+    if (!preview)
         return false;
     runLoopFor(500);
     PreviewWatch watch(window);

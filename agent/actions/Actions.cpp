@@ -7,7 +7,6 @@
 #include "agent/actions/Screenshot.h"
 #include "agent/actions/SettingsProgram.h"
 #include "agent/actions/x11/ActionConnection.h"
-#include "agent/actions/x11/PreviewWindow.h"
 #include "agent/actions/x11/WindowCloser.h"
 #include "agent/gestures/GestureView.h"
 #include "agent/gestures/Gestures.h"
@@ -197,14 +196,12 @@ void Actions::showPreview()
 /// The one before goes only when this one is there.
 void Actions::preview(const Target &target)
 {
-    auto shown = std::make_unique<PreviewWindow>(target.window, monitorOf(target.window, target.world.monitors));
-    if (!shown->isShown()) {
-        hidePreview();
-        return;
+    auto shown = ::showPreview(target.window, monitorOf(target.window, target.world.monitors));
+    if (shown) {
+        connect(shown.get(), &Preview::ended, this, &Actions::hearPreviewsEnd, Qt::QueuedConnection);
+        isPreviewing_ = true;
     }
-    connect(shown.get(), &PreviewWindow::ended, this, &Actions::hearPreviewsEnd, Qt::QueuedConnection);
     preview_ = std::move(shown);
-    isPreviewing_ = true;
 }
 
 void Actions::followWithPreview()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "agent/actions/Closing.h"
+#include "agent/actions/Preview.h"
 #include "agent/notices/Notices.h"
 
 #include <QObject>
@@ -8,7 +9,6 @@
 #include <optional>
 
 class Gestures;
-class PreviewWindow;
 
 /// What the agent does with a window besides choosing it: with the selected one during a gesture, else with the active
 /// one. Asked for by the keys of these actions, and by whoever calls it; nothing goes on between two actions but a
@@ -70,5 +70,5 @@ private:
     WindowDescription unanswering_; ///< the window whose program its user may end
     QString picture_; ///< the last one that was taken
     bool isPreviewing_ = false; ///< also while the selection has no picture
-    std::unique_ptr<PreviewWindow> preview_;
+    std::unique_ptr<Preview> preview_;
 };

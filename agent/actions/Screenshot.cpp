@@ -3,7 +3,7 @@
 #include "agent/actions/ActionTexts.h"
 #include "agent/actions/PictureName.h"
 #include "agent/actions/PictureStoring.h"
-#include "agent/actions/x11/PictureThread.h"
+#include "agent/actions/PictureThread.h"
 #include "agent/gestures/GestureView.h"
 
 #include <cerrno>

@@ -40,21 +40,6 @@ std::optional<GestureEvent> eventOf(const QString &action, quint32 time)
 
 } // namespace
 
-QString sentence(const GestureRefusal &refusal)
-{
-    switch (refusal.kind) {
-    case GestureRefusal::Kind::NoWindow:
-        return QStringLiteral("there is no window to select");
-    case GestureRefusal::Kind::Unreadable:
-        return refusal.detail;
-    case GestureRefusal::Kind::KeyboardKept:
-        return QStringLiteral("another program keeps the keyboard; only the combinations work");
-    case GestureRefusal::Kind::NotActivated:
-        return QStringLiteral("%1 did not come to the front").arg(quoted(refusal.detail));
-    }
-    return {};
-}
-
 Gestures::Gestures(WindowSystem &windows, Overlay &overlay, GestureKeys &keys)
     : windows_(windows), overlay_(overlay), keys_(keys)
 {
@@ -122,36 +107,6 @@ void Gestures::hearPress(const QString &action, quint32 time)
     if (isOn())
         limit_.start(patience);
     Q_EMIT asked(action, time);
-}
-
-void Gestures::select(quint32 windowID)
-{
-    if (!isOn())
-        return;
-    const quint32 before = selected();
-    run_->selection.select(windowID);
-    endUnless(read() && showSelected(before));
-}
-
-void Gestures::followWindows()
-{
-    if (!isOn())
-        return;
-    const quint32 before = selected();
-    const bool isRead = read();
-    if (isRead)
-        run_->selection.follow(run_->world);
-    endUnless(isRead && showSelected(before));
-}
-
-void Gestures::endUnless(bool goesOn)
-{
-    if (goesOn) {
-        run_->isCurrent = false;
-        return;
-    }
-    gesture_.end();
-    finish();
 }
 
 void Gestures::take(const GestureEvent &event)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "agent/gestures/GestureRefusal.h"
 #include "agent/gestures/GestureSettings.h"
 #include "agent/gestures/SessionWatch.h"
 #include "agent/keys/GestureKeys.h"
@@ -8,23 +9,6 @@
 #include <QObject>
 #include <QTimer>
 #include <optional>
-
-/// Why nothing came of a gesture, or not what was meant.
-struct GestureRefusal
-{
-    enum class Kind : quint8 {
-        NoWindow, ///< that can be selected
-        Unreadable, ///< the desktop does not tell its windows
-        KeyboardKept, ///< by another program; the combinations work
-        NotActivated ///< the window that was accepted
-    };
-
-    Kind kind = Kind::NoWindow;
-    QString detail; ///< of what cannot be read, the reason; of a window, its title, which may be empty
-};
-
-/// A sentence without its full stop.
-QString sentence(const GestureRefusal &refusal);
 
 /// Leads a gesture: from the keyboard through the rule of movement to the mark on screen and the window turned to. Each
 /// key is one reading of all windows, and nothing goes on between two gestures.

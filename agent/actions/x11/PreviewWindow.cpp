@@ -40,7 +40,7 @@ xcb_render_pictformat_t formatOf(const xcb_render_query_pict_formats_reply_t *fo
 } // namespace
 
 PreviewWindow::PreviewWindow(const WindowDescription &window, const Monitor &monitor)
-    : source_(connection_, window), windowID_(window.windowID), monitor_(monitor)
+    : source_(connection_, window), monitor_(monitor)
 {
     nextFrame_.setSingleShot(true);
     nextFrame_.setTimerType(Qt::PreciseTimer);

@@ -1,15 +1,14 @@
 #pragma once
 
+#include "agent/actions/Preview.h"
 #include "agent/actions/x11/RedirectedWindow.h"
-#include "agent/windows/WindowWorld.h"
 
 #include <QElapsedTimer>
 #include <QTimer>
 #include <xcb/render.h>
 
-/// The live enlarged picture of one window, above all others. It takes no key, no click and no focus. What the window
-/// draws is shown by the monitor's next frame; while it draws nothing, nobody is woken. Gone with the object.
-class PreviewWindow : public QObject
+/// The preview on an X server.
+class PreviewWindow : public Preview
 {
     Q_OBJECT
 
@@ -18,11 +17,6 @@ public:
 
     /// Whether there is one: the window was on screen, and the server can do that.
     bool isShown() const { return shown_ != XCB_WINDOW_NONE; }
-    quint32 windowID() const { return windowID_; }
-
-Q_SIGNALS:
-    /// The window has gone from the screen, or the display has.
-    void ended();
 
 private:
     bool findFormats();
@@ -36,7 +30,6 @@ private:
 
     ActionConnection connection_;
     RedirectedWindow source_;
-    const quint32 windowID_;
     const Monitor monitor_;
     xcb_render_pictformat_t sourceFormat_ = 0, format_ = 0;
     xcb_window_t shown_ = XCB_WINDOW_NONE;

@@ -1,4 +1,4 @@
-#include "agent/actions/x11/PictureThread.h"
+#include "agent/actions/PictureThread.h"
 
 #include "agent/actions/PictureStoring.h"
 #include "agent/actions/x11/PixelCopy.h"

@@ -1,0 +1,18 @@
+#include "agent/gestures/GestureRefusal.h"
+
+#include "agent/gestures/GestureView.h"
+
+QString sentence(const GestureRefusal &refusal)
+{
+    switch (refusal.kind) {
+    case GestureRefusal::Kind::NoWindow:
+        return QStringLiteral("there is no window to select");
+    case GestureRefusal::Kind::Unreadable:
+        return refusal.detail;
+    case GestureRefusal::Kind::KeyboardKept:
+        return QStringLiteral("another program keeps the keyboard; only the combinations work");
+    case GestureRefusal::Kind::NotActivated:
+        return QStringLiteral("%1 did not come to the front").arg(quoted(refusal.detail));
+    }
+    return {};
+}

@@ -1,0 +1,33 @@
+// What changes the selection without a key.
+
+#include "agent/gestures/Gestures.h"
+
+void Gestures::select(quint32 windowID)
+{
+    if (!isOn())
+        return;
+    const quint32 before = selected();
+    run_->selection.select(windowID);
+    endUnless(read() && showSelected(before));
+}
+
+void Gestures::followWindows()
+{
+    if (!isOn())
+        return;
+    const quint32 before = selected();
+    const bool isRead = read();
+    if (isRead)
+        run_->selection.follow(run_->world);
+    endUnless(isRead && showSelected(before));
+}
+
+void Gestures::endUnless(bool goesOn)
+{
+    if (goesOn) {
+        run_->isCurrent = false;
+        return;
+    }
+    gesture_.end();
+    finish();
+}
