@@ -65,7 +65,8 @@ void Stage::raise()
 {
     for (const auto &ground : grounds_)
         ground->raise();
-    // The star under the square, unless it is the one to be seen.
+    // The star under the square, unless it is the one to be seen. To some window managers the last one to be raised is
+    // the active one.
     for (const Shape shape : {Shape::Star, Shape::Square, Shape::Triangle, Shape::Circle, front_}) {
         window(shape)->show();
         window(shape)->raise();

@@ -82,7 +82,6 @@ void TutorialApplication::showStage(Shape front)
 {
     stage_.setDescription(guide_.spokenText());
     stage_.show(stageLayout(guide_.screen()->availableGeometry(), guide_.size()), front);
-    guide_.raise();
 }
 
 void TutorialApplication::hideStage()

@@ -20,6 +20,12 @@ const QString &service = KTXLMAgentID;
 const QString path = QStringLiteral("/com/quorvane/LumarooAgent");
 constexpr int patience = 5000; // milliseconds
 
+bool meansNoOwner(const QDBusError &error)
+{
+    return error.type() == QDBusError::ServiceUnknown
+        || error.name() == QStringLiteral("org.freedesktop.DBus.Error.NameHasNoOwner");
+}
+
 void call(QObject *caller, const QString &method, const std::function<void(const QDBusMessage &)> &handle)
 {
     QDBusMessage message = QDBusMessage::createMethodCall(service, path, service, method);
@@ -65,7 +71,7 @@ void RunningAgent::ask()
             return;
         if (answer.type() == QDBusMessage::ReplyMessage)
             handleAnswer(answer.arguments().value(0).toString());
-        else if (QDBusError(answer).type() == QDBusError::ServiceUnknown)
+        else if (meansNoOwner(QDBusError(answer)))
             Q_EMIT wentOff();
         else
             Q_EMIT saidNothing();
