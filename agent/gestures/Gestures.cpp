@@ -86,18 +86,6 @@ void Gestures::apply(const QVariantMap &settings)
     gesture_.setRules(settings_.gesture);
 }
 
-void Gestures::cancel()
-{
-    interrupt(0);
-    takeMarkAway();
-}
-
-void Gestures::command(GestureEvent event)
-{
-    event.time = windows_.time();
-    take(event);
-}
-
 void Gestures::hearPress(const QString &action, quint32 time)
 {
     if (const auto event = eventOf(action, time)) {

@@ -1,6 +1,18 @@
-// What changes the selection without a key.
+// What begins, changes and ends a selection without a key.
 
 #include "agent/gestures/Gestures.h"
+
+void Gestures::cancel()
+{
+    interrupt(0);
+    takeMarkAway();
+}
+
+void Gestures::command(GestureEvent event)
+{
+    event.time = windows_.time();
+    take(event);
+}
 
 void Gestures::select(quint32 windowID)
 {
