@@ -73,5 +73,7 @@ QList<ActionEntry> KTXLumarooPreferencePane::actions()
         {QStringLiteral("visit:"), [this](QObject *sender) { visit(sender); }},
         {QStringLiteral("feedback:"), [this](QObject *sender) { feedback(sender); }},
         {QStringLiteral("orderFrontFeedbackWindow:"), [this](QObject *sender) { orderFrontFeedbackWindow(sender); }},
+        {QStringLiteral("useFreeModifiers:"), [this](QObject *) { useFreeModifiers(); }},
+        {QStringLiteral("toggleStartAtLogin:"), [this](QObject *sender) { toggleStartAtLogin(sender); }},
     };
 }

@@ -75,6 +75,7 @@ void KTXLumarooPreferencePane::mainViewDidLoad()
     relaunchIfNewerCodeIsInstalled();
     showVersion();
     showCredits();
+    followDesktop();
 }
 
 void KTXLumarooPreferencePane::startAgentOnFirstRun()

@@ -1,21 +1,18 @@
 #pragma once
 
+#include "pane/KeyCodeTable.h"
 #include "pane/PaneOutlets.h"
 #include "platform/appkit/controls/NSTabViewDelegate.h"
 #include "platform/appkit/interface/NSPreferencePane.h"
 #include "platform/appkit/textfields/NSControlTextEditingDelegate.h"
 #include "platform/appkit/textfields/NSWindowDelegate.h"
 #include "platform/appkit/web/WebFrameLoadDelegate.h"
-#include "platform/foundation/keyboard/VirtualKeyCodes.h"
 #include "platform/foundation/notifications/NSNotification.h"
 #include "platform/foundation/processes/ProcessSerialNumber.h"
 
 class NSAlert;
-class QUrl;
+class PaneDesktop;
 class SUUpdater;
-
-/// Key codes by row: one object, which several names may denote.
-using KeyCodeTable = std::shared_ptr<QList<VirtualKeyCode>>;
 
 /// The settings pane. Each control edits one key of the agent's settings domain, which is then flushed and announced.
 class KTXLumarooPreferencePane : public NSPreferencePane,
@@ -138,6 +135,9 @@ private:
     void storeAndSync(const QString &key, const QVariant &value);
     void activateByDoubleClick(QObject *checkBox);
     void storeSelectedItem(QObject *popUp);
+    void followDesktop();
+    void useFreeModifiers();
+    void toggleStartAtLogin(QObject *sender);
 
     quint32 modifierStateMask_ = 0, toggleStateMask_ = 0;
     int loadedVersion_ = 0;
@@ -146,4 +146,5 @@ private:
     QStringList keyCodePrefNames_;
     KeyCodeTable defaultKeyCodes_, keyCodes_;
     ProcessSerialNumber agentPSN_;
+    PaneDesktop *desktop_ = nullptr;
 };

@@ -1,6 +1,7 @@
 #include "agent/keys/AgentHotKeys.h"
 
 #include "KTXActionKeys.h"
+#include "KTXAgentAnswer.h"
 #include "KTXConstants.h"
 #include "KTXHotKey.h"
 #include "KTXModifiers.h"
@@ -82,6 +83,7 @@ void AgentHotKeys::registerKeys()
 {
     registerAll();
     lookForFreeModifiers();
+    Q_EMIT changed();
 }
 
 void AgentHotKeys::lookForFreeModifiers()
@@ -163,6 +165,7 @@ void AgentHotKeys::release()
         key.refusal = Refusal::GivenUp;
     }
     freeModifiers_.clear();
+    Q_EMIT changed();
 }
 
 void AgentHotKeys::handlePress(const QVariant &hotKey)
@@ -184,6 +187,7 @@ void AgentHotKeys::handleLoss()
             key.refusal = Refusal::NoHotKeys;
     }
     freeModifiers_.clear();
+    Q_EMIT changed();
 }
 
 bool AgentHotKeys::isAnyRefused() const
@@ -205,8 +209,10 @@ QStringList AgentHotKeys::movementKeysHeldByOthers() const
 QList<AgentHotKey> AgentHotKeys::hotKeys() const
 {
     QList<AgentHotKey> hotKeys;
-    for (const ActionKey &key : keys_)
-        hotKeys.append({key.action, key.hotKey->keycode(), key.hotKey->description(), text(refusalNow(key))});
+    for (const ActionKey &key : keys_) {
+        const Refusal refusal = refusalNow(key);
+        hotKeys.append({key.action, key.hotKey->keycode(), key.hotKey->description(), text(refusal), word(refusal)});
+    }
     return hotKeys;
 }
 
@@ -254,4 +260,13 @@ QString AgentHotKeys::text(Refusal refusal)
         return QStringLiteral("it has been given up");
     }
     return {};
+}
+
+QString AgentHotKeys::word(Refusal refusal)
+{
+    static const QHash<Refusal, QString> words{{Refusal::NoModifiers, KTXCauseNoModifiers},
+        {Refusal::DoublePressAlone, KTXCauseDoublePressAlone}, {Refusal::OtherAction, KTXCauseOtherAction},
+        {Refusal::Typing, KTXCauseTyping}, {Refusal::OtherProgram, KTXCauseOtherProgram},
+        {Refusal::NoKey, KTXCauseNoKey}, {Refusal::NoHotKeys, KTXCauseNoHotKeys}, {Refusal::GivenUp, KTXCauseGivenUp}};
+    return words.value(refusal);
 }

@@ -17,6 +17,7 @@ struct AgentHotKey
     VirtualKeyCode keyCode;
     QString combination; ///< glyphs of the modifiers and the key's name
     QString refusal; ///< why it is not registered; empty where it is
+    QString cause; ///< the same for programs, by KTXAgentAnswer.h
 };
 
 /// The keys of the agent's actions, as hot keys of the system. All hot keys of the process are these.
@@ -47,6 +48,8 @@ public:
 Q_SIGNALS:
     /// The keyboard is free: a window may be shown, and a menu opened. The time is the display's, in milliseconds.
     void pressed(const QString &action, const QString &combination, quint32 time);
+    /// What hotKeys() and freeModifiers() tell may be otherwise from now on.
+    void changed();
 
 private:
     /// Why a key is not registered.
@@ -82,6 +85,7 @@ private:
     static Refusal refusalOf(OSStatus status);
     static Refusal refusalNow(const ActionKey &key);
     static QString text(Refusal refusal);
+    static QString word(Refusal refusal);
 
     QList<ActionKey> keys_;
     QList<quint32> freeModifiers_;

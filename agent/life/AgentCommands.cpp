@@ -1,8 +1,8 @@
 #include "agent/life/AgentCommands.h"
 
 #include "KTXConstants.h"
+#include "KTXLoginEntry.h"
 #include "agent/life/AgentSettings.h"
-#include "agent/life/LoginEntry.h"
 #include "agent/life/linux/RunningAgent.h"
 #include "agent/windows/WindowSystem.h"
 #include "agent/windows/WindowTable.h"

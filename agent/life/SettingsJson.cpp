@@ -1,5 +1,7 @@
 #include "agent/life/SettingsJson.h"
 
+#include "KTXAgentAnswer.h"
+
 #include <QDateTime>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -45,11 +47,12 @@ QJsonValue jsonValue(const QVariant &value)
 QJsonObject hotKeyObject(const AgentHotKey &hotKey)
 {
     const bool isRegistered = hotKey.refusal.isEmpty();
-    QJsonObject object{{QStringLiteral("action"), hotKey.action},
-        {QStringLiteral("keyCode"), int(hotKey.keyCode.number())}, {QStringLiteral("combination"), hotKey.combination},
-        {QStringLiteral("registered"), isRegistered}};
-    if (!isRegistered)
+    QJsonObject object{{KTXAnswerAction, hotKey.action}, {KTXAnswerKeyCode, int(hotKey.keyCode.number())},
+        {QStringLiteral("combination"), hotKey.combination}, {KTXAnswerRegistered, isRegistered}};
+    if (!isRegistered) {
         object.insert(QStringLiteral("refusal"), hotKey.refusal);
+        object.insert(KTXAnswerCause, hotKey.cause);
+    }
     return object;
 }
 
@@ -75,7 +78,7 @@ QByteArray settingsJson(int version, qint64 readings, const QVariantMap &setting
     const QList<quint32> &freeModifiers)
 {
     const QJsonObject object{{QStringLiteral("version"), version}, {QStringLiteral("readings"), readings},
-        {QStringLiteral("settings"), jsonObject(settings)}, {QStringLiteral("hotKeys"), hotKeyArray(hotKeys)},
-        {QStringLiteral("freeModifiers"), numberArray(freeModifiers)}};
+        {KTXAnswerSettings, jsonObject(settings)}, {KTXAnswerHotKeys, hotKeyArray(hotKeys)},
+        {KTXAnswerFreeModifiers, numberArray(freeModifiers)}};
     return QJsonDocument(object).toJson();
 }

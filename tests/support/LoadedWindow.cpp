@@ -44,7 +44,8 @@ QStringList actionsOfThePane()
         QStringLiteral("enableChecked:"), QStringLiteral("updatePersistentState:"), QStringLiteral("changeSlider:"),
         QStringLiteral("updateColorInfo:"), QStringLiteral("useSystemColor:"), QStringLiteral("checkForUpdates:"),
         QStringLiteral("autoUpdateChecked:"), QStringLiteral("hideBetaNotes:"), QStringLiteral("visit:"),
-        QStringLiteral("feedback:"), QStringLiteral("orderFrontFeedbackWindow:")};
+        QStringLiteral("feedback:"), QStringLiteral("orderFrontFeedbackWindow:"), QStringLiteral("useFreeModifiers:"),
+        QStringLiteral("toggleStartAtLogin:")};
 }
 
 LoadedWindow::LoadedWindow(const QString &language) : bundle_(QStringLiteral("Window.prefPane"))

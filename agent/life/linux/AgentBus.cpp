@@ -1,5 +1,6 @@
 #include "agent/life/linux/AgentBus.h"
 
+#include "KTXAgentAnswer.h"
 #include "KTXConstants.h"
 
 QString agentService()
@@ -9,7 +10,7 @@ QString agentService()
 
 QString agentPath()
 {
-    return QStringLiteral("/com/quorvane/LumarooAgent");
+    return KTXLMAgentPath;
 }
 
 QDBusMessage agentCall(const QString &method)

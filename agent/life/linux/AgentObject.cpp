@@ -21,6 +21,7 @@ AgentObject::AgentObject(Agent &agent) : agent_(agent)
     connect(gestures, &Gestures::accepted, this, &AgentObject::SelectionAccepted);
     connect(gestures, &Gestures::cancelled, this, &AgentObject::SelectionCancelled);
     connect(gestures, &Gestures::refused, this, &AgentObject::SelectionRefused);
+    connect(&agent.hotKeys(), &AgentHotKeys::changed, this, &AgentObject::HotKeysChanged);
     QDBusConnection::sessionBus().registerObject(
         agentPath(), this, QDBusConnection::ExportScriptableSlots | QDBusConnection::ExportScriptableSignals);
 }

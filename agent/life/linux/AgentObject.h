@@ -23,6 +23,7 @@ Q_SIGNALS:
     Q_SCRIPTABLE void SelectionAccepted();
     Q_SCRIPTABLE void SelectionCancelled();
     Q_SCRIPTABLE void SelectionRefused();
+    Q_SCRIPTABLE void HotKeysChanged();
 
 public Q_SLOTS:
     // The interface on the bus.

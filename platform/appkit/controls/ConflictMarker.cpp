@@ -4,7 +4,6 @@
 #include <QIcon>
 #include <QPainter>
 #include <QStyle>
-#include <utility>
 
 ConflictMarker::ConflictMarker(QWidget *parent) : QWidget(parent)
 {
@@ -29,14 +28,7 @@ bool ConflictMarker::event(QEvent *event)
 void ConflictMarker::tellOfConflict(bool isConflict)
 {
     auto *field = parentWidget() && !field_.isEmpty() ? parentWidget()->findChild<QWidget *>(field_) : nullptr;
-    if (!field || isConflict == fieldsOwnDescription_.has_value())
-        return;
-    if (isConflict) {
-        fieldsOwnDescription_ = field->accessibleDescription();
-        field->setAccessibleDescription((accessibleName() + u' ' + *fieldsOwnDescription_).trimmed());
-    } else {
-        field->setAccessibleDescription(*std::exchange(fieldsOwnDescription_, std::nullopt));
-    }
+    description_.set(field, isConflict ? accessibleName() : QString());
 }
 
 QSize ConflictMarker::sizeHint() const

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "platform/appkit/Export.h"
+#include "platform/appkit/controls/AddedDescription.h"
 
 #include <QWidget>
-#include <optional>
 
 /// The mark beside a hot key field whose key is used twice: an icon with a tool tip.
 ///
@@ -38,5 +38,5 @@ private:
 
     QString text_;
     QString field_;
-    std::optional<QString> fieldsOwnDescription_; // while the field tells of the conflict
+    AddedDescription description_; // of the field, while it tells of the conflict
 };

@@ -71,5 +71,61 @@
         <source>Please make sure you are connected to the Internet and try again later.</source>
         <translation>Bitte prüfen Sie Ihre Internetverbindung und versuchen Sie es später noch einmal.</translation>
     </message>
+    <message>
+        <source>Hold %1 and press %2</source>
+        <translation>Halten Sie %1 und drücken Sie %2</translation>
+    </message>
+    <message>
+        <source>Press %1 twice, then press %2</source>
+        <translation>Drücken Sie %1 zweimal, dann %2</translation>
+    </message>
+    <message>
+        <source>All keys work.</source>
+        <translation>Alle Tasten wirken.</translation>
+    </message>
+    <message>
+        <source>Some keys do not work, since other programs use them. The page “Keys” names them.</source>
+        <translation>Einige Tasten wirken nicht, da andere Programme sie benutzen. Die Seite „Tasten“ nennt sie.</translation>
+    </message>
+    <message>
+        <source>Some keys do not work. The page “Keys” shows all of them.</source>
+        <translation>Einige Tasten wirken nicht. Die Seite „Tasten“ zeigt alle.</translation>
+    </message>
+    <message>
+        <source>No key works, since no modifier keys are chosen.</source>
+        <translation>Keine Taste wirkt, da keine Zusatztasten gewählt sind.</translation>
+    </message>
+    <message>
+        <source>Lumaroo takes no key from other programs.</source>
+        <translation>Lumaroo nimmt anderen Programmen keine Taste weg.</translation>
+    </message>
+    <message>
+        <source>This session has no hot keys for programs. Lumaroo needs an X11 session.</source>
+        <translation>Diese Sitzung lässt Programmen keine eigenen Tasten. Lumaroo braucht eine X11-Sitzung.</translation>
+    </message>
+    <message>
+        <source>%1 is used by another program. Lumaroo cannot take it.</source>
+        <translation>%1 wird von einem anderen Programm benutzt. Lumaroo erhält diese Taste nicht.</translation>
+    </message>
+    <message>
+        <source>%1 are used by other programs. Lumaroo cannot take them.</source>
+        <translation>%1 werden von anderen Programmen benutzt. Lumaroo erhält diese Tasten nicht.</translation>
+    </message>
+    <message>
+        <source>Use %1 instead</source>
+        <translation>Stattdessen %1 benutzen</translation>
+    </message>
+    <message>
+        <source>Another program uses this key with the modifier keys.</source>
+        <translation>Ein anderes Programm benutzt diese Taste mit den Zusatztasten.</translation>
+    </message>
+    <message>
+        <source>The start at login could not be changed.</source>
+        <translation>Der Start beim Anmelden ließ sich nicht ändern.</translation>
+    </message>
+    <message>
+        <source>Lumaroo cannot write the file “%1”. Check that you may change it, and try again.</source>
+        <translation>Lumaroo kann die Datei „%1“ nicht schreiben. Prüfen Sie, ob Sie sie ändern dürfen, und versuchen Sie es noch einmal.</translation>
+    </message>
 </context>
 </TS>

@@ -487,5 +487,9 @@
         <source>&amp;Close</source>
         <translation>&amp;Schließen</translation>
     </message>
+    <message>
+        <source>Start Lumaroo at l&amp;ogin</source>
+        <translation>Lumaroo beim Anmelden &amp;starten</translation>
+    </message>
 </context>
 </TS>

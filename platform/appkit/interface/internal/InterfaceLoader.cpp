@@ -3,6 +3,7 @@
 #include "platform/appkit/colors/NSColorWell.h"
 #include "platform/appkit/controls/ConflictMarker.h"
 #include "platform/appkit/controls/FloatSlider.h"
+#include "platform/appkit/controls/HeldKeyMarker.h"
 #include "platform/appkit/controls/NSMatrix.h"
 #include "platform/appkit/controls/NSProgressIndicator.h"
 #include "platform/appkit/controls/NSSwitch.h"
@@ -35,6 +36,7 @@ WidgetMaker ownClass(const QString &className)
         {QStringLiteral("NSColorWell"), &make<NSColorWell>},
         {QStringLiteral("FloatSlider"), &make<FloatSlider>},
         {QStringLiteral("ConflictMarker"), &make<ConflictMarker>},
+        {QStringLiteral("HeldKeyMarker"), &make<HeldKeyMarker>},
         {QStringLiteral("NSSwitch"), &make<NSSwitch>},
         {QStringLiteral("NSTextView"), &make<NSTextView>},
         {QStringLiteral("NSProgressIndicator"), &make<NSProgressIndicator>},

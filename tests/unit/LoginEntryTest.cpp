@@ -1,6 +1,6 @@
 // The entry by which the desktop starts the agent at login.
 
-#include "agent/life/LoginEntry.h"
+#include "KTXLoginEntry.h"
 
 #include <QDir>
 #include <QFile>
@@ -116,5 +116,33 @@ TEST_F(TheLoginEntry, standsInTheHomeWhereTheVariableNamesNoWholePath)
     for (const char *value : {"", "relative/folder"}) {
         qputenv("XDG_CONFIG_HOME", value);
         EXPECT_EQ(loginEntryPath(), QDir::homePath() + "/.config/autostart/com.quorvane.LumarooAgent.desktop");
+    }
+}
+
+TEST_F(TheLoginEntry, holdsWhereADesktopWouldStartIt)
+{
+    EXPECT_FALSE(startsAtLogin());
+    const QString folder = config() + R"(/a b\n "$HOME")";
+    const QString program = folder + "/ü";
+    ASSERT_TRUE(QDir().mkpath(folder));
+    ASSERT_TRUE(QFile::copy("/bin/true", program));
+    ASSERT_EQ(setStartAtLogin(true, program), "");
+    EXPECT_TRUE(startsAtLogin());
+    QFile::setPermissions(program, QFile::ReadOwner);
+    EXPECT_FALSE(startsAtLogin()) << "its program cannot be started";
+    QFile::remove(program);
+    EXPECT_FALSE(startsAtLogin()) << "nor one that has gone";
+}
+
+TEST_F(TheLoginEntry, doesNotHoldWhereItIsSwitchedOff)
+{
+    for (const char *off : {"Hidden=true\n", "X-GNOME-Autostart-enabled=false\n", "Hidden = true\n"}) {
+        ASSERT_EQ(setStartAtLogin(true, "/bin/true"), "");
+        ASSERT_TRUE(startsAtLogin());
+        QFile file(path());
+        ASSERT_TRUE(file.open(QIODevice::Append));
+        file.write(off);
+        file.close();
+        EXPECT_FALSE(startsAtLogin()) << off;
     }
 }

@@ -1,12 +1,16 @@
-#include "agent/life/LoginEntry.h"
+#include "KTXLoginEntry.h"
 
 #include "platform/foundation/system/UserFolders.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QHash>
 #include <QSaveFile>
 
 namespace {
+
+constexpr qint64 largestEntry = 64 * 1024;
 
 QString loginFolder()
 {
@@ -20,6 +24,18 @@ QString entryText(QString text)
         .replace(u'\n', QStringLiteral("\\n"))
         .replace(u'\r', QStringLiteral("\\r"))
         .replace(u'\t', QStringLiteral("\\t"));
+}
+
+QString textOfEntry(const QString &value)
+{
+    static const QHash<QChar, QChar> signs{{u'n', u'\n'}, {u'r', u'\r'}, {u't', u'\t'}, {u's', u' '}};
+    QString text;
+    for (qsizetype place = 0; place < value.size(); ++place) {
+        const bool isEscaped = value.at(place) == u'\\' && place + 1 < value.size();
+        const QChar character = value.at(isEscaped ? ++place : place);
+        text += isEscaped ? signs.value(character, character) : character;
+    }
+    return text;
 }
 
 /// A program as one argument of a command line, whatever its path holds.
@@ -46,6 +62,17 @@ QByteArray entryFor(const QString &program)
         .toUtf8();
 }
 
+/// The text of an entry's key; empty where it has none.
+QString entryValue(const QByteArray &content, const QByteArray &key)
+{
+    for (const QByteArray &line : content.split('\n')) {
+        const qsizetype sign = line.indexOf('=');
+        if (sign >= 0 && line.first(sign).trimmed() == key)
+            return textOfEntry(QString::fromUtf8(line.sliced(sign + 1).trimmed()));
+    }
+    return {};
+}
+
 QString writeEntry(const QString &program)
 {
     if (!QDir().mkpath(loginFolder()))
@@ -69,6 +96,18 @@ QString removeEntry()
 QString loginEntryPath()
 {
     return loginFolder() + QStringLiteral("/com.quorvane.LumarooAgent.desktop");
+}
+
+bool startsAtLogin()
+{
+    QFile file(loginEntryPath());
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray content = file.read(largestEntry);
+    const QFileInfo program(entryValue(content, "TryExec"));
+    const bool isHidden = entryValue(content, "Hidden") == QStringLiteral("true");
+    const bool isOff = entryValue(content, "X-GNOME-Autostart-enabled") == QStringLiteral("false");
+    return !isHidden && !isOff && program.isFile() && program.isExecutable();
 }
 
 QString setStartAtLogin(bool on, const QString &program)

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "pane/AgentKeysText.h"
+#include "pane/AgentWatch.h"
+#include "pane/LoginEntryWatch.h"
+
+#include <QPointer>
+
+class QWidget;
+
+/// What the pane shows of this desktop: the agent's keys as they really are, and whether the agent starts at login. It
+/// finds its controls in the pane's view by their names, and keeps them as things are.
+class PaneDesktop : public QObject
+{
+    Q_OBJECT
+
+public:
+    PaneDesktop(QWidget *view, const NSBundle *bundle, QObject *parent);
+
+    /// What the button offers; 0 for nothing.
+    quint32 freeModifiers() const { return keys_.freeModifiers; }
+    /// Has the desktop start the agent of the bundle at login, or not. False where that failed, which is logged; the
+    /// check box shows what holds then.
+    bool setStartsAtLogin(bool on);
+
+private:
+    void showKeys(const AgentKeys &keys);
+    void showMarkers(const QString &reason);
+    void showStartAtLogin();
+    QWidget *control(const char *name) const;
+
+    QPointer<QWidget> view_;
+    const NSBundle *bundle_;
+    AgentKeys keys_;
+    AgentWatch agent_;
+    LoginEntryWatch loginEntry_;
+};

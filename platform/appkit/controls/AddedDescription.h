@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+/// What somebody else adds to a field's description for assistive tools, before whatever stands there.
+class AddedDescription
+{
+public:
+    /// Takes the place of what this has added before; an empty text is nothing. Harmless without a field.
+    void set(QWidget *field, const QString &text);
+
+private:
+    QString added_;
+};

@@ -1,0 +1,241 @@
+// What the pane tells of the agent's keys as they really are, and of the start at login.
+
+#include "AgentStandIn.h"
+#include "KTXLoginEntry.h"
+#include "KTXModifiers.h"
+#include "OpenAlert.h"
+#include "PaneOnHotKeyPage.h"
+#include "PaneWithAgent.h"
+#include "Wait.h"
+
+#include "platform/appkit/controls/HeldKeyMarker.h"
+
+#include <QAccessible>
+#include <QDir>
+#include <optional>
+
+namespace {
+
+const QString whatToPress = QStringLiteral("Hold ⌃⌥ and press ← → ↑ ↓");
+const QString oneIsHeld = QStringLiteral("⌃⌥← is used by another program. Lumaroo cannot take it.");
+const QMap<QString, QString> leftIsHeld{{KTXLeftPref, KTXCauseOtherProgram}};
+
+class KeysInPane : public PaneOnHotKeyPage
+{
+protected:
+    KeysInPane() { agent.emplace(); }
+
+    testing::AssertionResult shows(const char *name, const QString &expected)
+    {
+        if (waitUntil([&] { return text(name) == expected; }))
+            return testing::AssertionSuccess();
+        return testing::AssertionFailure() << text(name).toStdString();
+    }
+    bool tellsNothing()
+    {
+        return waitUntil([this] {
+            return (text("pressNowField") + text("keysStateField") + text("heldKeysField")).isEmpty()
+                && heldRows().isEmpty() && isHidden(control("freeModifiersButton"));
+        });
+    }
+    QList<int> heldRows()
+    {
+        QList<int> rows;
+        for (const HeldKeyMarker *marker : pane().mainView()->findChildren<HeldKeyMarker *>()) {
+            if (!marker->isHidden())
+                rows += marker->row();
+        }
+        return rows;
+    }
+    QString told(int row) { return QAccessible::queryAccessibleInterface(field(row))->text(QAccessible::Description); }
+
+    std::optional<AgentStandIn> agent;
+};
+
+class PaneAtLogin : public PaneWithAgent
+{
+protected:
+    PaneAtLogin()
+    {
+        setStartAtLogin(false, {});
+        putAgent();
+    }
+    ~PaneAtLogin() override { setStartAtLogin(false, {}); }
+
+    bool showsOn(bool on)
+    {
+        return waitUntil([&] { return state(control("startAtLoginButton")) == (on ? NSOnState : NSOffState); });
+    }
+};
+
+} // namespace
+
+TEST_F(KeysInPane, tellsWhatToPressAndThatAllKeysWork)
+{
+    showPage();
+    EXPECT_TRUE(shows("pressNowField", whatToPress));
+    EXPECT_TRUE(shows("keysStateField", "All keys work."));
+    EXPECT_EQ(text("heldKeysField"), "");
+    EXPECT_EQ(heldRows(), QList<int>());
+}
+
+TEST_F(KeysInPane, namesTheKeyThatAnotherProgramHolds)
+{
+    agent->answers(AgentStandIn::answerWith(leftIsHeld));
+    showPage();
+    EXPECT_TRUE(shows("heldKeysField", oneIsHeld));
+    EXPECT_EQ(heldRows(), QList<int>{Left});
+    EXPECT_EQ(told(Left), "Another program uses this key with the modifier keys. Press a key");
+    EXPECT_EQ(told(Right), "Press a key");
+    EXPECT_TRUE(text("keysStateField").startsWith("Some keys do not work, since other programs use them."));
+    EXPECT_TRUE(isHidden(control("freeModifiersButton"))) << "no modifiers are known that are free";
+    agent->answers(AgentStandIn::answerWith({}));
+    EXPECT_TRUE(shows("heldKeysField", {}));
+    EXPECT_EQ(heldRows(), QList<int>());
+    EXPECT_EQ(told(Left), "Press a key");
+}
+
+TEST_F(KeysInPane, namesAllThatOthersHold)
+{
+    agent->answers(AgentStandIn::answerWith(
+        {{KTXUpPref, KTXCauseOtherProgram}, {KTXScreenshotPref, KTXCauseOtherProgram}, {KTXSnapPref, KTXCauseNoKey}}));
+    showPage();
+    EXPECT_TRUE(shows("heldKeysField", "⌃⌥↑, ⌃⌥S are used by other programs. Lumaroo cannot take them."));
+    EXPECT_EQ(heldRows(), (QList<int>{Up, Screenshot}));
+}
+
+TEST_F(KeysInPane, aFieldTellsOfBothItsMarks)
+{
+    store().set(KTXsuppressHKeysTaken, true);
+    storeKey(Right, 123);
+    agent->answers(AgentStandIn::answerWith(leftIsHeld));
+    showPage();
+    ASSERT_TRUE(shows("heldKeysField", oneIsHeld));
+    const QString both = told(Left);
+    EXPECT_TRUE(both.contains("This key is used more than once.")) << both.toStdString();
+    EXPECT_TRUE(both.contains("Another program uses this key"));
+    agent.reset();
+    ASSERT_TRUE(tellsNothing());
+    EXPECT_EQ(told(Left), "This key is used more than once. Press a key");
+}
+
+TEST_F(KeysInPane, takesFreeModifiersAsIfTheyHadBeenTicked)
+{
+    agent->answers(AgentStandIn::answerWith(leftIsHeld, 0x1800, {0x1100, 0x100}));
+    showPage();
+    ASSERT_TRUE(shows("freeModifiersButton", "Use ⌃⌘ instead"));
+    EXPECT_TRUE(control("freeModifiersButton")->isVisible());
+    bus().clear();
+    performClick(control("freeModifiersButton"));
+    EXPECT_EQ(store().value(KTXModifierMask), QVariant(0x1100));
+    EXPECT_EQ(bus().names(), QStringList(KTXLMPrefsChanged));
+    EXPECT_EQ(state(control("commandCheckBox")), NSOnState);
+    EXPECT_EQ(state(control("controlCheckBox")), NSOnState);
+    EXPECT_EQ(state(control("optionCheckBox")), NSOffState);
+    EXPECT_EQ(text("modifiersField"), "⌃⌘");
+}
+
+TEST_F(KeysInPane, tellsWhatKeepsAllKeysAway)
+{
+    const auto allBecauseOf = [](const QString &cause) {
+        QMap<QString, QString> causes;
+        for (const KTXActionKey &action : KTXActionKeys())
+            causes.insert(action.preferenceName, cause);
+        return causes;
+    };
+    showPage();
+    agent->answers(AgentStandIn::answerWith(allBecauseOf(KTXCauseDoublePressAlone)));
+    EXPECT_TRUE(shows("pressNowField", "Press ⌃⌥ twice, then press ← → ↑ ↓"));
+    EXPECT_TRUE(shows("keysStateField", "Lumaroo takes no key from other programs."));
+    agent->answers(AgentStandIn::answerWith(allBecauseOf(KTXCauseNoHotKeys)));
+    EXPECT_TRUE(shows("pressNowField", {}));
+    EXPECT_TRUE(shows("keysStateField", "This session has no hot keys for programs. Lumaroo needs an X11 session."));
+    agent->answers(AgentStandIn::answerWith({{KTXSnapPref, KTXCauseNoKey}}));
+    EXPECT_TRUE(shows("keysStateField", "Some keys do not work. The page “Keys” shows all of them."));
+}
+
+TEST_F(KeysInPane, tellsNothingWhereNoAgentRunsAndAgainWhenOneComes)
+{
+    agent.reset();
+    showPage();
+    EXPECT_TRUE(tellsNothing());
+    agent.emplace();
+    EXPECT_TRUE(shows("pressNowField", whatToPress));
+    agent.reset();
+    EXPECT_TRUE(tellsNothing());
+}
+
+TEST_F(KeysInPane, tellsNothingOfASilentAgentAndDoesNotWaitForIt)
+{
+    agent->answers(AgentStandIn::answerWith(leftIsHeld));
+    showPage();
+    ASSERT_TRUE(shows("heldKeysField", oneIsHeld));
+    agent->isSilent();
+    ASSERT_TRUE(waitUntil([this] { return agent->questions() > 1; }));
+    EXPECT_TRUE(tellsNothing());
+}
+
+TEST_F(KeysInPane, tellsNothingOfAnAgentThatAnswersOtherwise)
+{
+    showPage();
+    ASSERT_TRUE(shows("pressNowField", whatToPress));
+    QJsonObject older = AgentStandIn::answerWith(leftIsHeld);
+    QJsonArray keys = older.value(KTXAnswerHotKeys).toArray();
+    QJsonObject left = keys.at(Left).toObject();
+    left.remove(KTXAnswerCause);
+    keys.replace(Left, left);
+    older.insert(KTXAnswerHotKeys, keys);
+    for (const QJsonObject &answer : {older, QJsonObject(), QJsonObject{{KTXAnswerHotKeys, 5}}}) {
+        agent->answers(answer);
+        EXPECT_TRUE(tellsNothing());
+        agent->answers(AgentStandIn::answerWith({}));
+        EXPECT_TRUE(shows("pressNowField", whatToPress));
+    }
+}
+
+TEST_F(PaneAtLogin, showsWhatTheDesktopDoes)
+{
+    const QString program = QStringLiteral("/bin/sh");
+    showPane();
+    EXPECT_TRUE(showsOn(false));
+    ASSERT_EQ(setStartAtLogin(true, program), "");
+    EXPECT_TRUE(showsOn(true)) << "its folder was none before, too";
+    QFile entry(loginEntryPath());
+    ASSERT_TRUE(entry.open(QIODevice::Append));
+    entry.write("Hidden=true\n");
+    entry.close();
+    EXPECT_TRUE(showsOn(false)) << "switched off in the desktop's own list";
+    ASSERT_EQ(setStartAtLogin(true, program), "");
+    EXPECT_TRUE(showsOn(true));
+    ASSERT_EQ(setStartAtLogin(false, program), "");
+    EXPECT_TRUE(showsOn(false));
+    ASSERT_EQ(setStartAtLogin(true, "/nowhere/program"), "");
+    ASSERT_EQ(setStartAtLogin(true, program), "");
+    EXPECT_TRUE(showsOn(true));
+}
+
+TEST_F(PaneAtLogin, isSwitchedByItsCheckBox)
+{
+    showPane();
+    performClick(control("startAtLoginButton"));
+    QFile entry(loginEntryPath());
+    ASSERT_TRUE(entry.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(entry.readAll().contains("TryExec=" + QFile::encodeName(agentProgram()) + '\n'));
+    EXPECT_TRUE(showsOn(true));
+    performClick(control("startAtLoginButton"));
+    EXPECT_FALSE(QFile::exists(loginEntryPath()));
+}
+
+TEST_F(PaneAtLogin, tellsThatItCannotBeSwitchedAndShowsWhatHolds)
+{
+    const QString folder = QFileInfo(loginEntryPath()).path();
+    ASSERT_EQ(setStartAtLogin(true, "/bin/sh"), "");
+    showWindow();
+    ASSERT_TRUE(showsOn(true));
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner);
+    performClick(control("startAtLoginButton"));
+    EXPECT_TRUE(alertComesUp());
+    EXPECT_EQ(textsOfAlert().value(0), "The start at login could not be changed.");
+    EXPECT_TRUE(showsOn(true));
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
