@@ -13,7 +13,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto mostTimeToLand = 600ms;
+constexpr auto mostTimeToLand = 2s;
 constexpr auto timeToRead = 1200ms;
 constexpr auto mostTimeToStart = 10s;
 

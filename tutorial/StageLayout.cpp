@@ -8,12 +8,21 @@ constexpr int margin = 24;
 constexpr int frame = 36; ///< room for a title bar
 constexpr QSize largest(260, 180);
 constexpr QSize smallest(110, 70);
-/// So much of the star peeps out from under the square: enough to be noticed, too little to be walked to.
-constexpr QPoint peep(5, 5);
+constexpr int mostPeep = 5;
+/// With what frames add to it less than the 4,096 by which a window counts as seen.
+constexpr double mostPixelsSeen = 3000;
+
+/// How far the star peeps out from under the square: enough to be noticed, too little to be walked to.
+QPoint peep(QSize window, double scale)
+{
+    const int most = int(mostPixelsSeen / (scale * scale * (window.width() + window.height())));
+    const int distance = std::clamp(most, 0, mostPeep);
+    return {distance, distance};
+}
 
 } // namespace
 
-StageLayout stageLayout(const QRect &available, QSize guide)
+StageLayout stageLayout(const QRect &available, QSize guide, double scale)
 {
     StageLayout layout;
     const int guideLeft = available.center().x() - guide.width() / 2;
@@ -27,6 +36,6 @@ StageLayout stageLayout(const QRect &available, QSize guide)
     const int rowTop = top + std::clamp((room - size.height()) / 3, 0, 4 * margin);
     for (int i = 0; i < 3; ++i)
         layout.windows.at(size_t(i)) = QRect({rowLeft + i * (size.width() + distance), rowTop}, size);
-    layout.windows.at(size_t(Shape::Star)) = layout.windows.at(size_t(Shape::Square)).translated(peep);
+    layout.windows.at(size_t(Shape::Star)) = layout.windows.at(size_t(Shape::Square)).translated(peep(size, scale));
     return layout;
 }

@@ -13,5 +13,5 @@ struct StageLayout
     std::array<QRect, shapeCount> windows; ///< by shape
 };
 
-/// Within what panels leave of the screen.
-StageLayout stageLayout(const QRect &available, QSize guide);
+/// Within what panels leave of the screen, on which a length of 1 is `scale` pixels.
+StageLayout stageLayout(const QRect &available, QSize guide, double scale);

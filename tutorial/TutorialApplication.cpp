@@ -41,11 +41,17 @@ TutorialApplication::TutorialApplication()
 void TutorialApplication::start()
 {
     guide_.setPage(course_.page());
-    guide_.move(stageLayout(guide_.screen()->availableGeometry(), guide_.size()).guide);
+    guide_.move(layout().guide);
     guide_.show();
     guide_.focusButton();
     turnTo(&guide_);
     QMetaObject::invokeMethod(this, &TutorialApplication::begin, Qt::QueuedConnection);
+}
+
+StageLayout TutorialApplication::layout() const
+{
+    const QScreen *screen = guide_.screen();
+    return stageLayout(screen->availableGeometry(), guide_.size(), screen->devicePixelRatio());
 }
 
 /// Looking for the icon would hold the first window up.
@@ -81,7 +87,7 @@ void TutorialApplication::showPage()
 void TutorialApplication::showStage(Shape front)
 {
     stage_.setDescription(guide_.spokenText());
-    stage_.show(stageLayout(guide_.screen()->availableGeometry(), guide_.size()), front);
+    stage_.show(layout(), front);
 }
 
 void TutorialApplication::hideStage()

@@ -24,6 +24,7 @@ protected:
 
 private:
     void begin();
+    StageLayout layout() const;
     void showPage();
     void showStage(Shape front);
     void hideStage();

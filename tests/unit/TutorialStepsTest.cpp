@@ -202,7 +202,7 @@ TEST(TutorialStage, hasRoomForAllWindowsBelowTheGuide)
     for (const QSize size :
         {QSize(1024, 600), QSize(1280, 1024), QSize(853, 683), QSize(1920, 1080), QSize(3840, 2160)}) {
         const QRect screen(QPoint(100, 50), size);
-        const StageLayout layout = stageLayout(screen, guide);
+        const StageLayout layout = stageLayout(screen, guide, 1);
         EXPECT_TRUE(screen.contains(QRect(layout.guide, guide)));
         for (int i = 0; i < shapeCount; ++i) {
             EXPECT_TRUE(screen.contains(layout.windows.at(size_t(i)))) << size.width() << ' ' << i;
@@ -211,5 +211,19 @@ TEST(TutorialStage, hasRoomForAllWindowsBelowTheGuide)
         }
         for (int i = 0; i < 2; ++i)
             EXPECT_LT(layout.windows.at(size_t(i)).right(), layout.windows.at(size_t(i) + 1).left());
+    }
+}
+
+TEST(TutorialStage, letsTooLittleOfTheStarBeSeenToWalkToIt)
+{
+    constexpr int frame = 40; // of a window manager, in pixels
+    for (const double scale : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+        const StageLayout layout = stageLayout(QRect(0, 0, 1280, 1024), QSize(640, 300), scale);
+        const QRect square = layout.windows.at(size_t(Shape::Square));
+        const QRect star = layout.windows.at(size_t(Shape::Star));
+        const auto pixels = [scale](int length) { return scale * length; };
+        const double beside = pixels(star.x() - square.x()) * (pixels(star.width() + star.height()) + 2 * frame);
+        EXPECT_LT(beside, 4096) << scale;
+        EXPECT_EQ(star.size(), square.size());
     }
 }
