@@ -69,7 +69,7 @@ TEST_F(ActionsByUser, sTakesAPictureOfTheActiveWindowAndShowsIt)
     EXPECT_EQ(bubble.text, "It is stored as “" + QFileInfo(path).fileName() + "” in ~/Pictures/Lumaroo.");
     EXPECT_EQ(bubble.actions, QStringList({"button", "Show"}));
     EXPECT_EQ(bubble.picture, QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded));
-    EXPECT_TRUE(waitUntil([&] {
+    ASSERT_TRUE(waitUntil([&] {
         if (fileManager.shown().isEmpty())
             server.pressButton();
         return !fileManager.shown().isEmpty();
