@@ -3,7 +3,6 @@
 #include "bench/DrawnWindow.h"
 #include "bench/Median.h"
 
-#include <QByteArray>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>

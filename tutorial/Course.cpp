@@ -192,10 +192,7 @@ void Course::useOfferedModifiers()
 void Course::windowActivated(Shape shape)
 {
     current_ = shape;
-    if (shape == Shape::None)
-        return;
-    active_ = shape;
-    if (landing_.isActive() && shape != start_)
+    if (landing_.isActive() && hasLanded())
         land();
 }
 
@@ -211,9 +208,14 @@ bool Course::windowAskedToClose()
 void Course::hearBeginning()
 {
     isSelecting_ = true;
-    start_ = active_;
     if (run_)
-        run_->begin(start_);
+        run_->begin(startOf(run_->step()));
+}
+
+/// The focus may be heard of before the whole selection that led there, so where that began is known by the step alone.
+bool Course::hasLanded() const
+{
+    return run_ && current_ != Shape::None && current_ != startOf(run_->step());
 }
 
 void Course::hearMove()
@@ -228,7 +230,7 @@ void Course::hearMove()
 void Course::hearAcceptance()
 {
     isSelecting_ = false;
-    if (run_ && current_ != Shape::None && current_ != start_)
+    if (hasLanded())
         land();
     else
         landing_.start();

@@ -48,6 +48,7 @@ private:
     void hearMove();
     void hearAcceptance();
     void hearCancellation();
+    bool hasLanded() const;
     void land();
     void settle();
     void goOnIfDone();
@@ -58,9 +59,7 @@ private:
     QList<Step> steps_;
     qsizetype index_ = 0; ///< of the step; behind the last one at the end
     std::optional<StepRun> run_; ///< of the step that is shown
-    Shape active_ = Shape::None; ///< the last window that was active
-    Shape current_ = Shape::None; ///< the one that is
-    Shape start_ = Shape::None; ///< where the selection began
+    Shape current_ = Shape::None; ///< the window that is active
     bool isSelecting_ = false;
     bool goesOnWithout_ = false; ///< the keys that another program holds
     bool isNotStored_ = false; ///< what the user has chosen
