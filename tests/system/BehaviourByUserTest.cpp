@@ -67,7 +67,7 @@ TEST_F(BehaviourByUser, theTutorialIsAskedOfTheRunningAgent)
     showSettings();
     pressKey(KEY_S, {KEY_LEFTALT});
     EXPECT_TRUE(agent.waitForLine("tutorial requested"));
-    EXPECT_TRUE(waitUntil([] { return agents().size() == 1; })) << "but for the one that becomes the tutorial";
+    EXPECT_TRUE(waitUntil([&] { return agents().size() == 1; })) << "but for the one that becomes the tutorial";
     EXPECT_EQ(agent.lines().count("tutorial requested"), 1);
     EXPECT_TRUE(waitUntil([] { return activeWindowTitle() == "Circle"; })) << "its first step is before the settings";
     EXPECT_EQ(processesOf(tutorialProgram()).size(), 1);

@@ -24,7 +24,8 @@ QVariant effective(const QString &key, const QVariant &stored)
 
 QJsonObject shown(const QVariantMap &settings)
 {
-    const QList<AgentHotKey> hotKeys{{"moveUpHotKey", 126, "⌃⌥↑", {}}, {"closeWindow", 13, "⌃⌥W", "taken"}};
+    const QList<AgentHotKey> hotKeys{
+        {"moveUpHotKey", 126, "⌃⌥↑", {}, {}}, {"closeWindow", 13, "⌃⌥W", "taken", "otherProgram"}};
     return QJsonDocument::fromJson(settingsJson(100, 7, settings, hotKeys, {0x1100, 0x1900})).object();
 }
 
@@ -180,7 +181,7 @@ TEST(TheShownSettings, tellWhichKeysWork)
     const QJsonArray expected{
         QJsonObject{{"action", "moveUpHotKey"}, {"keyCode", 126}, {"combination", "⌃⌥↑"}, {"registered", true}},
         QJsonObject{{"action", "closeWindow"}, {"keyCode", 13}, {"combination", "⌃⌥W"}, {"registered", false},
-            {"refusal", "taken"}}};
+            {"refusal", "taken"}, {"cause", "otherProgram"}}};
     EXPECT_EQ(shown({}).value("hotKeys").toArray(), expected);
 }
 
