@@ -39,7 +39,9 @@ TEST_F(WindowTable, tellsWhyWindowsAreLeftOut)
     ASSERT_TRUE(waitUntil([&] { return windowStates(player.id()).contains("_NET_WM_STATE_HIDDEN"); }));
     EXPECT_THAT(table(), ContainsRegex("Panel +no: a panel, a menu or the like +[0-9x+]+ +The panel\n"));
     EXPECT_THAT(table(), ContainsRegex("Editor +yes +[0-9x+]+ +The editor\n"));
-    EXPECT_THAT(table(), ContainsRegex("Player +no: minimised +[0-9x+]+ +The player\n"));
+    // Some managers let it fly to its icon, and that may lead past the screen's border.
+    EXPECT_TRUE(waitUntil(
+        [&] { return testing::Value(table(), ContainsRegex("Player +no: minimised +[0-9x+]+ +The player\n")); }));
     EXPECT_THAT(table(), HasSubstr("\n1 of 3 windows can be selected; * has the focus\nmonitor 1280x1024+0+0, "));
 
     store(KTXShowHidden, true);

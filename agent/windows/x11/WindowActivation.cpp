@@ -56,11 +56,15 @@ bool WindowActivation::ask(xcb_timestamp_t time)
     const auto desktop = numberOf(own.bytes(), XCB_ATOM_CARDINAL);
     const bool isElsewhere = desktop && current && desktop != current && *desktop != onAllDesktops;
     timesToAskAgain_ = isElsewhere ? mostRepetitions : 0;
-    if (isElsewhere)
+    if (isElsewhere) {
+        // With many windows the server takes a while; but here each change counts.
+        watchRoot(XCB_EVENT_MASK_PROPERTY_CHANGE);
         send(root, server_.atoms.currentDesktop, {.data32 = {*desktop, time}});
+    }
     askForFocus(time);
-    // Not before: with many windows the server takes a while. What has changed by then is looked at anyway.
-    watchRoot(XCB_EVENT_MASK_PROPERTY_CHANGE);
+    // What has changed by then is looked at anyway.
+    if (!isElsewhere)
+        watchRoot(XCB_EVENT_MASK_PROPERTY_CHANGE);
     xcb_flush(server_.connection);
     return !xcb_connection_has_error(server_.connection);
 }
