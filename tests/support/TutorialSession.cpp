@@ -57,6 +57,12 @@ QString TutorialProgram::errors()
     return QString::fromUtf8(process_.readAllStandardError());
 }
 
+TutorialSession::TutorialSession()
+{
+    // Now it is the window manager alone who may hold keys.
+    SelectionSession::modifiers();
+}
+
 TutorialSession::~TutorialSession()
 {
     // What they started themselves.

@@ -30,6 +30,7 @@ private:
 class TutorialSession : public AgentSessionAfterFirstLaunch
 {
 public:
+    TutorialSession();
     ~TutorialSession() override;
 
     void startAgent(const QVariantMap &settings = {});
