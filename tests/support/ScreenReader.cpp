@@ -3,7 +3,6 @@
 #include "Wait.h"
 
 #include <QDBusArgument>
-#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QDBusReply>
@@ -42,6 +41,16 @@ QStringList childrenOf(const QDBusConnection &bus, const QString &service, const
     }
     list.endArray();
     return children;
+}
+
+/// Not by the connection's own interface object: its end and the connection's may meet in the bus library's thread.
+QDBusMessage askBus(const QDBusConnection &bus, const QString &method, const QVariantList &arguments = {})
+{
+    const QString service = QStringLiteral("org.freedesktop.DBus");
+    QDBusMessage question =
+        QDBusMessage::createMethodCall(service, QStringLiteral("/org/freedesktop/DBus"), service, method);
+    question.setArguments(arguments);
+    return bus.call(question);
 }
 
 } // namespace
@@ -84,12 +93,10 @@ bool ScreenReader::waitForText(qint64 process, const QString &text) const
 
 QString ScreenReader::connectionOf(qint64 process) const
 {
-    QDBusConnectionInterface *bus = readers_.interface();
-    if (!bus)
-        return {};
-    for (const QString &name : bus->registeredServiceNames().value()) {
+    for (const QString &name : QDBusReply<QStringList>(askBus(readers_, QStringLiteral("ListNames"))).value()) {
         const bool isUnique = name.startsWith(u':') && name != readers_.baseService();
-        if (isUnique && qint64(bus->servicePid(name)) == process)
+        const QDBusReply<uint> owner = askBus(readers_, QStringLiteral("GetConnectionUnixProcessID"), {name});
+        if (isUnique && owner.isValid() && qint64(owner.value()) == process)
             return name;
     }
     return {};
