@@ -75,17 +75,18 @@ private:
 
 } // namespace
 
-TEST_F(SelectionEndurance, isTheSameAfterAThousandSelections)
+TEST_F(SelectionEndurance, isNoMoreAfterAThousandSelections)
 {
     open({{KTXVisualMode, true}});
     const qint64 process = agent.processId();
     ASSERT_NO_FATAL_FAILURE(select(100));
+    // Some of the last selection may still be there.
     const quint64 resources = other.resourcesOf(process), pictures = other.pictureBytesOf(process);
     const qsizetype files = openFiles(process);
     const qint64 memory = ownMemory(process);
     ASSERT_NO_FATAL_FAILURE(select(900));
-    EXPECT_TRUE(waitUntil([&] { return other.resourcesOf(process) == resources; })) << other.resourcesOf(process);
-    EXPECT_TRUE(waitUntil([&] { return other.pictureBytesOf(process) == pictures; })) << other.pictureBytesOf(process);
+    EXPECT_TRUE(waitUntil([&] { return other.resourcesOf(process) <= resources; })) << other.resourcesOf(process);
+    EXPECT_TRUE(waitUntil([&] { return other.pictureBytesOf(process) <= pictures; })) << other.pictureBytesOf(process);
     EXPECT_TRUE(waitUntil([&] { return openFiles(process) <= files; })) << openFiles(process);
     EXPECT_LE(ownMemory(process), memory + mostGrowth);
 }
