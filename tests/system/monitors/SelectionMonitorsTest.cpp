@@ -54,7 +54,7 @@ TEST_F(SelectionMonitors, haveNoWayRoundWithoutWrapping)
 TEST_F(SelectionMonitors, eachHaveAWindowThatFillsThem)
 {
     if (qEnvironmentVariable("LUMAROO_SESSION_WINDOW_MANAGER") == u"xfwm4")
-        GTEST_SKIP() << "xfwm4 knows monitors by their outputs, of which this X server has one for both";
+        GTEST_SKIP() << "xfwm4 has a window on the right monitor fill the left one, where both are parts of one output";
     fillMonitors();
     holdModifiers();
     pressKey(KEY_RIGHT);
