@@ -110,6 +110,7 @@ void Gestures::take(const GestureEvent &event)
     }
     run_->isCurrent = false;
     limit_.start(patience);
+    windows_.expectActivation(true);
     // The release may have come before it was looked for. This asks only now, when the mark is on its way.
     if (gesture_.state() == Gesture::State::Held && event.kind == Kind::Movement && !keys_.areModifiersDown())
         take({.kind = Kind::ModifiersReleased, .time = event.time});
@@ -271,6 +272,7 @@ void Gestures::finish()
     // The display takes a while to draw what was below it, and the window would have to wait for that.
     if (!farewell_.isActive())
         overlay_.hideOverlay();
+    windows_.expectActivation(false);
     keys_.end();
     session_.end();
     if (!run_)

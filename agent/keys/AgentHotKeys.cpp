@@ -170,14 +170,13 @@ void AgentHotKeys::release()
 
 void AgentHotKeys::handlePress(const QVariant &hotKey)
 {
-    for (const ActionKey &key : std::as_const(keys_)) {
-        if (hotKey.value<KTXHotKey *>() != key.hotKey.get())
-            continue;
-        // The keyboard is free only then.
-        const auto act = [this, action = key.action, combination = key.hotKey->description(),
-                             time = LMCurrentEventTime()] { Q_EMIT pressed(action, combination, time); };
-        QMetaObject::invokeMethod(this, act, Qt::QueuedConnection);
-    }
+    const auto pressed = std::find_if(keys_.cbegin(), keys_.cend(),
+        [&hotKey](const ActionKey &key) { return hotKey.value<KTXHotKey *>() == key.hotKey.get(); });
+    if (pressed == keys_.cend())
+        return;
+    // Copies: who hears of it may change the keys.
+    const QString action = pressed->action, combination = pressed->hotKey->description();
+    Q_EMIT this->pressed(action, combination, LMCurrentEventTime());
 }
 
 void AgentHotKeys::handleLoss()

@@ -46,7 +46,8 @@ public:
     const QList<quint32> &freeModifiers() const { return freeModifiers_; }
 
 Q_SIGNALS:
-    /// The keyboard is free: a window may be shown, and a menu opened. The time is the display's, in milliseconds.
+    /// Told before the keyboard is let go, so that nothing has to wait for that: it is free when all have heard of it.
+    /// The time is the display's, in milliseconds.
     void pressed(const QString &action, const QString &combination, quint32 time);
     /// What hotKeys() and freeModifiers() tell may be otherwise from now on.
     void changed();

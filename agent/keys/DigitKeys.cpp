@@ -52,11 +52,7 @@ void DigitKeys::handlePress(const KTXHotKey *hotKey)
     for (auto entry = hotKeys_.cbegin(); entry != hotKeys_.cend(); ++entry) {
         if (entry.value().get() != hotKey)
             continue;
-        // The keyboard is free only then.
-        const auto tell = [this, digit = entry.key(), time = LMCurrentEventTime()] {
-            if (taken().contains(digit))
-                Q_EMIT pressed(digit, time);
-        };
-        QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+        Q_EMIT pressed(entry.key(), LMCurrentEventTime());
+        return;
     }
 }

@@ -22,7 +22,7 @@ public:
     QSet<int> taken() const;
 
 Q_SIGNALS:
-    /// The keyboard is free. One that is given back meanwhile is told no more.
+    /// Told before the keyboard is let go.
     void pressed(int digit, quint32 time);
 
 private:

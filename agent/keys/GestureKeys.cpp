@@ -14,7 +14,7 @@ constexpr int mostGrabTries = 10;
 
 } // namespace
 
-GestureKeys::GestureKeys(AgentHotKeys &hotKeys) : keyboard_(keyboard())
+GestureKeys::GestureKeys(AgentHotKeys &hotKeys) : keyboard_(keyboard()), watch_(*keyboard_)
 {
     connect(&hotKeys, &AgentHotKeys::pressed, this,
         [this](const QString &action, const QString &, quint32 time) { handleHotKey(action, time); });
@@ -107,11 +107,6 @@ QSet<int> GestureKeys::takenDigits() const
     return taken;
 }
 
-void GestureKeys::ring()
-{
-    keyboard_->ring();
-}
-
 void GestureKeys::end()
 {
     isOn_ = false;
@@ -123,6 +118,7 @@ void GestureKeys::end()
 
 void GestureKeys::handleHotKey(const QString &action, quint32 time)
 {
+    keyboard_->catchUp(time);
     note(time);
     chord_.somethingElseWasPressed(time);
     // First: with many windows the display takes a while to change what it tells us.
@@ -138,9 +134,10 @@ void GestureKeys::handleModifiers(quint32 held, quint32 time)
     const ChordPresses::Outcome outcome = chord_.modifiersDidChange(held, time);
     if (chord_.isWaiting(time) && held == keys_.modifiers())
         chordWatch_.start();
-    // What went up before the press ended the gesture before, and may come late: presses come another way.
+    // What went down or up before the press may come late: presses come another way.
+    const quint32 wentUp = std::exchange(held_, held) & ~held & keys_.modifiers();
     const bool isLate = qint32(time - heldSince_) < 0;
-    if (releaseCheck_.isActive() && !isLate && (held & keys_.modifiers()) != keys_.modifiers())
+    if (releaseCheck_.isActive() && !isLate && wentUp)
         tellRelease(time);
     updateWatch();
     tellChord(outcome, time);
@@ -216,6 +213,7 @@ void GestureKeys::handleButton(bool isWheel, quint32 time)
 
 void GestureKeys::handleDigit(int digit, quint32 time)
 {
+    keyboard_->catchUp(time);
     note(time);
     if (isOn_)
         Q_EMIT digitPressed(digit, time);
@@ -224,7 +222,8 @@ void GestureKeys::handleDigit(int digit, quint32 time)
 void GestureKeys::handleLoss()
 {
     end();
-    watched_ = {};
+    watch_.forget();
+    held_ = 0;
     Q_EMIT lost();
 }
 
@@ -294,6 +293,5 @@ void GestureKeys::updateWatch()
         events |= Keyboard::KeyReleases;
     if (isGrabbed_)
         events |= Keyboard::Buttons;
-    if (std::exchange(watched_, events) != events)
-        keyboard_->watch(events);
+    watch_.setEvents(events);
 }

@@ -4,7 +4,7 @@
 #include "agent/keys/ChordPresses.h"
 #include "agent/keys/DigitKeys.h"
 #include "agent/keys/KeyRepeat.h"
-#include "agent/keys/Keyboard.h"
+#include "agent/keys/KeyboardWatch.h"
 
 #include <QElapsedTimer>
 #include <QSet>
@@ -47,7 +47,7 @@ public:
     QSet<int> takenDigits() const;
 
     /// The keyboard's bell: a key leads nowhere.
-    void ring();
+    void ring() { keyboard_->ring(); }
 
     /// The gesture is over: gives back everything, ends all repeats, tells of no release. Harmless at any time.
     void end();
@@ -103,6 +103,7 @@ private:
     void updateWatch();
 
     std::unique_ptr<Keyboard> keyboard_;
+    KeyboardWatch watch_;
     ActionKeyTable keys_;
     ChordPresses chord_;
     QTimer chordWatch_; ///< runs while it matters what else is pressed
@@ -115,8 +116,8 @@ private:
     int grabTries_ = 0;
     bool isOn_ = false; ///< a gesture
     bool isGrabbed_ = false;
-    Keyboard::Events watched_;
     quint32 lastTime_ = 0;
+    quint32 held_ = 0; ///< modifiers, as they were last told
     quint32 heldSince_ = 0; ///< the time of the press that began the gesture
     QElapsedTimer sinceLastTime_;
 };

@@ -35,6 +35,9 @@ public:
     /// Tells of these from now on, whoever has the keyboard, and of no others.
     virtual void watch(Events events) = 0;
 
+    /// Tells now what was before this time. Hot keys come another way, and a press may overtake what was before it.
+    virtual void catchUp(quint32 time) = 0;
+
     // Each of these asks the display, in one or two round trips. Without it nothing is held.
 
     /// The modifiers that are physically held.

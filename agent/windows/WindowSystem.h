@@ -23,6 +23,10 @@ public:
     /// notActivated() follows later, within 500 ms, unless activate() is called again before.
     virtual void activate(quint32 windowID, quint32 time) = 0;
 
+    /// From now on activate() is likely, or no longer. What it needs is then at hand: with many windows the display
+    /// takes a while to get it ready. Nothing is watched otherwise.
+    virtual void expectActivation(bool isExpected) = 0;
+
     /// The time of something that no key or button decided: now, in the display's own clock. 0 without a display. Waits
     /// for the display.
     virtual quint32 time() = 0;

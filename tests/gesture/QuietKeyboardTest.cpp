@@ -8,6 +8,8 @@
 
 namespace {
 
+constexpr quint32 untilCalm = ChordPresses::longestDouble + quint32(KeyboardWatch::calmDelay.count()) + 100;
+
 class QuietKeyboard : public GestureSession
 {
 public:
@@ -76,7 +78,7 @@ TEST_F(QuietKeyboard, sleepsAgainSoonAfterTheModifiersWerePressed)
     holdModifiers();
     waitForServer(20);
     releaseModifiers();
-    waitForServer(ChordPresses::longestDouble + 100);
+    waitForServer(untilCalm);
     heard();
     EXPECT_EQ(wakeUpsDuring(typePlainKeys), wakeUpsDuringNothing());
 }
@@ -88,7 +90,7 @@ TEST_F(QuietKeyboard, sleepsAgainAfterAGesture)
     keys.grabKeyboard();
     keys.end();
     releaseModifiers();
-    waitForServer(ChordPresses::longestDouble + 100);
+    waitForServer(untilCalm);
     heard();
     EXPECT_EQ(wakeUpsDuring(typePlainKeys), wakeUpsDuringNothing());
 }

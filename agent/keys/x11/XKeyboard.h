@@ -7,6 +7,7 @@
 #include <QSocketNotifier>
 #include <array>
 #include <bitset>
+#include <deque>
 #include <utility>
 #include <vector>
 
@@ -23,6 +24,7 @@ public:
 
     bool open() override;
     void watch(Events events) override;
+    void catchUp(quint32 time) override;
     quint32 heldModifiers() override;
     bool isHeld(VirtualKeyCode keyCode) override;
     bool isAnythingHeldBut(quint32 modifiers) override;
@@ -44,6 +46,9 @@ private:
 
     void handleLater();
     void handleEvents();
+    bool receive();
+    void handleNext();
+    bool isBefore(const xcb_generic_event_t *event, quint32 time) const;
     void handle(const xcb_generic_event_t *event);
     void handleKeyboardEvent(const xcb_generic_event_t *event);
     void handleInputEvent(const xcb_generic_event_t *event);
@@ -53,6 +58,7 @@ private:
 
     XConnection connection_;
     std::unique_ptr<QSocketNotifier> notifier_;
+    std::deque<FromServer<xcb_generic_event_t>> received_; ///< and not handled yet
     xcb_window_t root_ = 0;
     quint8 firstKeyboardEvent_ = 0;
     quint8 inputExtension_ = 0;

@@ -2,6 +2,7 @@
 
 #include "agent/keys/x11/XKeyboard.h"
 
+#include <algorithm>
 #include <xcb/xinput.h>
 
 namespace {
@@ -25,15 +26,59 @@ void XKeyboard::handleLater()
 
 void XKeyboard::handleEvents()
 {
-    while (connection_) {
-        const auto event = fromServer(xcb_poll_for_event(connection_.get()));
-        if (xcb_connection_has_error(connection_.get()))
-            handleLoss();
-        else if (!event)
-            return;
-        else
-            handle(event.get());
+    while (receive())
+        handleNext();
+}
+
+void XKeyboard::catchUp(quint32 time)
+{
+    receive();
+    const auto last = std::find_if(
+        received_.crbegin(), received_.crend(), [&](const auto &event) { return isBefore(event.get(), time); });
+    for (auto count = std::distance(last, received_.crend()); count > 0 && !received_.empty(); --count)
+        handleNext();
+    if (!received_.empty())
+        handleLater();
+}
+
+void XKeyboard::handleNext()
+{
+    const auto event = std::move(received_.front());
+    received_.pop_front();
+    handle(event.get());
+}
+
+/// Whether there is an event to handle.
+bool XKeyboard::receive()
+{
+    if (!connection_)
+        return false;
+    while (auto event = fromServer(xcb_poll_for_event(connection_.get())))
+        received_.push_back(std::move(event));
+    if (!xcb_connection_has_error(connection_.get()))
+        return !received_.empty();
+    handleLoss();
+    return false;
+}
+
+/// In the same millisecond, modifiers go down before a key that is pressed with them, and up after it.
+bool XKeyboard::isBefore(const xcb_generic_event_t *event, quint32 time) const
+{
+    const auto hasGone = [time](quint32 then, bool isRelease) {
+        const auto since = qint32(time - then);
+        return since > 0 || (since == 0 && !isRelease);
+    };
+    const quint8 type = event->response_type & eventTypeMask;
+    if (type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE)
+        return hasGone(reinterpret_cast<const xcb_key_press_event_t *>(event)->time, type == XCB_KEY_RELEASE);
+    if (type == XCB_GE_GENERIC) {
+        const auto *raw = reinterpret_cast<const xcb_input_raw_key_press_event_t *>(event);
+        return hasGone(raw->time, raw->event_type == XCB_INPUT_RAW_KEY_RELEASE);
     }
+    if (type != firstKeyboardEvent_ || event->pad0 != XCB_XKB_STATE_NOTIFY)
+        return true;
+    const auto *state = reinterpret_cast<const xcb_xkb_state_notify_event_t *>(event);
+    return hasGone(state->time, state->eventType == XCB_KEY_RELEASE);
 }
 
 void XKeyboard::handle(const xcb_generic_event_t *event)
@@ -115,6 +160,7 @@ void XKeyboard::handleLoss()
     notifier_->setEnabled(false);
     notifier_.release()->deleteLater();
     connection_ = nullptr;
+    received_.clear();
     isGrabbed_ = false;
     devices_.clear();
     Q_EMIT lost();

@@ -7,6 +7,9 @@
 namespace {
 
 constexpr int mostMilliseconds = 500;
+// After which nothing is watched any more: the server takes a while for that, and the window just turned to would have
+// to wait.
+constexpr int calmMilliseconds = 150;
 constexpr int mostRepetitions = 3;
 constexpr quint32 fromUserByPager = 2;
 constexpr quint32 onAllDesktops = 0xffffffff;
@@ -26,17 +29,29 @@ WindowActivation::WindowActivation(const WindowServer &server)
 {
     input_.setEnabled(false);
     limit_.setSingleShot(true);
+    calm_.setSingleShot(true);
+    calm_.setInterval(calmMilliseconds);
     connect(&input_, &QSocketNotifier::activated, this, &WindowActivation::lookAtWhatCameMeanwhile);
+    connect(&calm_, &QTimer::timeout, this, [this] { watchRoot(false); });
     connect(&limit_, &QTimer::timeout, this, [this] { finish(isActive()); });
+}
+
+void WindowActivation::expect(bool isExpected)
+{
+    isExpected_ = isExpected;
+    if (isExpected)
+        watchRoot(true);
+    else if (isWatching_ && window_ == XCB_WINDOW_NONE)
+        calm_.start();
 }
 
 void WindowActivation::begin(xcb_window_t window, xcb_timestamp_t time)
 {
+    hasActiveWindowChanged();
     window_ = window;
     lastChange_ = XCB_CURRENT_TIME;
     const bool isAsked = time != XCB_CURRENT_TIME && ask(time);
     limit_.start(isAsked ? mostMilliseconds : 0);
-    input_.setEnabled(isAsked);
     // It may be the active one already, and some of the manager's answer may have been read just now.
     if (isAsked)
         QMetaObject::invokeMethod(this, &WindowActivation::look, Qt::QueuedConnection);
@@ -57,15 +72,13 @@ bool WindowActivation::ask(xcb_timestamp_t time)
     const bool isElsewhere = desktop && current && desktop != current && *desktop != onAllDesktops;
     timesToAskAgain_ = isElsewhere ? mostRepetitions : 0;
     if (isElsewhere) {
-        // With many windows the server takes a while; but here each change counts.
-        watchRoot(XCB_EVENT_MASK_PROPERTY_CHANGE);
+        // Here each change counts.
+        watchRoot(true);
         send(root, server_.atoms.currentDesktop, {.data32 = {*desktop, time}});
     }
     askForFocus(time);
-    // What has changed by then is looked at anyway.
-    if (!isElsewhere)
-        watchRoot(XCB_EVENT_MASK_PROPERTY_CHANGE);
-    xcb_flush(server_.connection);
+    // Last, as the server takes a while with many windows. What has changed by then is looked at anyway.
+    watchRoot(true);
     return !xcb_connection_has_error(server_.connection);
 }
 
@@ -87,14 +100,22 @@ void WindowActivation::send(xcb_window_t window, xcb_atom_t message, const xcb_c
     xcb_send_event(server_.connection, false, server_.screen->root, toManager, reinterpret_cast<const char *>(&event));
 }
 
-void WindowActivation::watchRoot(quint32 events)
+void WindowActivation::watchRoot(bool isToWatch)
 {
+    calm_.stop();
+    input_.setEnabled(isToWatch);
+    if (std::exchange(isWatching_, isToWatch) == isToWatch)
+        return;
+    const quint32 events = isToWatch ? XCB_EVENT_MASK_PROPERTY_CHANGE : XCB_EVENT_MASK_NO_EVENT;
     xcb_change_window_attributes(server_.connection, server_.screen->root, XCB_CW_EVENT_MASK, &events);
+    xcb_flush(server_.connection);
 }
 
 void WindowActivation::lookAtWhatCameMeanwhile()
 {
     const bool isToLook = hasActiveWindowChanged();
+    if (xcb_connection_has_error(server_.connection))
+        input_.setEnabled(false);
     if (window_ == XCB_WINDOW_NONE)
         return;
     if (xcb_connection_has_error(server_.connection))
@@ -180,9 +201,7 @@ void WindowActivation::finish(bool isActive)
 {
     const xcb_window_t window = std::exchange(window_, XCB_WINDOW_NONE);
     limit_.stop();
-    input_.setEnabled(false);
-    watchRoot(XCB_EVENT_MASK_NO_EVENT);
-    xcb_flush(server_.connection);
+    expect(isExpected_);
     if (isActive)
         Q_EMIT activated(window);
     else

@@ -55,6 +55,12 @@ void X11WindowSystem::activate(quint32 windowID, quint32 time)
             this, [this, windowID] { Q_EMIT notActivated(windowID); }, Qt::QueuedConnection);
 }
 
+void X11WindowSystem::expectActivation(bool isExpected)
+{
+    if (connection_)
+        activation_->expect(isExpected);
+}
+
 quint32 X11WindowSystem::time()
 {
     return connection_ ? currentServerTime() : 0;

@@ -13,6 +13,7 @@ public:
 
     std::optional<WindowWorld> read(const WindowChoice &choice, QString *failure) override;
     void activate(quint32 windowID, quint32 time) override;
+    void expectActivation(bool isExpected) override;
     quint32 time() override;
 
 private:
