@@ -30,6 +30,12 @@ QString shownFolder(const QString &path)
     return folder.startsWith(home + u'/') ? u'~' + folder.mid(home.size()) : folder;
 }
 
+void answer(const ActionTold &told, const ActionOutcome &outcome = {})
+{
+    if (told)
+        told(outcome);
+}
+
 } // namespace
 
 Actions::Actions(WindowSystem &windows, Gestures &gestures) : windows_(windows), gestures_(gestures)
@@ -44,18 +50,14 @@ Actions::~Actions() = default;
 
 void Actions::perform(const QString &action, quint32 time)
 {
-    static const QHash<QString, void (Actions::*)(quint32)> actions{
-        {KTXOpenPrefPanePref, &Actions::openPrefPane},
-        {KTXScreenClosePref, &Actions::closeWindow},
-    };
-    static const QHash<QString, void (Actions::*)()> timeless{
-        {KTXScreenshotPref, &Actions::takeScreenshot},
-        {KTXPreviewPref, &Actions::showPreview},
+    static const QHash<QString, void (*)(Actions &, quint32)> actions{
+        {KTXOpenPrefPanePref, [](Actions &all, quint32 at) { all.openPrefPane(at); }},
+        {KTXScreenClosePref, [](Actions &all, quint32 at) { all.closeWindow(at); }},
+        {KTXScreenshotPref, [](Actions &all, quint32) { all.takeScreenshot(); }},
+        {KTXPreviewPref, [](Actions &all, quint32) { all.showPreview(); }},
     };
     if (const auto act = actions.value(action))
-        (this->*act)(time);
-    else if (const auto other = timeless.value(action))
-        (this->*other)();
+        act(*this, time);
 }
 
 /// The desktop and its panels may have the focus, but are nothing to act on.
@@ -72,75 +74,83 @@ std::optional<Actions::Target> Actions::target()
     return Target{*world, *window};
 }
 
-void Actions::takeScreenshot()
+void Actions::takeScreenshot(const ActionTold &told)
 {
+    gestures_.stay();
     const auto found = target();
     const QString reason =
         found ? reasonForNoPicture(found->window) : actionText("There is no window to take a picture of.");
     if (!reason.isEmpty()) {
-        refuse(pictureMatter, actionText("No picture was taken"), reason);
+        refuse({pictureMatter, actionText("No picture was taken"), reason, {}}, told);
         return;
     }
     auto *const screenshot = new Screenshot(found->window);
     screenshot->setParent(this);
-    connect(screenshot, &Screenshot::taken, this, [this, screenshot](const QString &path) {
+    connect(screenshot, &Screenshot::taken, this, [this, screenshot, told](const QString &path) {
         screenshot->deleteLater();
-        tellOfPicture(screenshot->window(), path);
+        tellOfPicture(screenshot->window(), path, told);
     });
-    connect(screenshot, &Screenshot::failed, this, [this, screenshot](const QString &sentence) {
+    connect(screenshot, &Screenshot::failed, this, [this, screenshot, told](const QString &sentence) {
         screenshot->deleteLater();
-        refuse(pictureMatter, actionText("No picture was taken"), sentence);
+        refuse({pictureMatter, actionText("No picture was taken"), sentence, {}}, told);
     });
 }
 
-void Actions::tellOfPicture(const WindowDescription &window, const QString &path)
+void Actions::tellOfPicture(const WindowDescription &window, const QString &path, const ActionTold &told)
 {
     picture_ = path;
     notices_.tell({pictureMatter, actionText("Picture of “%1” taken").arg(titleOf(window)),
         actionText("It is stored as “%1” in %2.").arg(QFileInfo(path).fileName(), shownFolder(path)),
         actionText("Show"), path});
     Q_EMIT screenshotTaken(path);
+    answer(told, {{}, path});
 }
 
-void Actions::closeWindow(quint32 time)
+void Actions::closeWindow(quint32 time, const ActionTold &told)
 {
+    gestures_.stay();
     const auto found = target();
     if (!found) {
-        refuse(closingMatter, actionText("No window was closed"), actionText("There is no window to close."));
+        refuse(
+            {closingMatter, actionText("No window was closed"), actionText("There is no window to close."), {}}, told);
         return;
     }
     auto *const closing = new Closing(windows_, found->world, found->window.windowID);
     closing->setParent(this);
-    connect(closing, &Closing::ended, this, [this, closing](Closing::Outcome outcome, quint32 dialog) {
+    connect(closing, &Closing::ended, this, [this, closing, told](Closing::Outcome outcome, quint32 dialog) {
         closing->deleteLater();
         gestures_.setClosing(0);
-        hearEnd(closing->window(), outcome, dialog);
+        hearEnd(closing->window(), outcome, dialog, told);
     });
     gestures_.setClosing(found->window.windowID);
     closing->begin(time);
 }
 
-void Actions::hearEnd(const WindowDescription &window, Closing::Outcome outcome, quint32 dialog)
+void Actions::hearEnd(const WindowDescription &window, Closing::Outcome outcome, quint32 dialog, const ActionTold &told)
 {
     const QString title = titleOf(window);
     switch (outcome) {
     case Closing::Outcome::Closed:
         gestures_.followWindows();
         Q_EMIT windowClosed();
+        answer(told);
         break;
     case Closing::Outcome::Asks:
         if (gestures_.selected() == window.windowID)
             gestures_.select(dialog);
+        answer(told, {actionText("“%1” asks something before it closes.").arg(title), {}});
         break;
     case Closing::Outcome::StaysOpen:
-        refuse(closingMatter, actionText("A window did not close"), actionText("“%1” is still open.").arg(title));
+        refuse({closingMatter, actionText("A window did not close"), actionText("“%1” is still open.").arg(title), {}},
+            told);
         break;
     case Closing::Outcome::CannotBeAsked:
         unanswering_ = window;
-        refuse(closingMatter, actionText("A window cannot be asked to close"),
-            actionText("“%1” does not answer to being closed. Ending its program loses what it has not stored.")
-                .arg(title),
-            actionText("End it"));
+        refuse({closingMatter, actionText("A window cannot be asked to close"),
+                   actionText("“%1” does not answer to being closed. Ending its program loses what it has not stored.")
+                       .arg(title),
+                   actionText("End it")},
+            told);
         break;
     }
 }
@@ -171,14 +181,16 @@ void Actions::openPrefPane(quint32 time)
     if (reason.isEmpty())
         Q_EMIT settingsOpened();
     else
-        refuse(settingsMatter, actionText("The settings did not open"),
-            actionText("The settings cannot be opened: %1.").arg(reason));
+        refuse({settingsMatter, actionText("The settings did not open"),
+            actionText("The settings cannot be opened: %1.").arg(reason), {}});
 }
 
-void Actions::showPreview()
+void Actions::showPreview(const ActionTold &told)
 {
+    gestures_.stay();
     if (isPreviewing_) {
         endPreview();
+        answer(told);
         return;
     }
     const auto found = target();
@@ -187,10 +199,12 @@ void Actions::showPreview()
         preview(*found);
     if (reason.isEmpty() && !preview_)
         reason = actionText("This X server gives no pictures of windows.");
-    if (reason.isEmpty())
-        Q_EMIT previewShown();
-    else
-        refuse(previewMatter, actionText("No preview is shown"), reason);
+    if (!reason.isEmpty()) {
+        refuse({previewMatter, actionText("No preview is shown"), reason, {}}, told);
+        return;
+    }
+    Q_EMIT previewShown();
+    answer(told);
 }
 
 /// The one before goes only when this one is there.
@@ -236,8 +250,9 @@ void Actions::endPreview()
         Q_EMIT previewEnded();
 }
 
-void Actions::refuse(const QString &matter, const QString &title, const QString &sentence, const QString &button)
+void Actions::refuse(const Notice &notice, const ActionTold &told)
 {
-    notices_.tell({matter, title, sentence, button});
-    Q_EMIT refused(sentence);
+    notices_.tell(notice);
+    Q_EMIT refused(notice.text);
+    answer(told, {notice.text, {}});
 }

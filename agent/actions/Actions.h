@@ -5,10 +5,20 @@
 #include "agent/notices/Notices.h"
 
 #include <QObject>
+#include <functional>
 #include <memory>
 #include <optional>
 
 class Gestures;
+
+/// How an action has ended.
+struct ActionOutcome
+{
+    QString failure; ///< why nothing came of it, a whole sentence in the user's language; empty where it is done
+    QString path; ///< of the picture that was taken
+};
+/// Whoever wants to hear that of one action, once. Not called where the agent ends before the action has.
+using ActionTold = std::function<void(const ActionOutcome &)>;
 
 /// What the agent does with a window besides choosing it: with the selected one during a gesture, else with the active
 /// one. Asked for by the keys of these actions, and by whoever calls it; nothing goes on between two actions but a
@@ -26,12 +36,12 @@ public:
     ~Actions() override;
 
     /// Stores a picture of the window, covered or not. screenshotTaken() or refused() follows.
-    void takeScreenshot();
+    void takeScreenshot(const ActionTold &told = {});
     /// Asks the window to close, and its user before anything is ended that does not answer. windowClosed(), a dialog
     /// of its program, which is selected then, or refused() follows within about 2 s.
-    void closeWindow(quint32 time = 0);
+    void closeWindow(quint32 time = 0, const ActionTold &told = {});
     /// Shows the window enlarged, or ends that. During a gesture it follows the selection, and ends with it.
-    void showPreview();
+    void showPreview(const ActionTold &told = {});
     /// Opens the settings at Lumaroo's pane, or brings them to the front as they are.
     void openPrefPane(quint32 time = 0);
 
@@ -53,16 +63,16 @@ private:
 
     void perform(const QString &action, quint32 time);
     std::optional<Target> target();
-    void hearEnd(const WindowDescription &window, Closing::Outcome outcome, quint32 dialog);
+    void hearEnd(const WindowDescription &window, Closing::Outcome outcome, quint32 dialog, const ActionTold &told);
     void hearButton(const QString &matter);
     void endUnansweringProgram();
-    void tellOfPicture(const WindowDescription &window, const QString &path);
+    void tellOfPicture(const WindowDescription &window, const QString &path, const ActionTold &told);
     void preview(const Target &target);
     void followWithPreview();
     void hearPreviewsEnd();
     void hidePreview();
     void endPreview();
-    void refuse(const QString &matter, const QString &title, const QString &sentence, const QString &button = {});
+    void refuse(const Notice &notice, const ActionTold &told = {});
 
     WindowSystem &windows_;
     Gestures &gestures_;

@@ -45,6 +45,7 @@ Gestures::Gestures(WindowSystem &windows, Overlay &overlay, GestureKeys &keys)
 {
     labels_.setSingleShot(true);
     limit_.setSingleShot(true);
+    limit_.setInterval(patience);
     farewell_.setSingleShot(true);
     const auto tells = [this](Kind kind) { return [this, kind](quint32 time) { take({.kind = kind, .time = time}); }; };
     connect(&keys, &GestureKeys::pressed, this, &Gestures::hearPress);
@@ -92,8 +93,7 @@ void Gestures::hearPress(const QString &action, quint32 time)
         take(*event);
         return;
     }
-    if (isOn())
-        limit_.start(patience);
+    stay();
     Q_EMIT asked(action, time);
 }
 
@@ -109,8 +109,8 @@ void Gestures::take(const GestureEvent &event)
         return;
     }
     run_->isCurrent = false;
-    limit_.start(patience);
     windows_.expectActivation(true);
+    limit_.start();
     // The release may have come before it was looked for. This asks only now, when the mark is on its way.
     if (gesture_.state() == Gesture::State::Held && event.kind == Kind::Movement && !keys_.areModifiersDown())
         take({.kind = Kind::ModifiersReleased, .time = event.time});

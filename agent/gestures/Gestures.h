@@ -36,6 +36,8 @@ public:
     void select(quint32 windowID);
     /// Lets go of windows that have gone; the selection goes on with a neighbour. Harmless where none is on.
     void followWindows();
+    /// Something has been done with the selection: it stays for another while. Harmless where none is on.
+    void stay();
     /// A window that has been asked to close is not turned to; 0 for none any more.
     void setClosing(quint32 windowID) { closing_ = windowID; }
 

@@ -14,6 +14,12 @@ void Gestures::command(GestureEvent event)
     take(event);
 }
 
+void Gestures::stay()
+{
+    if (isOn())
+        limit_.start();
+}
+
 void Gestures::select(quint32 windowID)
 {
     if (!isOn())

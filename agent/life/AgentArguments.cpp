@@ -16,6 +16,9 @@ usage: LumarooAgent [--foreground]
        LumarooAgent --move left|right|up|down|under
        LumarooAgent --accept
        LumarooAgent --cancel
+       LumarooAgent --screenshot
+       LumarooAgent --close
+       LumarooAgent --preview
 
   without an option      runs until it is told to quit; at most one runs in a session
   --foreground           runs, with a line on standard output for each event
@@ -25,10 +28,14 @@ usage: LumarooAgent [--foreground]
   --start-at-login       whether the desktop starts the agent at login; at first it does not
   --quit                 asks the running agent to quit, and waits until it has
   --move                 has the running agent select the next window there; --accept turns to it, --cancel leaves it
+  --screenshot           has the running agent store a picture of the window, and prints the picture's path
+  --close                has it close the window; not done where that stays open, or its program asks something first
+  --preview              has it show the window enlarged, or end that
   --help, --version      show this; show the version
 
 A selection that --move begins takes no key from other programs. It stays until it is accepted or cancelled, until the
-session is locked or sleeps, or until nothing has been done with it for 30 s.
+session is locked or sleeps, or until nothing has been done with it for 30 s. The last three are for the selected window,
+and where none is selected for the active one.
 
 Values:
   -bool    true or false, yes or no, 1 or 0
@@ -54,8 +61,10 @@ const QHash<QString, Action> &actions()
         {QStringLiteral("--print-windows"), Action::PrintWindows}, {QStringLiteral("--set"), Action::Set},
         {QStringLiteral("--start-at-login"), Action::StartAtLogin}, {QStringLiteral("--quit"), Action::Quit},
         {QStringLiteral("--move"), Action::Move}, {QStringLiteral("--accept"), Action::Accept},
-        {QStringLiteral("--cancel"), Action::Cancel}, {QStringLiteral("--help"), Action::Help},
-        {QStringLiteral("-h"), Action::Help}, {QStringLiteral("--version"), Action::Version}};
+        {QStringLiteral("--cancel"), Action::Cancel}, {QStringLiteral("--screenshot"), Action::TakeScreenshot},
+        {QStringLiteral("--close"), Action::CloseWindow}, {QStringLiteral("--preview"), Action::ShowPreview},
+        {QStringLiteral("--help"), Action::Help}, {QStringLiteral("-h"), Action::Help},
+        {QStringLiteral("--version"), Action::Version}};
     return all;
 }
 

@@ -15,6 +15,9 @@ struct AgentRequest
         Move,
         Accept,
         Cancel,
+        TakeScreenshot,
+        CloseWindow,
+        ShowPreview,
         Help,
         Version
     };

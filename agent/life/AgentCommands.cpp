@@ -24,9 +24,9 @@ void print(const char *text)
 }
 
 /// What the running agent answers.
-QString needRunningAgent(const char *method, const QVariantList &arguments = {})
+QString needRunningAgent(const char *method, const QVariantList &arguments = {}, AnswerTime time = AnswerTime::AtOnce)
 {
-    const AgentAnswer answer = askRunningAgent(QString::fromLatin1(method), arguments);
+    const AgentAnswer answer = askRunningAgent(QString::fromLatin1(method), arguments, time);
     if (answer.outcome == AgentAnswer::Outcome::NotRunning)
         throw CommandFailure(QStringLiteral("no agent runs"));
     if (answer.outcome == AgentAnswer::Outcome::Failed)
@@ -52,6 +52,22 @@ void accept(const AgentRequest &)
 void cancel(const AgentRequest &)
 {
     needRunningAgent("Cancel");
+}
+
+void takeScreenshot(const AgentRequest &)
+{
+    const QString path = needRunningAgent("TakeScreenshot", {}, AnswerTime::WhenDone);
+    print((path + u'\n').toUtf8().constData());
+}
+
+void closeWindow(const AgentRequest &)
+{
+    needRunningAgent("CloseWindow", {}, AnswerTime::WhenDone);
+}
+
+void showPreview(const AgentRequest &)
+{
+    needRunningAgent("ShowPreview", {}, AnswerTime::WhenDone);
 }
 
 void printWindows(const AgentRequest &)
@@ -123,6 +139,7 @@ void perform(const AgentRequest &request)
     static const QHash<Action, void (*)(const AgentRequest &)> commands{{Action::PrintSettings, printSettings},
         {Action::PrintWindows, printWindows}, {Action::Set, setValue}, {Action::StartAtLogin, startAtLogin},
         {Action::Quit, quit}, {Action::Move, move}, {Action::Accept, accept}, {Action::Cancel, cancel},
-        {Action::Help, help}, {Action::Version, version}};
+        {Action::TakeScreenshot, takeScreenshot}, {Action::CloseWindow, closeWindow},
+        {Action::ShowPreview, showPreview}, {Action::Help, help}, {Action::Version, version}};
     commands.value(request.action)(request);
 }

@@ -79,9 +79,10 @@ TEST_F(TheCommandLine, hasNothingToPrintWhereNoAgentRuns)
     EXPECT_EQ(result.errors, "LumarooAgent: no agent runs\n");
 }
 
-TEST_F(TheCommandLine, movesNothingWhereNoAgentRuns)
+TEST_F(TheCommandLine, doesNothingWithWindowsWhereNoAgentRuns)
 {
-    for (const QStringList &arguments : QList<QStringList>{{"--move", "left"}, {"--accept"}, {"--cancel"}}) {
+    for (const QStringList &arguments : QList<QStringList>{
+             {"--move", "left"}, {"--accept"}, {"--cancel"}, {"--screenshot"}, {"--close"}, {"--preview"}}) {
         const ProgramResult result = runAgent(arguments);
         EXPECT_EQ(result.status, 1);
         EXPECT_EQ(result.output, "");
@@ -110,6 +111,18 @@ TEST_F(TheCommandLine, saysWhyNothingCameOfAMove)
     EXPECT_EQ(runAgent({"--accept"}).errors, "LumarooAgent: no window is selected\n");
     const ProgramResult result = runAgent({"--cancel"});
     EXPECT_EQ(result.errors, "LumarooAgent: no window is selected\n");
+    EXPECT_EQ(result.status, 1);
+}
+
+TEST_F(TheCommandLine, saysWhyNothingCameOfAnAction)
+{
+    AgentProgram agent;
+    ASSERT_TRUE(agent.waitForLaunch());
+    EXPECT_EQ(runAgent({"--screenshot"}).errors, "LumarooAgent: There is no window to take a picture of.\n");
+    EXPECT_EQ(runAgent({"--close"}).errors, "LumarooAgent: There is no window to close.\n");
+    const ProgramResult result = runAgent({"--preview"});
+    EXPECT_EQ(result.errors, "LumarooAgent: There is no window to show.\n");
+    EXPECT_EQ(result.output, "");
     EXPECT_EQ(result.status, 1);
 }
 
@@ -220,7 +233,8 @@ TEST_F(TheCommandLine, explainsItselfWhereItMakesNoSense)
              {"--set", "key"}, {"--set", "--quit"}, {"--set", "key", "-bool"}, {"--set", "key", "-bool", "maybe"},
              {"--set", "key", "-5"}, {"--set", "key", "a", "b"}, {"--start-at-login"}, {"--start-at-login", "perhaps"},
              {"--quit", "--print-settings"}, {"--foreground", "now"}, {"--move"}, {"--move", "away"},
-             {"--move", "--accept"}, {"--move", "left", "up"}, {"--accept", "left"}, {"--cancel", "--accept"}, {""}}) {
+             {"--move", "--accept"}, {"--move", "left", "up"}, {"--accept", "left"}, {"--cancel", "--accept"},
+             {"--screenshot", "/tmp"}, {"--close", "all"}, {"--preview", "--cancel"}, {""}}) {
         const ProgramResult result = runAgent(arguments);
         EXPECT_EQ(result.status, 2) << arguments.join(' ').toStdString();
         EXPECT_EQ(result.output, "");
@@ -272,6 +286,7 @@ TEST_F(TheCommandLine, findsTheAgentThroughTheCheckedInInterface)
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QStringList described = methodsOf(file.readAll(), KTXLMAgentID);
     EXPECT_EQ(described,
-        QStringList({"Version out i", "Settings out s", "ReadSettings", "Quit", "Move in s", "Accept", "Cancel"}));
+        QStringList({"Version out i", "Settings out s", "ReadSettings", "Quit", "Move in s", "Accept", "Cancel",
+            "TakeScreenshot out s", "CloseWindow", "ShowPreview"}));
     EXPECT_EQ(methodsOf(answer.arguments().value(0).toString().toUtf8(), KTXLMAgentID), described);
 }

@@ -72,6 +72,34 @@ void AgentObject::Cancel()
     tell(agent_.commands().cancel());
 }
 
+QString AgentObject::TakeScreenshot()
+{
+    agent_.actions().takeScreenshot(answerLater(true));
+    return {};
+}
+
+void AgentObject::CloseWindow()
+{
+    agent_.actions().closeWindow(0, answerLater());
+}
+
+void AgentObject::ShowPreview()
+{
+    agent_.actions().showPreview(answerLater());
+}
+
+/// Whoever asked hears how an action has ended once it has.
+ActionTold AgentObject::answerLater(bool withPath) const
+{
+    setDelayedReply(true);
+    return [withPath, bus = connection(), call = message()](const ActionOutcome &outcome) {
+        if (!outcome.failure.isEmpty())
+            bus.send(call.createErrorReply(QDBusError::Failed, outcome.failure));
+        else
+            bus.send(call.createReply(withPath ? QVariantList{outcome.path} : QVariantList()));
+    };
+}
+
 /// Whoever asked has an error where there is one.
 void AgentObject::tell(const QString &failure) const
 {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "agent/actions/Actions.h"
+
 #include <QDBusContext>
 #include <QObject>
 
@@ -34,9 +36,13 @@ public Q_SLOTS:
     Q_SCRIPTABLE void Move(const QString &direction);
     Q_SCRIPTABLE void Accept();
     Q_SCRIPTABLE void Cancel();
+    Q_SCRIPTABLE QString TakeScreenshot();
+    Q_SCRIPTABLE void CloseWindow();
+    Q_SCRIPTABLE void ShowPreview();
 
 private:
     void tell(const QString &failure) const;
+    ActionTold answerLater(bool withPath = false) const;
 
     Agent &agent_;
 };

@@ -12,6 +12,7 @@
 namespace {
 
 constexpr int longestAnswer = 5000; // milliseconds
+constexpr int longestAction = 30000;
 constexpr int longestEnd = 10000;
 
 AgentAnswer failure(const QDBusError &error)
@@ -28,14 +29,15 @@ AgentAnswer failure(const QDBusError &error)
 
 } // namespace
 
-AgentAnswer askRunningAgent(const QString &method, const QVariantList &arguments)
+AgentAnswer askRunningAgent(const QString &method, const QVariantList &arguments, AnswerTime time)
 {
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return {AgentAnswer::Outcome::Failed, QStringLiteral("there is no session bus")};
     QDBusMessage call = agentCall(method);
     call.setArguments(arguments);
-    const QDBusMessage answer = bus.call(call, QDBus::Block, longestAnswer);
+    const QDBusMessage answer =
+        bus.call(call, QDBus::Block, time == AnswerTime::WhenDone ? longestAction : longestAnswer);
     if (answer.type() != QDBusMessage::ReplyMessage) {
         // The bus library's thread still has to do with a call that was not answered; a program must not exit
         // meanwhile.

@@ -12,8 +12,14 @@ struct AgentAnswer
     QString text; ///< the answer, or what failed
 };
 
-/// Calls a method of the running agent's interface; waits 5 s at most.
-AgentAnswer askRunningAgent(const QString &method, const QVariantList &arguments = {});
+enum class AnswerTime : quint8 {
+    AtOnce, ///< 5 s at most
+    WhenDone ///< of what other programs and the disk may hold up; 30 s at most
+};
+
+/// Calls a method of the running agent's interface and waits for its answer.
+AgentAnswer askRunningAgent(
+    const QString &method, const QVariantList &arguments = {}, AnswerTime time = AnswerTime::AtOnce);
 
 /// Asks the running agent to quit and waits until its name is gone from the bus, 10 s at most.
 AgentAnswer quitRunningAgent();

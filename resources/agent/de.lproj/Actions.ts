@@ -20,6 +20,10 @@
         <translation>„%1“ ist noch offen.</translation>
     </message>
     <message>
+        <source>“%1” asks something before it closes.</source>
+        <translation>„%1“ fragt etwas, bevor es sich schließt.</translation>
+    </message>
+    <message>
         <source>A window cannot be asked to close</source>
         <translation>Ein Fenster lässt sich nicht zum Schließen auffordern</translation>
     </message>
