@@ -19,12 +19,19 @@ public:
     void lookAtKeys();
     /// Tells that the tutorial, which was asked for, could not be started.
     void tellOfMissingTutorial();
+    /// Tells who has started the agent for the first time that it is on, and what to press (empty where no key works);
+    /// offers the tutorial and the settings.
+    void welcome(const QString &keysToPress);
 
 Q_SIGNALS:
     /// The user takes these modifiers.
     void modifiersChosen(quint32 modifiers);
+    /// The user takes up what the welcome offers.
+    void tutorialChosen();
+    void settingsChosen();
 
 private:
+    void handlePress(const QString &matter);
     void handleRefusal(const GestureRefusal &refusal);
 
     const AgentHotKeys &hotKeys_;

@@ -36,8 +36,11 @@ public:
     }
 
     const QList<Bubble> &bubbles() const { return bubbles_; }
-    /// As its user presses the button of the newest bubble.
-    void pressButton() { Q_EMIT ActionInvoked(quint32(bubbles_.size()), bubbles_.last().actions.value(0)); }
+    /// As its user presses the button of the newest bubble, or another one, counted from 0.
+    void pressButton(int button = 0)
+    {
+        Q_EMIT ActionInvoked(quint32(bubbles_.size()), bubbles_.last().actions.value(2 * button));
+    }
 
 public Q_SLOTS:
     // The interface on the bus. A bubble's number is its place, counted from 1.

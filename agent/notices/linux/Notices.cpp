@@ -6,32 +6,60 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
+#include <QTimer>
 #include <QUrl>
 #include <QVariantMap>
+#include <chrono>
 #include <utility>
+
+using namespace std::chrono_literals;
 
 namespace {
 
 const QString service = QStringLiteral("org.freedesktop.Notifications");
 const QString path = QStringLiteral("/org/freedesktop/Notifications");
 const QString buttonAction = QStringLiteral("button");
-constexpr int patience = 2000; // milliseconds
+const QString secondAction = QStringLiteral("second");
+constexpr auto patience = 2s;
+constexpr int longestAnswer = 60000; // milliseconds, of a server that is started for it
 constexpr int asLongAsTheDesktopLikes = -1;
+
+QStringList actionsOf(const Notice &notice)
+{
+    QStringList actions;
+    if (!notice.button.isEmpty())
+        actions << buttonAction << notice.button;
+    if (!notice.secondButton.isEmpty())
+        actions << secondAction << notice.secondButton;
+    return actions;
+}
+
+void log(const Notice &notice)
+{
+    NSLog(QStringLiteral("lumaroo: agent: %1: %2").arg(notice.title, notice.text));
+}
 
 QDBusMessage notifyCall(const Notice &notice, quint32 replaced)
 {
     QDBusMessage call = QDBusMessage::createMethodCall(service, path, service, QStringLiteral("Notify"));
-    const QStringList actions = notice.button.isEmpty() ? QStringList() : QStringList{buttonAction, notice.button};
     QVariantMap hints{{QStringLiteral("desktop-entry"), QStringLiteral("com.quorvane.LumarooSettings")}};
     if (!notice.picture.isEmpty())
         hints.insert(QStringLiteral("image-path"), QUrl::fromLocalFile(notice.picture).toString(QUrl::FullyEncoded));
     // A server may take the text for markup.
     call << QStringLiteral("Lumaroo") << replaced << QStringLiteral("com.quorvane.LumarooSettings") << notice.title
-         << notice.text.toHtmlEscaped() << actions << hints << asLongAsTheDesktopLikes;
+         << notice.text.toHtmlEscaped() << actionsOf(notice) << hints << asLongAsTheDesktopLikes;
     return call;
 }
 
 } // namespace
+
+Notices::Notices() : server_(new QDBusServiceWatcher(this))
+{
+    server_->setConnection(QDBusConnection::sessionBus());
+    server_->setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
+    connect(server_, &QDBusServiceWatcher::serviceUnregistered, this, &Notices::forgetAll);
+}
 
 Notices::~Notices()
 {
@@ -41,14 +69,18 @@ Notices::~Notices()
 void Notices::tell(const Notice &notice)
 {
     const auto call =
-        QDBusConnection::sessionBus().asyncCall(notifyCall(notice, shown_.value(notice.matter)), patience);
+        QDBusConnection::sessionBus().asyncCall(notifyCall(notice, shown_.value(notice.matter)), longestAnswer);
     auto *const answer = new QDBusPendingCallWatcher(call, this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, notice] {
+    auto *const limit = new QTimer(answer);
+    limit->setSingleShot(true);
+    connect(limit, &QTimer::timeout, answer, [notice] { log(notice); });
+    limit->start(patience);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, limit, notice] {
         answer->deleteLater();
         const QDBusPendingReply<quint32> shown = *answer;
-        if (shown.isError())
-            NSLog(QStringLiteral("lumaroo: agent: %1: %2").arg(notice.title, notice.text));
-        else if (!notice.button.isEmpty())
+        if (shown.isError() && limit->isActive())
+            log(notice);
+        else if (!shown.isError() && !notice.button.isEmpty())
             handleShown(notice, shown.value());
     });
 }
@@ -62,20 +94,26 @@ void Notices::handleShown(const Notice &notice, quint32 id)
 void Notices::handleAction(quint32 id, const QString &action)
 {
     const QString matter = shown_.key(id);
-    if (!matter.isEmpty() && action == buttonAction)
+    if (matter.isEmpty())
+        return;
+    if (action == buttonAction)
         Q_EMIT pressed(matter);
+    else if (action == secondAction)
+        Q_EMIT secondPressed(matter);
 }
 
 void Notices::handleClosing(quint32 id)
 {
-    forget(id);
-}
-
-void Notices::forget(quint32 id)
-{
     shown_.remove(shown_.key(id));
     if (shown_.isEmpty())
         listen(false);
+}
+
+/// Another server numbers its bubbles anew.
+void Notices::forgetAll()
+{
+    shown_.clear();
+    listen(false);
 }
 
 void Notices::listen(bool listen)
@@ -91,4 +129,5 @@ void Notices::listen(bool listen)
     };
     follow("ActionInvoked", SLOT(handleAction(quint32, QString)));
     follow("NotificationClosed", SLOT(handleClosing(quint32)));
+    server_->setWatchedServices(listen ? QStringList{service} : QStringList());
 }

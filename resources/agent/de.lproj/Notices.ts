@@ -51,5 +51,29 @@
         <source>A part of Lumaroo is missing. Install it again.</source>
         <translation>Ein Teil von Lumaroo fehlt. Installieren Sie es neu.</translation>
     </message>
+    <message>
+        <source>Hold %1 and press %2</source>
+        <translation>Halten Sie %1 und drücken Sie %2</translation>
+    </message>
+    <message>
+        <source>Press %1 twice, then press %2</source>
+        <translation>Drücken Sie %1 zweimal, dann %2</translation>
+    </message>
+    <message>
+        <source>Lumaroo is on</source>
+        <translation>Lumaroo ist an</translation>
+    </message>
+    <message>
+        <source>Its keys do not work yet. The settings tell why.</source>
+        <translation>Seine Tasten wirken noch nicht. Die Einstellungen sagen, warum.</translation>
+    </message>
+    <message>
+        <source>Show me</source>
+        <translation>Einführung zeigen</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
 </context>
 </TS>
