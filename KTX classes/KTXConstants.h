@@ -63,6 +63,8 @@ inline const QString KTXShouldToggle = QStringLiteral("Toggle");
 inline const QString KTXShouldBeep = QStringLiteral("Beep");
 inline const QString KTXTutorialDone = QStringLiteral("tutorialWasClosed");
 inline const QString KTXExcludedApplications = QStringLiteral("excludedApplications");
+inline const QString KTXShowInTray = QStringLiteral("showInTray");
+inline const QString KTXWelcomeShown = QStringLiteral("welcomeWasShown");
 
 // Notifications.
 

@@ -54,6 +54,8 @@ QList<KTXSetting> allSettings()
         {KTXShouldBeep, Boolean, false},
         {KTXTutorialDone, Boolean, false},
         {KTXExcludedApplications, Texts, QVariantList()},
+        {KTXShowInTray, Boolean, true},
+        {KTXWelcomeShown, Boolean, false},
     };
     return beforeTheKeys + hotKeySettings() + afterTheKeys;
 }

@@ -56,7 +56,7 @@ QString Words::arrows() const
 
 QString Words::press() const
 {
-    if (keys_.modifiers == 0 || isCauseOfAny(KTXCauseNoHotKeys))
+    if (keys_.modifiers == 0 || isCauseOfAny(KTXCauseNoHotKeys) || isCauseOfAny(KTXCauseGivenUp))
         return {};
     const char *const text =
         isCauseOfAny(KTXCauseDoublePressAlone) ? "Press %1 twice, then press %2" : "Hold %1 and press %2";
@@ -72,6 +72,7 @@ QString Words::state() const
     };
     // What keeps all keys away comes before what keeps one.
     const QList<Sentence> sentences{
+        {KTXCauseGivenUp, "Lumaroo is off for now. The menu of its icon in the panel turns it on again."},
         {KTXCauseNoHotKeys, "This session has no hot keys for programs. Lumaroo needs an X11 session."},
         {KTXCauseNoModifiers, "No key works, since no modifier keys are chosen."},
         {KTXCauseDoublePressAlone, "Lumaroo takes no key from other programs."},

@@ -57,6 +57,7 @@ AgentHotKeys::~AgentHotKeys()
 void AgentHotKeys::apply(const QVariantMap &settings)
 {
     const auto modifiers = quint32(settings.value(KTXModifierMask).toUInt());
+    areWanted_ = true;
     isDoublePressAlone_ = settings.value(KTXActivateDoubleClick).toBool();
     for (ActionKey &key : keys_)
         give(key, actionKeyCode(settings, key.action), modifiers);
@@ -81,6 +82,9 @@ void AgentHotKeys::give(ActionKey &key, VirtualKeyCode keyCode, quint32 modifier
 
 void AgentHotKeys::registerKeys()
 {
+    // The keyboard changes while nobody wants them too.
+    if (!areWanted_)
+        return;
     registerAll();
     lookForFreeModifiers();
     Q_EMIT changed();
@@ -160,6 +164,7 @@ bool AgentHotKeys::isAnotherActions(const ActionKey &key) const
 
 void AgentHotKeys::release()
 {
+    areWanted_ = false;
     for (ActionKey &key : keys_) {
         key.hotKey->unregisterAsHotKey();
         key.refusal = Refusal::GivenUp;

@@ -90,6 +90,7 @@ private:
 
     QList<ActionKey> keys_;
     QList<quint32> freeModifiers_;
+    bool areWanted_ = false; ///< they have been applied, and not been released since
     bool isDoublePressAlone_ = false; ///< what begins a selection
     bool saidNoModifiers_ = false;
 };

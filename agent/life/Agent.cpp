@@ -6,6 +6,7 @@
 #include "agent/life/TutorialStart.h"
 #include "agent/life/linux/AgentName.h"
 #include "agent/life/linux/ProgramReplacement.h"
+#include "agent/notices/KeysToPress.h"
 #include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/notifications/CFNotificationCenter.h"
 #include "platform/foundation/notifications/SessionBus.h"
@@ -20,6 +21,8 @@
 #include <utility>
 
 namespace {
+
+constexpr char welcomedVariable[] = "LUMAROO_WELCOMED";
 
 int loadedVersion()
 {
@@ -39,6 +42,8 @@ Agent::Agent(AgentName &name)
 {
     connect(&gestures_, &Gestures::over, this, &Agent::followSettingsAfterGesture);
     connect(&notices_, &AgentNotices::modifiersChosen, this, &Agent::takeModifiers);
+    connect(&notices_, &AgentNotices::tutorialChosen, this, &Agent::runTutorial);
+    connect(&notices_, &AgentNotices::settingsChosen, &actions_, [this] { actions_.openPrefPane(); });
 }
 
 void Agent::launch()
@@ -47,8 +52,11 @@ void Agent::launch()
     observePane();
     waitForSessionBus();
     readSettings();
+    const bool isToWelcome = isWelcomeDue();
     markFirstLaunch();
     announceLaunch();
+    if (isToWelcome)
+        welcome();
 }
 
 void Agent::observePane()
@@ -60,7 +68,7 @@ void Agent::observePane()
     observe(KTXLMPrefsChanged, &Agent::readChange);
     observe(KTXLMAgentShouldTerminate, &Agent::endForPane);
     observe(KTXLMPrefPaneLaunched, &Agent::meetPane);
-    observe(KTXLMRunTutorial, &Agent::hearTutorialRequest);
+    observe(KTXLMRunTutorial, &Agent::runTutorial);
 }
 
 void Agent::readSettings()
@@ -80,11 +88,8 @@ void Agent::followSettings()
     if (isBehind_)
         return;
     const QStringList changes = std::exchange(changes_, {});
-    if (hotKeys_.isAnyRefused() || std::any_of(changes.cbegin(), changes.cend(), isSettingOfKeys)) {
-        hotKeys_.apply(settings());
-        gestureKeys_.apply(settings());
-        notices_.lookAtKeys();
-    }
+    if (isOn_ && (hotKeys_.isAnyRefused() || std::any_of(changes.cbegin(), changes.cend(), isSettingOfKeys)))
+        takeKeys();
     if (!changes.isEmpty() || readings_ == 0)
         gestures_.apply(settings());
 }
@@ -93,6 +98,34 @@ void Agent::followSettingsAfterGesture()
 {
     if (isBehind_ && !hasEnded_)
         followSettings();
+}
+
+void Agent::takeKeys()
+{
+    hotKeys_.apply(settings());
+    gestureKeys_.apply(settings());
+    notices_.lookAtKeys();
+}
+
+void Agent::giveKeysBack()
+{
+    hotKeys_.release();
+    QVariantMap withoutModifiers = settings();
+    withoutModifiers.insert(KTXModifierMask, 0);
+    gestureKeys_.apply(withoutModifiers);
+}
+
+void Agent::setOn(bool on)
+{
+    if (hasEnded_ || std::exchange(isOn_, on) == on)
+        return;
+    gestures_.cancel();
+    // Nothing but its own switch gives keys back, so each of them is refused now.
+    if (on)
+        followSettings();
+    else
+        giveKeysBack();
+    Q_EMIT switched(on);
 }
 
 void Agent::readChange()
@@ -119,11 +152,27 @@ void Agent::markFirstLaunch()
     if (settings().value(KTXFirstLaunch).isValid() && !markIsPending_)
         return;
     CFPreferencesSetAppValue(KTXFirstLaunch, true, KTXLMAppID);
+    CFPreferencesSetAppValue(KTXWelcomeShown, true, KTXLMAppID);
     markIsPending_ = !CFPreferencesAppSynchronize(KTXLMAppID);
     if (markIsPending_)
         return;
     readSettings();
     announce(KTXLMPrefsChanged);
+}
+
+/// Only at the first launch ever. Where nothing can be stored each one looks like it, so what this process starts or
+/// becomes knows it too.
+bool Agent::isWelcomeDue() const
+{
+    const bool knowsLumaroo = settings().value(KTXFirstLaunch).isValid() || settings().value(KTXWelcomeShown).toBool()
+        || settings().value(KTXTutorialDone).toBool();
+    return !knowsLumaroo && !qEnvironmentVariableIsSet(welcomedVariable);
+}
+
+void Agent::welcome()
+{
+    qputenv(welcomedVariable, "1");
+    notices_.welcome(keysToPress(settings(), hotKeys_.hotKeys()));
 }
 
 void Agent::announceLaunch()
@@ -180,9 +229,11 @@ void Agent::startAnew(const QString &program)
     goOn(program, replaceProgram(program, QCoreApplication::arguments().mid(1)));
 }
 
-void Agent::hearTutorialRequest()
+void Agent::runTutorial()
 {
     Q_EMIT tutorialRequested();
+    // Its steps are about the keys.
+    setOn(true);
     if (!startTutorial())
         notices_.tellOfMissingTutorial();
 }

@@ -38,6 +38,13 @@ public:
     /// Reads the settings as they are stored now, and has its keys follow them: during a gesture as soon as that is
     /// over.
     void readSettings();
+    bool isOn() const { return isOn_; }
+    /// Gives its keys back for now, or takes them again. Nothing is stored of that, and the next agent is on.
+    void setOn(bool on);
+    /// Opens the tutorial, for which it is on again; its user is told where that cannot be.
+    void runTutorial();
+    /// It has announced its end.
+    bool hasEnded() const { return hasEnded_; }
     /// Announces its end, gives keys and name back and emits ended(); the bus has taken all of that when it returns.
     void terminate();
 
@@ -46,6 +53,7 @@ Q_SIGNALS:
     void launched();
     void terminating();
     void tutorialRequested();
+    void switched(bool on);
     /// Nothing more comes of this agent; the program exits with `status`.
     void ended(int status);
 
@@ -53,15 +61,18 @@ private:
     void observePane();
     void followSettings();
     void followSettingsAfterGesture();
+    void takeKeys();
+    void giveKeysBack();
     void meetPane();
     void readChange();
     void takeModifiers(quint32 modifiers);
+    bool isWelcomeDue() const;
+    void welcome();
     void markFirstLaunch();
     void announceLaunch();
     void announceEnd();
     void endForPane();
     bool isFirstRunForPane();
-    void hearTutorialRequest();
     void startAnew(const QString &program);
     void goOn(const QString &program, const QString &error);
 
@@ -78,6 +89,7 @@ private:
     Actions actions_{*windows_, gestures_};
     qint64 readings_ = 0;
     QStringList changes_; ///< of settings, since they were followed last
+    bool isOn_ = true; ///< and not off for now
     bool isBehind_ = false; ///< what was read last is still to be followed
     bool hasEnded_ = false;
     bool markIsPending_ = false; ///< of the first launch, since it could not be stored

@@ -1,5 +1,6 @@
 #include "agent/life/Agent.h"
 #include "agent/life/AgentCommands.h"
+#include "agent/life/AgentTray.h"
 #include "agent/life/linux/AgentName.h"
 #include "agent/life/linux/AgentObject.h"
 #include "agent/life/linux/ProgramReplacement.h"
@@ -68,6 +69,7 @@ void printEvents(const Agent &agent)
         });
     printGestures(agent);
     printActions(agent);
+    QObject::connect(&agent, &Agent::switched, &agent, [](bool on) { printLine(on ? "on again\n" : "off for now\n"); });
     QObject::connect(&agent, &Agent::tutorialRequested, &agent, [] { printLine("tutorial requested\n"); });
 }
 
@@ -116,6 +118,7 @@ int runAgent(bool foreground)
     AgentName name;
     Agent agent(name);
     const AgentObject object(agent);
+    const AgentTray tray(agent);
     if (!takeName(name))
         return 0;
     trimCrashLogs();

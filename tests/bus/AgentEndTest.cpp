@@ -61,7 +61,7 @@ TEST_F(RunningAgent, startsAnewForAPaneThatFindsNothingStored)
     askAsOnAFirstRun();
     EXPECT_TRUE(announces({{KTXLMPrefPaneLaunched, KTXLMAppID, {}, true}, shouldTerminate(), terminating(),
         changedByAgent(), launched()}));
-    EXPECT_EQ(stored().keys(), QStringList(KTXFirstLaunch));
+    EXPECT_EQ(stored().keys(), QStringList({KTXFirstLaunch, KTXWelcomeShown}));
     EXPECT_TRUE(agent.isRunning());
     EXPECT_EQ(agent.processId(), process);
     EXPECT_TRUE(nameIsOwned());

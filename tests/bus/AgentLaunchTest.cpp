@@ -95,7 +95,7 @@ TEST_F(AgentForTheFirstTime, marksThatItWasStartedAndSaysSo)
 {
     const AgentProgram agent;
     EXPECT_TRUE(announces({changedByAgent(), launched()}));
-    EXPECT_EQ(stored().keys(), QStringList(KTXFirstLaunch));
+    EXPECT_EQ(stored().keys(), QStringList({KTXFirstLaunch, KTXWelcomeShown}));
     EXPECT_TRUE(runningAgentsSetting(KTXFirstLaunch).toBool());
 }
 
@@ -107,7 +107,7 @@ TEST_F(AgentForTheFirstTime, marksItAgainWhenThePaneOverwroteTheMark)
     store({{KTXAnimate, true}});
     paneAnnounces(KTXLMPrefsChanged);
     EXPECT_TRUE(announces({{KTXLMPrefsChanged, KTXLMAppID, {}, true}, changedByAgent()}));
-    EXPECT_EQ(stored(), QVariantMap({{KTXAnimate, true}, {KTXFirstLaunch, true}}));
+    EXPECT_EQ(stored(), QVariantMap({{KTXAnimate, true}, {KTXFirstLaunch, true}, {KTXWelcomeShown, true}}));
 }
 
 TEST_F(AgentForTheFirstTime, announcesItselfAlsoWhenNothingCanBeWritten)
@@ -135,7 +135,7 @@ TEST_F(AgentForTheFirstTime, marksItAtTheNextChangeWhenNothingCouldBeWrittenBefo
     recorder.clear();
     paneAnnounces(KTXLMPrefsChanged);
     EXPECT_TRUE(announces({{KTXLMPrefsChanged, KTXLMAppID, {}, true}, changedByAgent()}));
-    EXPECT_EQ(stored().keys(), QStringList(KTXFirstLaunch));
+    EXPECT_EQ(stored().keys(), QStringList({KTXFirstLaunch, KTXWelcomeShown}));
 }
 
 TEST_F(Agent, aSecondOneEndsWithALineAndWithoutAWordToThePane)

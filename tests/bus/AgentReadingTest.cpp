@@ -147,7 +147,7 @@ TEST_F(RunningAgent, goesByTheDefaultsWhereTheFileIsDamagedAndKeepsIt)
     // Once more with the mark of the first launch, which has gone with the file.
     ASSERT_TRUE(waitForReading(3));
     EXPECT_EQ(runningAgentsSetting(KTXHSort).toString(), "FirstSelected");
-    EXPECT_EQ(stored().keys(), QStringList(KTXFirstLaunch));
+    EXPECT_EQ(stored().keys(), QStringList({KTXFirstLaunch, KTXWelcomeShown}));
     EXPECT_TRUE(QFile::exists(settingsPath() + "~1"));
     EXPECT_EQ(agent.errors().count("does not parse"), 1) << agent.errors().toStdString();
 }
@@ -171,7 +171,7 @@ TEST_F(AgentSession, startsOverADamagedFileAsForTheFirstTime)
     const AgentProgram agent;
     EXPECT_TRUE(announces({changedByAgent(), launched()}));
     EXPECT_TRUE(QFile::exists(settingsPath() + "~1"));
-    EXPECT_EQ(stored().keys(), QStringList(KTXFirstLaunch));
+    EXPECT_EQ(stored().keys(), QStringList({KTXFirstLaunch, KTXWelcomeShown}));
 }
 
 TEST_F(RunningAgent, saysThatWhatItHasReadIsTooMuchToShow)

@@ -147,6 +147,10 @@ TEST_F(KeysInPane, tellsWhatKeepsAllKeysAway)
     agent->answers(AgentStandIn::answerWith(allBecauseOf(KTXCauseDoublePressAlone)));
     EXPECT_TRUE(shows("pressNowField", "Press ⌃⌥ twice, then press ← → ↑ ↓"));
     EXPECT_TRUE(shows("keysStateField", "Lumaroo takes no key from other programs."));
+    agent->answers(AgentStandIn::answerWith(allBecauseOf(KTXCauseGivenUp)));
+    EXPECT_TRUE(
+        shows("keysStateField", "Lumaroo is off for now. The menu of its icon in the panel turns it on again."));
+    EXPECT_EQ(text("pressNowField"), "");
     agent->answers(AgentStandIn::answerWith(allBecauseOf(KTXCauseNoHotKeys)));
     EXPECT_TRUE(shows("pressNowField", {}));
     EXPECT_TRUE(shows("keysStateField", "This session has no hot keys for programs. Lumaroo needs an X11 session."));

@@ -63,7 +63,7 @@ protected:
     bool isShown(const KTXSetting &setting, const QVariant &value)
     {
         static const QSet<QString> agentsOwn{KTXsuppressMissionControl, KTXShowHidden, KTXVisualMode, KTXShouldToggle,
-            KTXShouldBeep, KTXTutorialDone, KTXExcludedApplications};
+            KTXShouldBeep, KTXTutorialDone, KTXExcludedApplications, KTXShowInTray, KTXWelcomeShown};
         if (agentsOwn.contains(setting.key))
             return true;
         switch (setting.type) {

@@ -47,7 +47,7 @@ TEST(AgentSettings, areAllKeysOfTheDomainInTheirOrder)
         "initialDelay", "AnimateOverlay", "EnableHorizontalWrap", "EnableVerticalWrap", "HorizontalSortOrder",
         "VerticalSortOrder", "ActionKeyCyclesAscending", "doubleClickToActivate", "doubleClickForPersistent",
         "suppressMissionControl", "ShowHidden", "visualMode", "Toggle", "Beep", "tutorialWasClosed",
-        "excludedApplications"};
+        "excludedApplications", "showInTray", "welcomeWasShown"};
     QStringList keys;
     for (const KTXSetting &setting : KTXSettings())
         keys += setting.key;

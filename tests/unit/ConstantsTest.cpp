@@ -61,6 +61,8 @@ const std::vector<AgreedText> &agreedTexts()
         {"KTXShouldBeep", KTXShouldBeep, "Beep"},
         {"KTXTutorialDone", KTXTutorialDone, "tutorialWasClosed"},
         {"KTXExcludedApplications", KTXExcludedApplications, "excludedApplications"},
+        {"KTXShowInTray", KTXShowInTray, "showInTray"},
+        {"KTXWelcomeShown", KTXWelcomeShown, "welcomeWasShown"},
         {"KTXLMPrefPaneLaunched", KTXLMPrefPaneLaunched, "Lumaroo PrefPane Launched"},
         {"KTXLMPrefsChanged", KTXLMPrefsChanged, "Lumaroo Preferences Changed"},
         {"KTXLMAgentShouldTerminate", KTXLMAgentShouldTerminate, "Lumaroo Agent Should Terminate"},

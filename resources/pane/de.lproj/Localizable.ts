@@ -80,6 +80,10 @@
         <translation>Drücken Sie %1 zweimal, dann %2</translation>
     </message>
     <message>
+        <source>Lumaroo is off for now. The menu of its icon in the panel turns it on again.</source>
+        <translation>Lumaroo ist vorerst aus. Das Menü seines Symbols in der Leiste schaltet es wieder ein.</translation>
+    </message>
+    <message>
         <source>All keys work.</source>
         <translation>Alle Tasten wirken.</translation>
     </message>
