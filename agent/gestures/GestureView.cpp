@@ -40,9 +40,11 @@ OverlayView gestureView(const WindowWorld &world, quint32 selected, const QHash<
         return view;
     view.windowID = selected;
     view.windowRect = window->isMinimised ? QRect() : window->windowRect;
+    view.frameRect = window->frameRect;
     view.monitor = monitorOf(*window, world.monitors);
     view.title = titleOf(*window);
     view.isCovered = isCoveredInTheMiddle(world, selected);
+    view.isOverlapped = isOverlapped(world, selected);
     return view;
 }
 

@@ -41,6 +41,8 @@ Agent::Agent(AgentName &name)
     : name_(name), bundlePath_(NSBundle::mainBundle()->bundlePath()), version_(loadedVersion())
 {
     connect(&gestures_, &Gestures::over, this, &Agent::followSettingsAfterGesture);
+    connect(&actions_, &Actions::previewShown, this, [this] { overlay_.pause(); });
+    connect(&actions_, &Actions::previewEnded, this, [this] { overlay_.goOn(); });
     connect(&notices_, &AgentNotices::modifiersChosen, this, &Agent::takeModifiers);
     connect(&notices_, &AgentNotices::tutorialChosen, this, &Agent::runTutorial);
     connect(&notices_, &AgentNotices::settingsChosen, &actions_, [this] { actions_.openPrefPane(); });

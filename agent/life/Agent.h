@@ -1,6 +1,7 @@
 #pragma once
 
 #include "agent/actions/Actions.h"
+#include "agent/actions/UncoveringOverlay.h"
 #include "agent/gestures/GestureCommands.h"
 #include "agent/keys/AgentHotKeys.h"
 #include "agent/life/AgentSettings.h"
@@ -83,8 +84,8 @@ private:
     AgentHotKeys hotKeys_;
     GestureKeys gestureKeys_{hotKeys_};
     const std::unique_ptr<WindowSystem> windows_ = windowSystem();
-    const std::unique_ptr<Overlay> overlay_ = overlay();
-    Gestures gestures_{*windows_, *overlay_, gestureKeys_};
+    UncoveringOverlay overlay_{overlay()};
+    Gestures gestures_{*windows_, overlay_, gestureKeys_};
     AgentNotices notices_{hotKeys_, gestures_};
     Actions actions_{*windows_, gestures_};
     qint64 readings_ = 0;

@@ -6,17 +6,18 @@
 namespace {
 
 /// For a session in which nothing can be drawn.
-class NoOverlay : public Overlay
+class NoOverlay : public LayeredOverlay
 {
 public:
     void setStyle(const OverlayStyle &) override { }
     void showOverlay(const OverlayView &) override { }
     void hideOverlay() override { }
+    void showBelow(quint32) override { }
 };
 
 } // namespace
 
-std::unique_ptr<Overlay> overlay()
+std::unique_ptr<LayeredOverlay> overlay()
 {
     QString failure;
     if (auto display = MarkDisplay::open(&failure))

@@ -25,10 +25,17 @@ struct OverlayView
     quint32 windowID = 0;
     QRect windowRect; ///< what shows of it, within the monitors; empty where nothing does: its icon stands in the
                       ///< monitor's middle then
+    QRect frameRect; ///< the same, but also beyond the monitors
     Monitor monitor; ///< the one that shows most of the window
     QString title; ///< for the strip at the frame's upper edge
     bool isCovered = false; ///< by others at its middle: its icon stands there
+    bool isOverlapped = false; ///< by others anywhere
     QList<OverlayLabel> labels;
+
+    bool marksSameAs(const OverlayView &other) const
+    {
+        return windowID == other.windowID && windowRect == other.windowRect;
+    }
 };
 
 /// Marks the selected window on screen. Takes no key, no click and no focus.
@@ -45,5 +52,15 @@ public:
     virtual void hideOverlay() = 0;
 };
 
+/// One that other windows of this program lie below.
+class LayeredOverlay : public Overlay
+{
+public:
+    /// Shows a window between the mark and all others, with the mark's texts or after them. In the moment in which the
+    /// mark leaves this place it is on screen no more. The one before is forgotten; 0 for none any more, whatever has
+    /// become of it.
+    virtual void showBelow(quint32 windowID) = 0;
+};
+
 /// What draws in this session; never null. Without a display nothing is drawn.
-std::unique_ptr<Overlay> overlay();
+std::unique_ptr<LayeredOverlay> overlay();

@@ -91,6 +91,21 @@ WindowList::iterator rowEnd(WindowList::iterator begin, WindowList::iterator end
         begin, end, [middle](const WindowDescription *window) { return window->windowRect.top() > middle; });
 }
 
+/// Whether one above a window hides any of a part of it.
+bool isHidden(const WindowWorld &world, quint32 windowID, const QRect &part)
+{
+    const WindowDescription *window = world.window(windowID);
+    if (!window || !window->covers())
+        return false;
+    for (const WindowDescription &other : world.windows) {
+        if (&other == window)
+            return false;
+        if (other.covers() && other.windowRect.intersects(part))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 WindowList visibleWindows(const WindowWorld &world)
@@ -127,15 +142,11 @@ WindowList labelledWindows(const WindowWorld &world)
 
 bool isCoveredInTheMiddle(const WindowWorld &world, quint32 windowID)
 {
-    const WindowDescription *window = world.window(windowID);
-    if (!window || !window->covers())
-        return false;
-    const QPoint middle = window->windowRect.center();
-    for (const WindowDescription &other : world.windows) {
-        if (&other == window)
-            return false;
-        if (other.covers() && other.windowRect.contains(middle))
-            return true;
-    }
-    return false;
+    const QPoint middle = world.window(windowID) ? world.window(windowID)->windowRect.center() : QPoint();
+    return isHidden(world, windowID, QRect(middle, QSize(1, 1)));
+}
+
+bool isOverlapped(const WindowWorld &world, quint32 windowID)
+{
+    return isHidden(world, windowID, world.window(windowID) ? world.window(windowID)->windowRect : QRect());
 }

@@ -15,3 +15,6 @@ WindowList labelledWindows(const WindowWorld &world);
 
 /// Whether another window hides a window's middle; false for one of which nothing could show.
 bool isCoveredInTheMiddle(const WindowWorld &world, quint32 windowID);
+
+/// Whether another window hides any part of a window; false for one of which nothing could show.
+bool isOverlapped(const WindowWorld &world, quint32 windowID);

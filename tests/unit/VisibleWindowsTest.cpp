@@ -133,3 +133,21 @@ TEST(VisibleWindows, areCoveredWhereAnotherHidesTheirMiddle)
     EXPECT_FALSE(isCovered('B'));
     EXPECT_FALSE(isCovered('Z')) << "it is not there";
 }
+
+TEST(VisibleWindows, areOverlappedWhereAnotherHidesAnyPart)
+{
+    WindowWorld world = placed({window('A', {99, 0, 50, 100}), window('B', {0, 0, 100, 100})});
+    const auto isPartlyHidden = [&world](char letter) { return isOverlapped(world, quint32(letter)); };
+    EXPECT_FALSE(isPartlyHidden('A')) << "it is on top";
+    EXPECT_TRUE(isPartlyHidden('B'));
+    windowOf(world, 'A').windowRect.moveLeft(100);
+    EXPECT_FALSE(isPartlyHidden('B'));
+    windowOf(world, 'A').windowRect.moveLeft(99);
+    windowOf(world, 'A').windowIsIgnored = WindowIgnored::OtherDesktop;
+    EXPECT_FALSE(isPartlyHidden('B'));
+    windowOf(world, 'A').windowIsIgnored = WindowIgnored::Type;
+    EXPECT_TRUE(isPartlyHidden('B'));
+    windowOf(world, 'B').isMinimised = true;
+    EXPECT_FALSE(isPartlyHidden('B')) << "nothing of it could show";
+    EXPECT_FALSE(isPartlyHidden('Z')) << "it is not there";
+}

@@ -12,6 +12,7 @@ public:
 
     bool isShown() const { return frame_.isShown(); }
     const QRect &rect() const { return frame_.rect(); }
+    xcb_window_t lowestWindow() const { return frame_.id(); }
 
     void setColors(const OverlayColors &colors);
     /// A rectangle that is not empty, for a monitor's density. The tint needs a compositor.

@@ -18,6 +18,8 @@ void XOverlay::showOverlay(const OverlayView &view)
     isComposited_ = display_->isComposited();
     endMotion();
     useColors();
+    if (!view.marksSameAs(view_))
+        hideBelow();
     view_ = view;
     showFrame();
     texts_.hideOutdated(view);
@@ -30,6 +32,7 @@ void XOverlay::hideOverlay()
 {
     motionSteps_.stop();
     textsLater_.stop();
+    hideBelow();
     frame_.hide();
     texts_.hide();
     display_->flush();
@@ -90,7 +93,34 @@ void XOverlay::takeStep()
 void XOverlay::showTexts()
 {
     texts_.show(view_, colors_);
+    placeBelow();
     display_->flush();
+}
+
+/// Digits that are on screen already are raised above the mark with its texts, and only then nothing hides them.
+void XOverlay::showBelow(quint32 windowID)
+{
+    below_ = windowID;
+    if (motionSteps_.isActive() || textsLater_.isActive())
+        return;
+    placeBelow();
+    display_->flush();
+}
+
+void XOverlay::placeBelow()
+{
+    if (below_ == 0 || !frame_.isShown())
+        return;
+    const quint32 values[]{frame_.lowestWindow(), XCB_STACK_MODE_BELOW};
+    xcb_configure_window(display_->server(), below_, XCB_CONFIG_WINDOW_SIBLING | XCB_CONFIG_WINDOW_STACK_MODE, values);
+    xcb_map_window(display_->server(), below_);
+}
+
+void XOverlay::hideBelow()
+{
+    if (below_ != 0)
+        xcb_unmap_window(display_->server(), below_);
+    below_ = 0;
 }
 
 /// What is shown next begins where this one would have ended.

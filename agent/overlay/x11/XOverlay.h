@@ -9,7 +9,7 @@
 #include <QTimer>
 
 /// The mark on an X server.
-class XOverlay : public Overlay
+class XOverlay : public LayeredOverlay
 {
 public:
     explicit XOverlay(std::unique_ptr<MarkDisplay> display);
@@ -17,6 +17,7 @@ public:
     void setStyle(const OverlayStyle &style) override { style_ = style; }
     void showOverlay(const OverlayView &view) override;
     void hideOverlay() override;
+    void showBelow(quint32 windowID) override;
 
 private:
     void useColors();
@@ -27,6 +28,8 @@ private:
     void takeStep();
     void endMotion();
     void showTexts();
+    void placeBelow();
+    void hideBelow();
 
     const std::unique_ptr<MarkDisplay> display_;
     FrameWindow frame_;
@@ -34,6 +37,7 @@ private:
     OverlayStyle style_;
     OverlayColors colors_; ///< that the windows have
     OverlayView view_;
+    quint32 below_ = 0; ///< the window that is to be shown below the mark
     bool isComposited_ = false;
     OverlayMotion motion_;
     QElapsedTimer motionTime_;
