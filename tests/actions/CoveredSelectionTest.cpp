@@ -203,8 +203,6 @@ TEST_F(WhollyCoveredSelection, isGoneTogetherWithTheMark)
 TEST_F(WhollyCoveredSelection, costsNothingWhereItIsOnlyPassed)
 {
     OtherClient other;
-    select(window.id());
-    overlay.hideOverlay();
     const quint64 before = other.resourcesOf(QCoreApplication::applicationPid());
     for (int time = 0; time < 10; ++time) {
         select(window.id());
