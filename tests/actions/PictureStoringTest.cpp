@@ -51,13 +51,15 @@ protected:
         storing_->begin(std::move(pixels), place(), name);
         EXPECT_TRUE(waitUntil([this] { return !path.isEmpty() || error; }));
     }
-    QString place() const { return folder.filePath("Pictures/Lumaroo"); }
+    QString place() const { return place_; }
     QStringList files() const { return QDir(place()).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
     QColor color(int x) const { return QImage(path).pixelColor(x, 0); }
 
     QTemporaryDir folder;
     QString path;
     std::optional<int> error;
+
+    QString place_ = folder.filePath("Pictures/Lumaroo");
 
 private:
     std::optional<PictureStoring> storing_;
@@ -152,6 +154,17 @@ TEST_F(Storing, failsWhereAFileIsInTheFoldersPlace)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     store(pixelsOf(QList<quint32>{red}, {1, 1}));
     EXPECT_EQ(error, ENOTDIR);
+}
+
+TEST_F(Storing, failsWhereTheFileSystemIsReadOnly)
+{
+    place_ = QStringLiteral("/usr/lib");
+    store(pixelsOf(QList<quint32>{red}, {1, 1}));
+    EXPECT_EQ(error, EROFS);
+    error.reset();
+    place_ = QStringLiteral("/usr/Pictures/Lumaroo");
+    store(pixelsOf(QList<quint32>{red}, {1, 1}));
+    EXPECT_EQ(error, EROFS) << "where the folder is not there either";
 }
 
 TEST_F(Storing, failsWhereThereAreFewerPixelsThanItIsTold)

@@ -2,6 +2,7 @@
 
 #include "Compositor.h"
 #include "LivingWindow.h"
+#include "SecondDisplay.h"
 #include "WindowsOnDesktop.h"
 #include "agent/actions/x11/PixelCopy.h"
 
@@ -36,6 +37,40 @@ QImage drawn(QSize size, QPoint from = {}, quint8 depth = 24)
     }
     return image;
 }
+
+/// A window of no manager that has drawn itself.
+class DrawnWindow
+{
+public:
+    explicit DrawnWindow(const QImage &picture) : id_(xcb_generate_id(connection_.get())), size_(picture.size())
+    {
+        xcb_connection_t *const server = connection_.get();
+        const quint32 isNobodysToManage = true;
+        const xcb_gcontext_t context = xcb_generate_id(server);
+        xcb_create_window(server, XCB_COPY_FROM_PARENT, id_, xcb_setup_roots_iterator(xcb_get_setup(server)).data->root,
+            0, 0, quint16(size_.width()), quint16(size_.height()), 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
+            XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT, &isNobodysToManage);
+        xcb_map_window(server, id_);
+        xcb_create_gc(server, context, id_, 0, nullptr);
+        for (int y = 0; y < size_.height(); ++y)
+            xcb_put_image(server, XCB_IMAGE_FORMAT_Z_PIXMAP, id_, context, quint16(size_.width()), 1, 0, qint16(y), 0,
+                24, quint32(picture.bytesPerLine()), picture.constScanLine(y));
+        fromServer(xcb_get_input_focus_reply(server, xcb_get_input_focus(server), nullptr));
+    }
+
+    WindowDescription description() const
+    {
+        WindowDescription window;
+        window.windowID = id_;
+        window.windowRect = window.frameRect = QRect({}, size_);
+        return window;
+    }
+
+private:
+    const XConnection connection_ = connectToXServer();
+    const quint32 id_;
+    const QSize size_;
+};
 
 class WindowPixelsOnDesktop : public WindowsOnDesktop
 {
@@ -171,4 +206,16 @@ TEST_F(WindowPixelsTest, areThereEvenOfAProgramThatHangs)
     ASSERT_TRUE(window.show());
     window.hang();
     EXPECT_EQ(pictureOf(window), drawn(somewhere.size()));
+}
+
+TEST_F(WindowPixelsTest, comeInPartsWhereMemoryIsNotShared)
+{
+    const SecondDisplay display({"-extension", "MIT-SHM"});
+    const QByteArray own = qgetenv("DISPLAY");
+    qputenv("DISPLAY", display.name());
+    const QImage whole = drawn({1001, 700});
+    const DrawnWindow window(whole);
+    begin(window.description());
+    qputenv("DISPLAY", own);
+    EXPECT_EQ(finish(), whole);
 }

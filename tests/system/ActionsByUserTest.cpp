@@ -5,9 +5,11 @@
 #include "LivingWindow.h"
 #include "NotificationServer.h"
 #include "SelectionSession.h"
+#include "SettingsProgram.h"
 #include "Wait.h"
 
 #include <QDir>
+#include <csignal>
 #include <gmock/gmock.h>
 #include <linux/input-event-codes.h>
 
@@ -239,4 +241,20 @@ TEST_F(ActionsByUser, commaOpensTheSettingsAndBringsThemToTheFront)
     EXPECT_TRUE(waitUntil([&] { return activeWindow() == settings; }));
     askToClose(settings);
     EXPECT_TRUE(waitUntil([&] { return !listedWindows().contains(settings); }));
+}
+
+TEST_F(ActionsByUser, sAndWTakeAProgramThatIsStoppedAsItIs)
+{
+    open();
+    const SettingsProgram settings;
+    ASSERT_TRUE(settings.waitForWindows(1));
+    const QSize size = settings.settledPicture().size();
+    settings.signal(SIGSTOP);
+    press(KEY_S);
+    const QImage picture(told("picture "));
+    EXPECT_GE(picture.width(), size.width());
+    EXPECT_GE(picture.height(), size.height());
+    press(KEY_W);
+    EXPECT_TRUE(told("action refused: ").endsWith("is still open."));
+    settings.signal(SIGCONT);
 }

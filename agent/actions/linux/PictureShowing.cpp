@@ -7,7 +7,19 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QFileInfo>
+#include <QThreadPool>
 #include <QUrl>
+
+namespace {
+
+/// What opens it may take its time, and the keys do not wait for that.
+void openFolderOf(const QString &path)
+{
+    QThreadPool::globalInstance()->start(
+        [folder = QUrl::fromLocalFile(QFileInfo(path).path())] { LSOpenCFURLRef(folder); });
+}
+
+} // namespace
 
 void showFile(const QString &path)
 {
@@ -18,7 +30,7 @@ void showFile(const QString &path)
     auto *const answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), qApp);
     QObject::connect(answer, &QDBusPendingCallWatcher::finished, answer, [answer, path] {
         if (answer->isError())
-            LSOpenCFURLRef(QUrl::fromLocalFile(QFileInfo(path).path()));
+            openFolderOf(path);
         answer->deleteLater();
     });
 }
