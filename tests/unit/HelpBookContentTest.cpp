@@ -39,6 +39,21 @@ Page readPage(const QByteArray &html)
     return page;
 }
 
+/// Of each such element in the list of the book's parts, in its order.
+QStringList attributesOf(const QString &language, const QString &element, const QString &attribute)
+{
+    QFile project(qEnvironmentVariable("LUMAROO_SOURCE") + "/resources/help/" + language + ".lproj/Help.qhp");
+    EXPECT_TRUE(project.open(QIODevice::ReadOnly));
+    QXmlStreamReader reader(&project);
+    QStringList values;
+    while (!reader.atEnd()) {
+        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == element)
+            values += reader.attributes().value(attribute).toString();
+    }
+    EXPECT_FALSE(values.isEmpty());
+    return values;
+}
+
 class TheHelpBook : public testing::TestWithParam<const char *>
 {
 protected:
@@ -69,19 +84,7 @@ protected:
         return files.contains(page)
             && (!address.hasFragment() || readPage(engine.fileData(page)).anchors.contains(address.fragment()));
     }
-    /// Where the table of contents leads.
-    QStringList contents() const
-    {
-        QFile project(qEnvironmentVariable("LUMAROO_SOURCE") + "/resources/help/" + GetParam() + ".lproj/Help.qhp");
-        EXPECT_TRUE(project.open(QIODevice::ReadOnly));
-        QXmlStreamReader reader(&project);
-        QStringList places;
-        while (!reader.atEnd()) {
-            if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == QStringLiteral("section"))
-                places += reader.attributes().value(QStringLiteral("ref")).toString();
-        }
-        return places;
-    }
+    QStringList contents() const { return attributesOf(GetParam(), "section", "ref"); }
 
     const QString file = qEnvironmentVariable("LUMAROO_BUILD") + "/Lumaroo.prefPane/Contents/Resources/Lumaroo.help/"
         + GetParam() + ".lproj/Help.qch";
@@ -149,6 +152,19 @@ TEST_P(TheHelpBook, namesAllThatRemovingTheProgramLeavesBehind)
             "com.apple.help.plist", "com.quorvane.LumarooAgent.desktop", ".cache}/lumaroo", ".Lumaroo.prefPane.</code>",
             "~/Library/Logs</code>", "lumaroo-settings</code>", "LumarooAgent</code>"})
         EXPECT_TRUE(page.contains(left)) << left;
+}
+
+TEST_P(TheHelpBook, leadsSomewhereFromEachWordOfItsIndex)
+{
+    EXPECT_EQ(
+        deadOf(attributesOf(GetParam(), "keyword", "ref"), QUrl("qthelp://" + name + "/lumaroo/")), QStringList());
+}
+
+TEST(TheHelpBooks, haveTheSameContentsAndIndexInEachLanguage)
+{
+    EXPECT_EQ(attributesOf("en", "section", "ref"), attributesOf("de", "section", "ref"));
+    EXPECT_EQ(attributesOf("en", "keyword", "id"), attributesOf("de", "keyword", "id"));
+    EXPECT_EQ(attributesOf("en", "keyword", "ref"), attributesOf("de", "keyword", "ref"));
 }
 
 INSTANTIATE_TEST_SUITE_P(InEachLanguage, TheHelpBook, testing::Values("en", "de"));
