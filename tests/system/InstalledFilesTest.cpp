@@ -145,6 +145,41 @@ TEST_F(InstalledFiles, theAgentAndTheTutorialRunFromWhereverThePrefixIsMovedTo)
     run(resources + "LumarooTutorial.app/Contents/Linux/LumarooTutorial", {"--version"});
 }
 
+TEST_F(InstalledFiles, manualPagesCompletionAndTheReadmeAreWherePeopleLook)
+{
+    QStringList wanted{"share/doc/lumaroo/README.md", "share/doc/lumaroo/changelog.gz", "share/doc/lumaroo/copyright"};
+    for (const char *program : {"lumaroo-settings", "lumaroo-defaults", "LumarooAgent"}) {
+        wanted += QString("share/bash-completion/completions/%1").arg(program);
+        wanted += QString("share/man/man1/%1.1.gz").arg(program);
+        wanted += QString("share/man/de/man1/%1.1.gz").arg(program);
+    }
+    EXPECT_THAT(files(), testing::IsSupersetOf(wanted));
+}
+
+TEST_F(InstalledFiles, everyPictureOfTheReadmeIsInstalledWithIt)
+{
+    const QDir documents(prefix + "/share/doc/lumaroo");
+    static const QRegularExpression picture("!\\[[^]]*\\]\\(([^)]+)\\)");
+    auto match = picture.globalMatch(QString::fromUtf8(contentOf(documents.filePath("README.md"))));
+    ASSERT_TRUE(match.hasNext());
+    while (match.hasNext()) {
+        const QString name = match.next().captured(1);
+        EXPECT_TRUE(documents.exists(name)) << qPrintable(name);
+    }
+}
+
+TEST_F(InstalledFiles, makingAPackageLeavesTheManifestAsItIs)
+{
+    EXPECT_TRUE(contentOf(build + "/CPackConfig.cmake").contains(";Unspecified;/\")"));
+    const QByteArray manifest = contentOf(build + "/install_manifest.txt");
+    const QStringList installed = files();
+    run("cmake", {"--install", build, "--prefix", folder.path() + "/package", "--component", "Unspecified"});
+    EXPECT_EQ(contentOf(build + "/install_manifest.txt"), manifest);
+    ASSERT_TRUE(QDir(prefix).removeRecursively());
+    ASSERT_TRUE(QDir().rename(folder.path() + "/package", prefix));
+    EXPECT_EQ(files(), installed) << "all of it is in the package";
+}
+
 TEST_F(InstalledFiles, removingWhatTheManifestListsLeavesNoFile)
 {
     const QList<QByteArray> listed = contentOf(build + "/install_manifest.txt").split('\n');
