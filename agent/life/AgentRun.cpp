@@ -1,6 +1,7 @@
 #include "agent/life/Agent.h"
 #include "agent/life/AgentCommands.h"
 #include "agent/life/AgentTray.h"
+#include "agent/life/BundleWatch.h"
 #include "agent/life/linux/AgentName.h"
 #include "agent/life/linux/AgentObject.h"
 #include "agent/life/linux/ProgramReplacement.h"
@@ -110,6 +111,13 @@ void endWithBus()
     QCoreApplication::exit(1);
 }
 
+/// Who removes Lumaroo gets the keys back.
+void endWithBundle(Agent *agent)
+{
+    NSLog(QStringLiteral("lumaroo: agent: its bundle has been removed; quitting"));
+    agent->terminate();
+}
+
 } // namespace
 
 int runAgent(bool foreground)
@@ -127,6 +135,8 @@ int runAgent(bool foreground)
     const EndingSignals endingSignals;
     QObject::connect(&endingSignals, &EndingSignals::received, &agent, &Agent::terminate);
     QObject::connect(&name, &AgentName::busHasGone, qApp, endWithBus);
+    const BundleWatch bundle(NSBundle::mainBundle()->bundlePath(), QCoreApplication::applicationFilePath());
+    QObject::connect(&bundle, &BundleWatch::removed, &agent, [&agent] { endWithBundle(&agent); });
     // Queued: it may end before the run loop has begun.
     QObject::connect(&agent, &Agent::ended, qApp, &QCoreApplication::exit, Qt::QueuedConnection);
     agent.launch();
