@@ -1,9 +1,12 @@
 // From a key press until the selected window's frame is on screen, and from letting go until the window is active, with
 // the real agent and window manager and 10, 100 and 1,000 windows; against a bare client that holds one grab and shows
-// one window, and against a bare message to the window manager. Needs a session bus; the display is one of its own.
+// one window, against a bare message to the window manager, and with 100 windows against alttab and rofi, where they
+// are installed. Needs a session bus; the display is one of its own.
 
 #include "KeyPress.h"
 #include "bench/Median.h"
+#include "bench/OtherSwitchers.h"
+#include "bench/RunningProgram.h"
 #include "bench/SeenDisplay.h"
 
 #include <QCoreApplication>
@@ -16,6 +19,8 @@
 namespace {
 
 constexpr int rounds = 40, warmUpRounds = 5;
+/// With so many windows, others that do the like are measured too.
+constexpr int comparedCount = 100;
 constexpr quint32 markColor = 0x2a64b8, floorColor = 0x20c060;
 /// Between two looks: what is measured are three programs, on as few as two processors.
 constexpr std::chrono::microseconds pause(20);
@@ -27,37 +32,6 @@ double microsecondsSince(Clock::time_point start)
 {
     return std::chrono::duration<double, std::micro>(Clock::now() - start).count();
 }
-
-/// A program that is ended with the object.
-class Program
-{
-public:
-    Program(const QString &path, const QStringList &arguments)
-    {
-        process_.start(path, arguments);
-        process_.waitForStarted();
-    }
-    ~Program()
-    {
-        process_.kill();
-        process_.waitForFinished();
-    }
-    Program(const Program &) = delete;
-    Program &operator=(const Program &) = delete;
-
-    /// Waits until it has written a line that begins so.
-    bool waitForLine(const QByteArray &beginning)
-    {
-        while (process_.canReadLine() || process_.waitForReadyRead(10000)) {
-            if (process_.readLine().startsWith(beginning))
-                return true;
-        }
-        return false;
-    }
-
-private:
-    QProcess process_;
-};
 
 /// Windows side by side over the whole screen, the first of which is at the upper left, and what the window manager
 /// says of them.
@@ -241,11 +215,11 @@ bool measure(int count, double goal)
     const SeenDisplay display;
     if (!display.isThere())
         return false;
-    const Program manager(QStringLiteral("openbox"),
+    const RunningProgram manager(QStringLiteral("openbox"),
         {QStringLiteral("--config-file"),
             qEnvironmentVariable("LUMAROO_SOURCE") + QStringLiteral("/tests/support/openbox.xml")});
     Windows windows(count);
-    Program agent(qEnvironmentVariable("LUMAROO_BUILD")
+    RunningProgram agent(qEnvironmentVariable("LUMAROO_BUILD")
             + QStringLiteral("/Lumaroo.prefPane/Contents/Resources/LumarooAgent.app/Contents/Linux/LumarooAgent"),
         {QStringLiteral("--foreground")});
     if (!windows.areManaged() || !agent.waitForLine("launched"))
@@ -266,6 +240,11 @@ bool measure(int count, double goal)
         median(times.activation) / 1000, median(times.bareActivation) / 1000,
         median(times.activation) / median(times.bareActivation));
     std::fflush(stdout);
+    if (count == comparedCount)
+        compareWithOthers(display, median(times.first), [&windows] {
+            windows.activate(0);
+            return windows.waitUntilActive(0);
+        });
     return true;
 }
 
