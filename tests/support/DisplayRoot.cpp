@@ -56,11 +56,11 @@ void send(const XConnection &connection, MonitorRequest &request)
 }
 
 /// The first one has the server's only output, which else were a monitor of its own.
-void setMonitor(const XConnection &connection, int number, const QRect &place)
+void setMonitor(const XConnection &connection, int number, const QRect &place, int dotsPerInch)
 {
     const auto resources = fromServer(xcb_randr_get_screen_resources_current_reply(connection.get(),
         xcb_randr_get_screen_resources_current(connection.get(), screenOf(connection)->root), nullptr));
-    constexpr int pixelsOf100Millimetres = 378;
+    const auto millimetres = [dotsPerInch](int pixels) { return quint32(pixels * 254 / (10 * dotsPerInch)); };
     MonitorRequest request{};
     request.head.window = screenOf(connection)->root;
     request.info.name = displayAtom(connection.get(), ("test" + QByteArray::number(number)).constData());
@@ -69,8 +69,8 @@ void setMonitor(const XConnection &connection, int number, const QRect &place)
     request.info.y = qint16(place.y());
     request.info.width = quint16(place.width());
     request.info.height = quint16(place.height());
-    request.info.width_in_millimeters = quint32(place.width() * 100 / pixelsOf100Millimetres);
-    request.info.height_in_millimeters = quint32(place.height() * 100 / pixelsOf100Millimetres);
+    request.info.width_in_millimeters = millimetres(place.width());
+    request.info.height_in_millimeters = millimetres(place.height());
     request.output = xcb_randr_get_screen_resources_current_outputs(resources.get())[0];
     send(connection, request);
 }
@@ -107,13 +107,13 @@ void removeFromRoot(const char *property)
     waitForServer(connection);
 }
 
-void setMonitors(const QList<QRect> &monitors)
+void setMonitors(const QList<QRect> &monitors, int dotsPerInch)
 {
     const XConnection connection = connectToXServer();
     for (const xcb_atom_t name : monitorNames(connection))
         xcb_randr_delete_monitor(connection.get(), screenOf(connection)->root, name);
     for (int number = 0; number < monitors.size(); ++number)
-        setMonitor(connection, number, monitors.at(number));
+        setMonitor(connection, number, monitors.at(number), dotsPerInch);
     waitForServer(connection);
 }
 

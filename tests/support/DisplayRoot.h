@@ -10,8 +10,8 @@ quint32 serverTime();
 void setOnRoot(const char *property, const char *type, const QList<quint32> &values);
 void removeFromRoot(const char *property);
 
-/// Makes monitors side by side or as told, in place of those that the server has.
-void setMonitors(const QList<QRect> &monitors);
+/// Makes monitors side by side or as told, in place of those that the server has; they say that they are of that size.
+void setMonitors(const QList<QRect> &monitors, int dotsPerInch = 96);
 
 /// A colour that no window's frame has.
 inline constexpr quint32 groundColor = 0xff00ff;

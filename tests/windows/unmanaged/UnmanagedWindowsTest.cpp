@@ -68,6 +68,17 @@ TEST_F(UnmanagedWindows, areOrderedByTheServerWhereTheManagerTellsNoStack)
     removeFromRoot("_NET_CLIENT_LIST");
 }
 
+TEST_F(UnmanagedWindows, areAllReadWhereTheManagerHasNotYetWrittenItsStackAnew)
+{
+    WindowOfAnotherProgram before("Before"), added("Added");
+    manage({before.id()});
+    setOnRoot("_NET_CLIENT_LIST", "WINDOW", {before.id(), added.id()});
+    QStringList names;
+    for (const WindowDescription &window : world().windows)
+        names += window.windowName;
+    EXPECT_EQ(names, QStringList({"Added", "Before"}));
+}
+
 TEST_F(UnmanagedWindows, areEachReadOnceAndTheRootNever)
 {
     WindowOfAnotherProgram window("Window");
@@ -88,6 +99,27 @@ TEST_F(UnmanagedWindows, areSeenWhereTheirHolderIsIfNobodyTellsMargins)
     EXPECT_EQ(described(window.id()).windowRect, QRect(220, 160, 250, 150));
     window.set("_NET_FRAME_EXTENTS", "CARDINAL", {1, 2, 3, 4});
     EXPECT_EQ(described(window.id()).windowRect, QRect(199, 147, 303, 207)) << "never both";
+}
+
+TEST_F(UnmanagedWindows, areSeenWithTheirHoldersBorders)
+{
+    WindowOfAnotherProgram window("Window", {200, 150, 300, 200});
+    manage({window.id()});
+    const XConnection connection = connectToXServer();
+    const quint32 border = 3;
+    xcb_configure_window(connection.get(), window.id(), XCB_CONFIG_WINDOW_BORDER_WIDTH, &border);
+    fromServer(xcb_get_input_focus_reply(connection.get(), xcb_get_input_focus(connection.get()), nullptr));
+    EXPECT_EQ(described(window.id()).windowRect, QRect(200, 150, 306, 206));
+}
+
+TEST_F(UnmanagedWindows, haveTheNameOfTheProgramOrOfItsInstance)
+{
+    WindowOfAnotherProgram window("Window");
+    manage({window.id()});
+    window.setClass("instance", "Program");
+    EXPECT_EQ(described(window.id()).appName, "Program");
+    window.setClass("instance", "");
+    EXPECT_EQ(described(window.id()).appName, "instance");
 }
 
 TEST_F(UnmanagedWindows, thatSayNonsenseAreReadAsIfTheySaidNothing)
