@@ -150,7 +150,7 @@ TEST_P(TheHelpBook, namesAllThatRemovingTheProgramLeavesBehind)
     for (const char *left :
         {"com.quorvane.Lumaroo.plist", "com.quorvane.Lumaroo.Updater.plist", "com.apple.systempreferences.plist",
             "com.apple.help.plist", "com.quorvane.LumarooAgent.desktop", ".cache}/lumaroo", ".Lumaroo.prefPane.</code>",
-            "~/Library/Logs</code>", "lumaroo-settings</code>", "LumarooAgent</code>"})
+            "~/Library/Logs</code>", "lumaroo-settings</code>", "LumarooAgent</code>", "LumarooTutorial</code>"})
         EXPECT_TRUE(page.contains(left)) << left;
 }
 
