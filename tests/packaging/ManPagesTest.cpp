@@ -55,5 +55,13 @@ TEST_P(TheManPage, tellsEachOptionOfTheProgramsHelp)
         EXPECT_TRUE(plain.contains(QRegularExpression(option + "\\b(?!-)"))) << qPrintable(option);
 }
 
+TEST_P(TheManPage, promisesNoOptionThatIsNotThere)
+{
+    const QStringList known =
+        optionsInHelp("lumaroo-settings") + optionsInHelp("lumaroo-defaults") + optionsInHelp("LumarooAgent");
+    for (const QString &option : optionsIn(QString(text).replace("\\-", "-")))
+        EXPECT_TRUE(known.contains(option)) << qPrintable(option);
+}
+
 INSTANTIATE_TEST_SUITE_P(OfEachProgram, TheManPage,
     testing::Combine(Values("", "de/"), Values("lumaroo-settings", "lumaroo-defaults", "LumarooAgent")));

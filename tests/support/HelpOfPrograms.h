@@ -14,16 +14,23 @@ inline QString pathOfProgram(const QString &name)
     return qEnvironmentVariable("LUMAROO_BUILD") + places.value(name) + name;
 }
 
-/// Each long option that the program's --help names.
+/// Each long option that a text names, once.
+inline QStringList optionsIn(const QString &text)
+{
+    static const QRegularExpression option("--[a-z]+(-[a-z]+)*");
+    QStringList options;
+    for (auto match = option.globalMatch(text); match.hasNext();)
+        options += match.next().captured();
+    options.removeDuplicates();
+    return options;
+}
+
+/// Those of the program's --help.
 inline QStringList optionsInHelp(const QString &name)
 {
     const ProgramResult help = runProgram(pathOfProgram(name), {"--help"});
     EXPECT_EQ(help.status, 0) << help.errors;
-    static const QRegularExpression option("--[a-z]+(-[a-z]+)*");
-    QStringList options;
-    for (auto match = option.globalMatch(QString::fromStdString(help.output)); match.hasNext();)
-        options += match.next().captured();
-    options.removeDuplicates();
+    const QStringList options = optionsIn(QString::fromStdString(help.output));
     EXPECT_TRUE(options.contains("--help"));
     return options;
 }
