@@ -9,7 +9,6 @@
 #include <cstdio>
 #include <functional>
 #include <linux/input-event-codes.h>
-#include <optional>
 
 // Other programs that let their users choose a window: from the key press, or from their start where a key does that,
 // until the first of their list is on screen.
@@ -41,12 +40,11 @@ inline bool waitAcrossMiddle(const SeenDisplay &display, bool isThere)
     return true;
 }
 
-/// In microseconds.
-inline std::optional<double> timeUntilAcrossMiddle(const SeenDisplay &display, Clock::time_point start)
+/// In microseconds; -1 where it does not come.
+inline double timeUntilAcrossMiddle(const SeenDisplay &display, Clock::time_point start)
 {
-    if (!waitAcrossMiddle(display, true))
-        return std::nullopt;
-    return std::chrono::duration<double, std::micro>(Clock::now() - start).count();
+    const bool isSeen = waitAcrossMiddle(display, true);
+    return isSeen ? std::chrono::duration<double, std::micro>(Clock::now() - start).count() : -1;
 }
 
 /// It runs all the time and holds its key, as the agent does.
@@ -55,12 +53,12 @@ class Alttab
 public:
     explicit Alttab(const SeenDisplay &display) : display_(display) { }
 
-    std::optional<double> press()
+    double press()
     {
         keyDown(KEY_LEFTMETA);
         const Clock::time_point start = Clock::now();
         keyDown(KEY_TAB);
-        const auto time = timeUntilAcrossMiddle(display_, start);
+        const double time = timeUntilAcrossMiddle(display_, start);
         keyUp(KEY_TAB);
         keyUp(KEY_LEFTMETA);
         return time;
@@ -79,7 +77,7 @@ class Rofi
 public:
     explicit Rofi(const SeenDisplay &display) : display_(display) { }
 
-    std::optional<double> press()
+    double press()
     {
         const Clock::time_point start = Clock::now();
         const RunningProgram program(QStringLiteral("rofi"),
@@ -106,15 +104,15 @@ void compareWith(
     std::vector<double> times;
     for (int press = -warmUpPresses; press < presses; ++press) {
         std::this_thread::sleep_for(std::chrono::milliseconds(300));
-        const auto time = activateFirst() ? switcher.press() : std::nullopt;
+        const double time = activateFirst() ? switcher.press() : -1;
         const bool isGone = waitAcrossMiddle(display, false);
         if (press < 0)
             continue;
-        if (!time || !isGone) {
+        if (time < 0 || !isGone) {
             std::printf("              %s did not come up\n", name);
             return;
         }
-        times.push_back(*time);
+        times.push_back(time);
     }
     std::printf("              %s: its list is seen after %.2f ms: %.1f times ours (goal: at least %.0f)\n", name,
         median(times) / 1000, median(times) / ours, goal);
