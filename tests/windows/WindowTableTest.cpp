@@ -44,6 +44,10 @@ TEST_F(WindowTable, tellsWhyWindowsAreLeftOut)
         [&] { return testing::Value(table(), ContainsRegex("Player +no: minimised +[0-9x+]+ +The player\n")); }));
     EXPECT_THAT(table(), HasSubstr("\n1 of 3 windows can be selected; * has the focus\nmonitor 1280x1024+0+0, "));
 
+    ASSERT_TRUE(editor.takesFocus());
+    EXPECT_THAT(table(), ContainsRegex("\n[*] +0x[0-9a-f]+ +Editor"));
+    EXPECT_THAT(table(), ContainsRegex("\n  +0x[0-9a-f]+ +Panel"));
+
     store(KTXShowHidden, true);
     store(KTXExcludedApplications, QVariantList{"Editor"});
     EXPECT_THAT(table(), ContainsRegex("Player +yes "));

@@ -77,6 +77,7 @@ TEST_F(UnmanagedWindows, areAllReadWhereTheManagerHasNotYetWrittenItsStackAnew)
     for (const WindowDescription &window : world().windows)
         names += window.windowName;
     EXPECT_EQ(names, QStringList({"Added", "Before"}));
+    removeFromRoot("_NET_CLIENT_LIST");
 }
 
 TEST_F(UnmanagedWindows, areEachReadOnceAndTheRootNever)
