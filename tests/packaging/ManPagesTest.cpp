@@ -39,7 +39,7 @@ TEST_P(TheManPage, isUnderstoodByEachFormatter)
 
 TEST_P(TheManPage, isFoundByItsName)
 {
-    EXPECT_THAT(runProgram("lexgrog", {path}).output, HasSubstr("\"" + program.toStdString() + " - "));
+    EXPECT_THAT(runProgram("lexgrog", {path}).output, HasSubstr(QString("\"%1 - ").arg(program).toStdString()));
 }
 
 TEST_P(TheManPage, saysOfWhichVersionItIs)
