@@ -1,5 +1,6 @@
 // The real settings and the real agent, beside a program that holds one of its keys: what the window tells in words.
 
+#include "AgentProgram.h"
 #include "KTXConstants.h"
 #include "KeyPress.h"
 #include "OtherClient.h"
@@ -13,7 +14,7 @@
 namespace {
 
 constexpr quint16 controlAndAlt = XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1;
-constexpr int tabsToTheOffer = 18;
+constexpr int tabsToTheOffer = 18, newVersion = 200;
 const QString whatToPress = QStringLiteral("Hold ⌃⌥ and press ← → ↑ ↓");
 const QString leftIsHeld = QStringLiteral("⌃⌥← is used by another program. Lumaroo cannot take it.");
 
@@ -25,6 +26,11 @@ protected:
         if (reader.waitForText(settings->processId(), text))
             return testing::AssertionSuccess();
         return testing::AssertionFailure() << reader.textsOf(settings->processId()).join(u'\n').toStdString();
+    }
+    /// The settings that have come back tell it.
+    bool isToldAnew(const QString &text)
+    {
+        return waitUntil([&] { return hosts().size() == 1; }) && reader.waitForText(hosts().first(), text);
     }
     bool tellsNoMore(const QString &text)
     {
@@ -73,4 +79,35 @@ TEST_F(PaneTellsByUser, tellsNothingOfAnAgentThatWasKilled)
         ::kill(agent, SIGKILL);
     EXPECT_TRUE(tellsNoMore(whatToPress));
     quit();
+}
+
+TEST_F(PaneTellsByUser, tellsNothingWhileTheAgentIsOffAndAgainWhenItIsOn)
+{
+    open();
+    ASSERT_TRUE(tells(whatToPress));
+    for (const pid_t agent : agents())
+        ::kill(agent, SIGTERM);
+    ASSERT_TRUE(agentEnds());
+    EXPECT_TRUE(tellsNoMore(whatToPress));
+    ASSERT_TRUE(other.grabKey(KEY_LEFT, controlAndAlt));
+    AgentProgram agent({"--foreground"}, agentProgram());
+    EXPECT_TRUE(tells(leftIsHeld));
+    EXPECT_FALSE(reader.textsOf(settings->processId()).contains("All keys work."));
+    quit();
+}
+
+TEST_F(PaneTellsByUser, tellsOfTheKeysOfANewerAgentThatTookItsPlace)
+{
+    ASSERT_TRUE(other.grabKey(KEY_LEFT, controlAndAlt));
+    open();
+    ASSERT_TRUE(tells(leftIsHeld));
+    const pid_t older = pid_t(settings->processId());
+    other.ungrabKey(KEY_LEFT, controlAndAlt);
+    install(newVersion);
+    // As a pane shown elsewhere would say: the agent makes way, and the settings come back with the newer code.
+    bus.post(KTXLMPrefPaneLaunched, KTXLMAppID);
+    ASSERT_TRUE(comesBack(older));
+    EXPECT_TRUE(isToldAnew(whatToPress));
+    EXPECT_FALSE(reader.textsOf(hosts().first()).contains(leftIsHeld));
+    EXPECT_EQ(agents().size(), 1);
 }
