@@ -14,8 +14,7 @@ AgentReport::Key keyFrom(const QJsonObject &object)
     const bool isRegistered = object.value(QStringLiteral("registered")).toBool();
     const QString refusal = object.value(QStringLiteral("refusal")).toString(QStringLiteral("unknown"));
     return {object.value(QStringLiteral("action")).toString(),
-        VirtualKeyCode(quint32(object.value(QStringLiteral("keyCode")).toInt())),
-        object.value(QStringLiteral("combination")).toString(), isRegistered ? QString() : refusal};
+        VirtualKeyCode(quint32(object.value(QStringLiteral("keyCode")).toInt())), isRegistered ? QString() : refusal};
 }
 
 } // namespace

@@ -13,7 +13,6 @@ struct AgentReport
     {
         QString action; ///< the name under which its key is stored
         VirtualKeyCode keyCode;
-        QString combination; ///< as people read it
         QString refusal; ///< why it does not work; empty where it does
     };
 

@@ -2,6 +2,7 @@
 
 #include "KTXActionKeys.h"
 #include "KTXModifiers.h"
+#include "tutorial/KeyNames.h"
 #include "tutorial/Steps.h"
 
 namespace {
@@ -10,14 +11,15 @@ namespace {
 const QString heldByAnother = QStringLiteral("another program holds it");
 const QString noHotKeys = QStringLiteral("there are no hot keys in this session");
 
-/// The combinations of the movement keys that were refused for a reason.
+/// The movement keys that were refused for a reason.
 QStringList movementKeysRefused(const AgentReport &report, const QString &reason)
 {
     QStringList refused;
     for (int i = 0; i < KTXMovementKeyCount; ++i) {
-        const AgentReport::Key *const key = report.key(KTXActionKeys().at(size_t(i)).preferenceName);
+        const QString &action = KTXActionKeys().at(size_t(i)).preferenceName;
+        const AgentReport::Key *const key = report.key(action);
         if (key && key->refusal == reason)
-            refused += key->combination;
+            refused += keyName(report, action);
     }
     return refused;
 }
@@ -27,10 +29,10 @@ QStringList movementKeysRefused(const AgentReport &report, const QString &reason
 Preparation preparationFor(const AgentReport &report)
 {
     if (report.modifiers == 0)
-        return {Obstacle::NoModifiers, {}, DEFAULT_MODIFIER_MASK};
+        return {Obstacle::NoModifiers, {}, 0, DEFAULT_MODIFIER_MASK};
     if (!movementKeysRefused(report, noHotKeys).isEmpty())
         return {Obstacle::NoHotKeys};
     if (const QStringList held = movementKeysRefused(report, heldByAnother); !held.isEmpty())
-        return {Obstacle::KeysHeld, held, report.freeModifiers};
+        return {Obstacle::KeysHeld, held, report.modifiers, report.freeModifiers};
     return {possibleSteps(report).isEmpty() ? Obstacle::KeysUseless : Obstacle::None};
 }

@@ -21,8 +21,9 @@ enum class Obstacle : quint8 {
 struct Preparation
 {
     Obstacle obstacle = Obstacle::None;
-    QStringList keys = {}; ///< that another program holds, as people read them
-    quint32 offered = 0; ///< modifiers that would do; 0 where none are known
+    QStringList keys = {}; ///< that another program holds with the modifiers, as their caps say
+    quint32 modifiers = 0; ///< that are set
+    quint32 offered = 0; ///< others that would do; 0 where none are known
 
     bool operator==(const Preparation &) const = default;
 };

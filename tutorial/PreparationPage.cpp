@@ -33,8 +33,8 @@ constexpr ObstacleTexts obstacleTexts[]{
     {Obstacle::NoModifiers, "No modifier keys are chosen",
         "Lumaroo's keys are pressed together with modifier keys, and your settings have none.", Wish::UseModifiers,
         nullptr},
-    {Obstacle::KeysHeld, "Another program holds Lumaroo's keys", "Lumaroo does not get %1.", Wish::AskAgain,
-        "&Ask again"},
+    {Obstacle::KeysHeld, "Another program holds Lumaroo's keys", "With %1, Lumaroo does not get these keys: %2.",
+        Wish::AskAgain, "&Ask again"},
     {Obstacle::KeysUseless, "The keys do not work",
         "Choose other keys on the page “Keys” of Lumaroo's settings, then ask again.", Wish::AskAgain, "&Ask again"},
 };
@@ -61,7 +61,7 @@ QString namesAndGlyphs(quint32 modifiers)
 
 void offerOtherModifiers(GuidePage &page, const Preparation &preparation)
 {
-    page.text = page.text.arg(preparation.keys.join(QStringLiteral(", "))) + u' ';
+    page.text = page.text.arg(modifierNames(preparation.modifiers), preparation.keys.join(u' ')) + u' ';
     if (preparation.offered == 0) {
         page.text += tutorialText("Free them in that program, or choose others in Lumaroo's settings; then ask again.");
         return;

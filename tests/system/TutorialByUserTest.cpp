@@ -117,8 +117,8 @@ TEST_F(TutorialByUser, beginsWithFreeModifiersWhereAnotherProgramHoldsEveryKey)
     startTutorial();
     ASSERT_TRUE(tellsOfHeldKeys(reader));
     EXPECT_TRUE(reader.waitForText(tutorial->processId(),
-        "Lumaroo does not get ⌃⌥↑, ⌃⌥→, ⌃⌥↓, ⌃⌥←, ⌃⌥/. If you hold Control+Super (⌃⌘) instead, all of Lumaroo's "
-        "movement keys are free."));
+        "With Control+Alt, Lumaroo does not get these keys: ↑ → ↓ ← /. If you hold Control+Super (⌃⌘) instead, all of "
+        "Lumaroo's movement keys are free."));
     recorder.clear();
     pressKey(KEY_ENTER); // Use ⌃⌘
     EXPECT_TRUE(announces({changedByAgent()}));

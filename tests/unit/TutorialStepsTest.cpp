@@ -19,7 +19,7 @@ AgentReport report()
 {
     AgentReport report;
     for (const KTXActionKey &action : KTXActionKeys())
-        report.keys += {action.preferenceName, action.defaultKeyCode, QStringLiteral("⌃⌥") + action.preferenceName, {}};
+        report.keys += {action.preferenceName, action.defaultKeyCode, {}};
     report.modifiers = 0x1800;
     return report;
 }
@@ -149,7 +149,7 @@ TEST(TutorialPreparation, tellsWhatIsInTheWay)
     const QString held = "another program holds it";
     EXPECT_EQ(preparationFor(report()), Preparation{});
     AgentReport one = reportWithRefusal(KTXUpPref, held);
-    EXPECT_EQ(preparationFor(one), (Preparation{Obstacle::KeysHeld, {"⌃⌥moveUpHotKey"}, 0}));
+    EXPECT_EQ(preparationFor(one), (Preparation{Obstacle::KeysHeld, {"↑"}, 0x1800, 0}));
     one.freeModifiers = 0x1100;
     EXPECT_EQ(preparationFor(one).offered, 0x1100U);
     EXPECT_EQ(preparationFor(reportWithRefusal(KTXScreenClosePref, held)), Preparation{}) << "that moves nothing";
@@ -158,7 +158,7 @@ TEST(TutorialPreparation, tellsWhatIsInTheWay)
         Preparation{Obstacle::NoHotKeys});
     AgentReport none = report();
     none.modifiers = 0;
-    EXPECT_EQ(preparationFor(none), (Preparation{Obstacle::NoModifiers, {}, 0x1800}));
+    EXPECT_EQ(preparationFor(none), (Preparation{Obstacle::NoModifiers, {}, 0, 0x1800}));
     AgentReport useless = report();
     for (AgentReport::Key &key : useless.keys)
         key.refusal = "another action has the same key";

@@ -59,7 +59,7 @@ AgentReport report(bool byDoublePress)
 {
     AgentReport report;
     for (const KTXActionKey &action : KTXActionKeys())
-        report.keys += {action.preferenceName, action.defaultKeyCode, {}, {}};
+        report.keys += {action.preferenceName, action.defaultKeyCode, {}};
     report.modifiers = 0x1800;
     report.beginsByDoublePress = byDoublePress;
     return report;
@@ -126,14 +126,14 @@ TEST_F(TutorialTexts, leaveNothingOpenWhateverBeginsASelection)
 TEST_F(TutorialTexts, offerSomethingAtEachObstacle)
 {
     for (int obstacle = int(Obstacle::NoBus); obstacle <= int(Obstacle::KeysUseless); ++obstacle) {
-        const GuidePage page = pageOfPreparation({Obstacle(obstacle), {"⌃⌥→", "⌃⌥←"}, 0x1100});
+        const GuidePage page = pageOfPreparation({Obstacle(obstacle), {"→", "←"}, 0x1800, 0x1100});
         EXPECT_NE(page.first.wish, Wish::None) << obstacle;
         EXPECT_FALSE(page.title.isEmpty());
         EXPECT_THAT(placeholdersOf(page.text + page.first.text), IsEmpty()) << qPrintable(page.text);
     }
-    const GuidePage held = pageOfPreparation({Obstacle::KeysHeld, {"⌃⌥→"}, 0});
+    const GuidePage held = pageOfPreparation({Obstacle::KeysHeld, {"→", "←"}, 0x1800, 0});
     EXPECT_EQ(held.first.wish, Wish::AskAgain);
     EXPECT_EQ(held.text,
-        u"Lumaroo does not get ⌃⌥→. Free them in that program, or choose others in Lumaroo's settings; then ask "
-        u"again.");
+        u"With Control+Alt, Lumaroo does not get these keys: → ←. Free them in that program, or choose others in "
+        u"Lumaroo's settings; then ask again.");
 }

@@ -332,8 +332,8 @@
         <translation>Ein anderes Programm hält Tasten von Lumaroo</translation>
     </message>
     <message>
-        <source>Lumaroo does not get %1.</source>
-        <translation>Lumaroo bekommt %1 nicht.</translation>
+        <source>With %1, Lumaroo does not get these keys: %2.</source>
+        <translation>Mit %1 bekommt Lumaroo diese Tasten nicht: %2.</translation>
     </message>
     <message>
         <source>Free them in that program, or choose others in Lumaroo's settings; then ask again.</source>
