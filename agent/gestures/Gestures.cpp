@@ -137,8 +137,10 @@ bool Gestures::perform(GestureStep step, const GestureEvent &event)
         return true;
     case GestureStep::TakeKeyboard:
         session_.begin();
-        keys_.grabKeyboard();
-        return true;
+        if (keys_.grabKeyboard())
+            return true;
+        Q_EMIT cancelled();
+        return false;
     case GestureStep::TellOfKeyboard:
         Q_EMIT refused({GestureRefusal::Kind::KeyboardKept, {}});
         return true;

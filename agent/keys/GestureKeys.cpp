@@ -61,12 +61,13 @@ bool GestureKeys::areModifiersDown()
     return keys_.modifiers() != 0 && (keyboard_->heldModifiers() & keys_.modifiers()) == keys_.modifiers();
 }
 
-void GestureKeys::grabKeyboard()
+bool GestureKeys::grabKeyboard()
 {
     isOn_ = true;
     releaseCheck_.stop();
     grabTries_ = 0;
     tryToGrab();
+    return isGrabbed_ || !keyboard_->isMouseTaken();
 }
 
 void GestureKeys::tryToGrab()

@@ -36,8 +36,9 @@ public:
     bool areModifiersDown();
 
     /// Takes the whole keyboard for a persistent gesture: tried 10 times, 20 ms apart, while the event loop runs.
-    /// keyboardGrabbed() or keyboardRefused() follows, also at once. modifiersReleased() is told no more.
-    void grabKeyboard();
+    /// keyboardGrabbed() or keyboardRefused() follows, also at once. modifiersReleased() is told no more. False where
+    /// there is no gesture to begin: another program has the keyboard and the mouse, as one that locks the screen.
+    bool grabKeyboard();
     void letKeyboardGo();
 
     /// Takes the keys of these digits (1 to 9, by their place on the keyboard) with the modifiers, and while the

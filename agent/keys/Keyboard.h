@@ -49,6 +49,8 @@ public:
     /// Takes the whole keyboard: each press and release comes here, and to nobody else. False while another program has
     /// it. One round trip.
     virtual bool grab() = 0;
+    /// Whether another program has the mouse to itself. Who has both locks the screen, or has a menu open.
+    virtual bool isMouseTaken() = 0;
     /// Harmless when it is not grabbed.
     virtual void letGo() = 0;
 

@@ -32,7 +32,7 @@ QList<GestureStep> Gesture::takeInIdle(const GestureEvent &event)
     if (!isWayIn(event))
         return {};
     enter(State::Persistent);
-    return {Begin, Show, TakeKeyboard};
+    return {Begin, TakeKeyboard, Show};
 }
 
 QList<GestureStep> Gesture::takeInGesture(const GestureEvent &event)

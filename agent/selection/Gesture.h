@@ -46,7 +46,7 @@ enum class GestureStep : quint8 {
     Show, ///< without having moved
     WatchModifiers, ///< until one of them is released
     WatchSession, ///< until its user leaves
-    TakeKeyboard, ///< and watch the session
+    TakeKeyboard, ///< and watch the session; nothing begins where the screen is locked
     TellOfKeyboard, ///< that only the combinations work
     Accept, ///< turn to what is selected
     Drop, ///< end as if nothing had been

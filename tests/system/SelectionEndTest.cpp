@@ -3,9 +3,11 @@
 #include "KTXConstants.h"
 #include "LoginManager.h"
 #include "OtherClient.h"
+#include "ScreenPicture.h"
 #include "SelectionSession.h"
 #include "Wait.h"
 
+#include <QProcess>
 #include <csignal>
 #include <linux/input-event-codes.h>
 #include <random>
@@ -52,6 +54,31 @@ TEST_F(SelectionEnd, comesWithALockedSession)
     loginManager().lock();
     EXPECT_TRUE(says({"began", "cancelled"}));
     expectNothingLeft();
+}
+
+TEST_F(SelectionEnd, leavesTheKeyboardToALocker)
+{
+    open();
+    beginPersistent();
+    loginManager().lock();
+    // It gives up where it cannot have the keyboard.
+    QProcess locker;
+    locker.start(QStringLiteral("i3lock"), {"--nofork", "--color=000000"});
+    ASSERT_TRUE(locker.waitForStarted());
+    EXPECT_TRUE(says({"began", "cancelled"}));
+    EXPECT_TRUE(showsOnScreen([](QPoint) { return qRgb(0, 0, 0); }));
+    EXPECT_TRUE(waitUntil([this] { return !keyboardIsFree(); }));
+    EXPECT_EQ(locker.state(), QProcess::Running);
+    // What is typed now is a password.
+    pressKey(KEY_RIGHT, modifiers());
+    pressModifiersTwice();
+    EXPECT_TRUE(says({"began", "cancelled", "began", "cancelled"}));
+    EXPECT_EQ(marksOnScreen(), 0);
+    locker.kill();
+    EXPECT_TRUE(locker.waitForFinished());
+    expectNothingLeft();
+    pressKey(KEY_RIGHT, modifiers());
+    EXPECT_TRUE(isActive("middle")) << "it goes on working";
 }
 
 TEST_F(SelectionEnd, comesWithSleep)

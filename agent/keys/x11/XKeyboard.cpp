@@ -206,6 +206,19 @@ bool XKeyboard::grab()
     return isGrabbed_;
 }
 
+bool XKeyboard::isMouseTaken()
+{
+    if (!connection_)
+        return false;
+    xcb_connection_t *const server = connection_.get();
+    const auto question = xcb_grab_pointer(server, false, root_, 0, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC,
+        XCB_WINDOW_NONE, XCB_CURSOR_NONE, XCB_CURRENT_TIME);
+    xcb_ungrab_pointer(server, XCB_CURRENT_TIME);
+    const auto answer = fromServer(xcb_grab_pointer_reply(server, question, nullptr));
+    handleLater();
+    return answer && answer->status == XCB_GRAB_STATUS_ALREADY_GRABBED;
+}
+
 void XKeyboard::letGo()
 {
     if (!std::exchange(isGrabbed_, false) || !connection_)
