@@ -14,11 +14,13 @@ constexpr QLatin1StringView english("en");
 
 QStringList languagesWithAFolder(const QString &resourcePath)
 {
-    const QDir resources(resourcePath);
+    // Without a pattern: the library of regular expressions would be the largest part of what a text costs the agent.
+    const QStringList folders = QDir(resourcePath).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
     QStringList languages;
-    for (const QString &folder :
-        resources.entryList({QString(u'*') + folderSuffix}, QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name))
-        languages += folder.chopped(folderSuffix.size());
+    for (const QString &folder : folders) {
+        if (folder.endsWith(folderSuffix, Qt::CaseInsensitive))
+            languages += folder.chopped(folderSuffix.size());
+    }
     return languages;
 }
 
