@@ -57,7 +57,7 @@ TEST_F(AWaitingUpdate, leavesTheOldBundleAsideUntilTheStartAfter)
     EXPECT_EQ(beside().size(), 1) << "the installer is a program of the old bundle's";
     settings.reset();
     startSettings({pane()});
-    EXPECT_EQ(beside(), QStringList());
+    EXPECT_TRUE(waitUntil([this] { return beside().isEmpty(); })) << beside().join(u' ').toStdString();
     expectShown("Version 1.1 (101)");
 }
 

@@ -1,6 +1,5 @@
 // What a window manager is asked for to turn to a window, where the test itself hears it.
 
-#include "SecondDisplay.h"
 #include "WindowsOnDesktop.h"
 #include "platform/appkit/linux/WindowManagerMessage.h"
 #include "platform/foundation/system/X11.h"
@@ -112,31 +111,4 @@ TEST_F(ActivationRequests, areMadeOnceOnThisDesktop)
     askedForWindowOn(0);
     setOnRoot("_NET_ACTIVE_WINDOW", "WINDOW", {other.id()});
     EXPECT_THAT(asked(), ElementsAre());
-}
-
-TEST(ActivationOnItsOwnDisplay, watchesNothingAfterwards)
-{
-    // Programs of the session watch the root there, and one cannot tell who does.
-    const SecondDisplay display;
-    const QByteArray before = qgetenv("DISPLAY");
-    qputenv("DISPLAY", display.name());
-    {
-        const XConnection connection = connectToXServer();
-        const xcb_window_t root = screenOf(connection)->root;
-        const auto watched = [&] {
-            const auto reply = fromServer(xcb_get_window_attributes_reply(
-                connection.get(), xcb_get_window_attributes(connection.get(), root), nullptr));
-            return reply ? reply->all_event_masks : quint32(-1);
-        };
-        const auto system = windowSystem();
-        bool isDone = false;
-        QObject::connect(system.get(), &WindowSystem::notActivated, [&isDone] { isDone = true; });
-        system->activate(root, pressTime);
-        read(*system);
-        EXPECT_EQ(watched(), XCB_EVENT_MASK_PROPERTY_CHANGE);
-        EXPECT_TRUE(waitUntil([&isDone] { return isDone; }));
-        read(*system);
-        EXPECT_EQ(watched(), 0U);
-    }
-    qputenv("DISPLAY", before);
 }
