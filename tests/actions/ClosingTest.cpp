@@ -101,6 +101,38 @@ TEST_F(ClosingOnDesktop, knowsADialogByItsProcessToo)
     EXPECT_EQ(dialog, question.id());
 }
 
+TEST_F(ClosingOnDesktop, knowsADialogOfItsDialogToo)
+{
+    LivingWindow window("Asking", somewhere), sheet("Options", {200, 150, 200, 100}, {.parent = window.id()});
+    LivingWindow question("Save?", {220, 170, 200, 100}, {.parent = sheet.id()});
+    window.whenAskedToClose([&] { EXPECT_TRUE(question.show()); });
+    ASSERT_TRUE(window.show());
+    ASSERT_TRUE(sheet.show());
+    close(window);
+    EXPECT_THAT(outcomes, ElementsAre(Outcome::Asks));
+    EXPECT_EQ(dialog, question.id());
+}
+
+TEST_F(ClosingOnDesktop, takesNoNewWindowForADialogWhereNeitherTellsItsProcess)
+{
+    LivingWindow window("Refusing", somewhere), other("Other", {500, 400, 200, 100});
+    window.whenAskedToClose([&] { EXPECT_TRUE(other.show()); });
+    ASSERT_TRUE(window.show());
+    close(window);
+    EXPECT_THAT(outcomes, ElementsAre(Outcome::StaysOpen));
+}
+
+TEST_F(ClosingOnDesktop, takesNothingForADialogThatCannotBeSelected)
+{
+    LivingWindow window("Refusing", somewhere, {.processID = program});
+    WindowOfAnotherProgram panel("Panel", {500, 400, 200, 100});
+    panel.setType("DOCK").set("_NET_WM_PID", "CARDINAL", {program});
+    window.whenAskedToClose([&] { EXPECT_TRUE(panel.show()); });
+    ASSERT_TRUE(window.show());
+    close(window);
+    EXPECT_THAT(outcomes, ElementsAre(Outcome::StaysOpen));
+}
+
 TEST_F(ClosingOnDesktop, takesNoOtherProgramsNewWindowForADialog)
 {
     LivingWindow window("Refusing", somewhere, {.processID = program});

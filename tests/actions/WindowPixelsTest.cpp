@@ -208,6 +208,16 @@ TEST_F(WindowPixelsTest, areThereEvenOfAProgramThatHangs)
     EXPECT_EQ(pictureOf(window), drawn(somewhere.size()));
 }
 
+TEST_F(WindowPixelsTest, areThereEvenOfAProgramThatDrawsAllTheTime)
+{
+    LivingWindow window("Drawing", somewhere);
+    ASSERT_TRUE(window.show());
+    QTimer drawing;
+    QObject::connect(&drawing, &QTimer::timeout, &drawing, [&] { window.draw(); });
+    drawing.start(0);
+    EXPECT_EQ(pictureOf(window), drawn(somewhere.size()));
+}
+
 TEST_F(WindowPixelsTest, comeInPartsWhereMemoryIsNotShared)
 {
     const SecondDisplay display({"-extension", "MIT-SHM"});
