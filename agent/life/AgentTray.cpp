@@ -6,9 +6,10 @@
 
 AgentTray::AgentTray(Agent &agent) : agent_(agent)
 {
-    connect(&agent, &Agent::settingsRead, this, &AgentTray::follow);
-    connect(&agent, &Agent::switched, this, &AgentTray::follow);
-    connect(&agent.hotKeys(), &AgentHotKeys::changed, this, &AgentTray::follow);
+    // Later: what is told here is not to hold up what has been set.
+    connect(&agent, &Agent::settingsRead, this, &AgentTray::follow, Qt::QueuedConnection);
+    connect(&agent, &Agent::switched, this, &AgentTray::follow, Qt::QueuedConnection);
+    connect(&agent.hotKeys(), &AgentHotKeys::changed, this, &AgentTray::follow, Qt::QueuedConnection);
     connect(&tray_, &Tray::chosen, this, &AgentTray::perform);
 }
 
