@@ -156,7 +156,7 @@ TEST_F(SelectionDesktop, bringsMinimisedWindowsBackIfAskedFor)
     ASSERT_TRUE(window("left").takesFocus());
     walk({KEY_SLASH, KEY_SLASH, KEY_SLASH});
     EXPECT_TRUE(isActive("middle"));
-    EXPECT_EQ(steps().last(), "accepted middle");
+    EXPECT_TRUE(waitUntil([this] { return steps().last() == "accepted middle"; }));
     EXPECT_TRUE(waitUntil([this] { return !isMinimised("middle"); }));
 }
 
