@@ -175,13 +175,13 @@ void AgentHotKeys::release()
 
 void AgentHotKeys::handlePress(const QVariant &hotKey)
 {
-    const auto pressed = std::find_if(keys_.cbegin(), keys_.cend(),
+    const auto found = std::find_if(keys_.cbegin(), keys_.cend(),
         [&hotKey](const ActionKey &key) { return hotKey.value<KTXHotKey *>() == key.hotKey.get(); });
-    if (pressed == keys_.cend())
+    if (found == keys_.cend())
         return;
     // Copies: who hears of it may change the keys.
-    const QString action = pressed->action, combination = pressed->hotKey->description();
-    Q_EMIT this->pressed(action, combination, LMCurrentEventTime());
+    const QString action = found->action, combination = found->hotKey->description();
+    Q_EMIT pressed(action, combination, LMCurrentEventTime());
 }
 
 void AgentHotKeys::handleLoss()
