@@ -7,6 +7,7 @@ namespace {
 const QString widthKey = QStringLiteral("WindowWidth");
 const QString heightKey = QStringLiteral("WindowHeight");
 const QString lastPaneKey = QStringLiteral("LastPane");
+const QString lastPagesKey = QStringLiteral("LastPages");
 
 } // namespace
 
@@ -35,6 +36,18 @@ QString HostState::lastPane() const
 void HostState::setLastPane(const QString &identifier)
 {
     CFPreferencesSetAppValue(lastPaneKey, identifier, domain);
+}
+
+QString HostState::lastPage(const QString &pane) const
+{
+    return CFPreferencesCopyAppValue(lastPagesKey, domain).toMap().value(pane).toString();
+}
+
+void HostState::setLastPage(const QString &pane, const QString &page)
+{
+    QVariantMap pages = CFPreferencesCopyAppValue(lastPagesKey, domain).toMap();
+    pages.insert(pane, page);
+    CFPreferencesSetAppValue(lastPagesKey, pages, domain);
 }
 
 void HostState::flush()

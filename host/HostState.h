@@ -17,5 +17,9 @@ public:
     QString lastPane() const;
     void setLastPane(const QString &identifier);
 
+    /// The identifier of the page of a pane that was seen last, or empty.
+    QString lastPage(const QString &pane) const;
+    void setLastPage(const QString &pane, const QString &page);
+
     void flush();
 };

@@ -1,17 +1,17 @@
 #include "host/HostWindow.h"
 
 #include "host/ErrorPage.h"
+#include "host/HostHeader.h"
 #include "host/HostText.h"
 #include "host/LetterTile.h"
 #include "host/Overview.h"
 #include "host/PanePage.h"
+#include "host/SearchField.h"
 #include "host/linux/WindowActivation.h"
 #include "platform/foundation/bundles/NSBundle.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QScreen>
 #include <QShortcut>
 #include <QStackedWidget>
@@ -23,7 +23,7 @@
 namespace {
 
 constexpr QSize defaultSize(820, 640);
-constexpr QSize smallestSize(480, 360);
+constexpr QSize smallestSize(400, 280);
 
 QString windowName()
 {
@@ -58,7 +58,7 @@ bool isWithin(const QWidget *inner, const QWidget *outer)
 } // namespace
 
 HostWindow::HostWindow(QSize rememberedSize)
-    : stack_(new QStackedWidget(this)), header_(makeHeader()), sizeChosen_(rememberedSize.isValid())
+    : stack_(new QStackedWidget(this)), header_(new HostHeader(this)), sizeChosen_(rememberedSize.isValid())
 {
     setObjectName(QStringLiteral("settingsWindow"));
     stack_->setObjectName(QStringLiteral("pages"));
@@ -66,6 +66,7 @@ HostWindow::HostWindow(QSize rememberedSize)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(header_);
+    connect(header_->backButton(), &QToolButton::clicked, this, &HostWindow::backRequested);
     layout->addWidget(stack_, 1);
     setMinimumSize(smallestSize);
     resize((sizeChosen_ ? rememberedSize : defaultSize).boundedTo(largestSize(this)).expandedTo(smallestSize));
@@ -74,34 +75,10 @@ HostWindow::HostWindow(QSize rememberedSize)
     qApp->installEventFilter(this);
 }
 
-QWidget *HostWindow::makeHeader()
+void HostWindow::offerOverview(bool offered)
 {
-    auto *header = new QWidget(this);
-    header->setObjectName(QStringLiteral("header"));
-    backButton_ = new QToolButton(header);
-    backButton_->setObjectName(QStringLiteral("backButton"));
-    backButton_->setAutoRaise(true);
-    backButton_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    backButton_->setArrowType(isRightToLeft() ? Qt::RightArrow : Qt::LeftArrow);
-    backButton_->setText(hostText(QStringLiteral("&All settings")));
-    backButton_->setFocusPolicy(Qt::StrongFocus);
-    backButton_->setToolTip(QKeySequence(Qt::ALT | Qt::Key_Left).toString(QKeySequence::NativeText));
-    connect(backButton_, &QToolButton::clicked, this, &HostWindow::backRequested);
-    paneTitle_ = new QLabel(header);
-    paneTitle_->setObjectName(QStringLiteral("paneTitle"));
-    paneTitle_->setTextFormat(Qt::PlainText);
-    QFont font = paneTitle_->font();
-    font.setBold(true);
-    paneTitle_->setFont(font);
-
-    auto *layout = new QHBoxLayout(header);
-    layout->setContentsMargins(12, 6, 12, 6);
-    layout->addWidget(backButton_);
-    layout->addWidget(paneTitle_, 1, Qt::AlignCenter);
-    auto *balance = new QWidget(header);
-    balance->setFixedWidth(backButton_->sizeHint().width());
-    layout->addWidget(balance);
-    return header;
+    header_->backButton()->setVisible(offered);
+    header_->search()->setVisible(!offered);
 }
 
 void HostWindow::addShortcuts()
@@ -128,7 +105,10 @@ void HostWindow::showOverview(const QList<InstalledPane> &panes, const QString &
 {
     if (!overview_) {
         overview_ = new Overview;
-        connect(overview_, &Overview::paneOpened, this, &HostWindow::paneOpened);
+        connect(overview_, &Overview::paneOpened, this, [this](const QString &path) {
+            searched_ = overview_->searchText();
+            Q_EMIT paneOpened(path);
+        });
     }
     overview_->setPanes(panes);
     overview_->setCurrentPane(currentPath);
@@ -141,14 +121,16 @@ void HostWindow::showOverview(const QList<InstalledPane> &panes, const QString &
 
 void HostWindow::focusSearch()
 {
-    if (overview_)
+    if (overview_ && stack_->currentWidget() == overview_)
         overview_->focusSearch();
+    else
+        header_->search()->setFocus(Qt::ShortcutFocusReason);
 }
 
 void HostWindow::setTitle(const InstalledPane &pane)
 {
     setWindowTitle(pane.name);
-    paneTitle_->setText(pane.name);
+    header_->setTitle(pane.name);
     iconOwner_ = pane;
     if (isOnScreen())
         showIcon();
@@ -159,9 +141,10 @@ void HostWindow::showError(const InstalledPane &pane, const PaneFailureReport &r
     if (!errorPage_)
         errorPage_ = new ErrorPage;
     setTitle(pane);
+    offerOverview(true);
     errorPage_->setReport(pane.name, report);
     showPage(errorPage_, true);
-    backButton_->setFocus(Qt::OtherFocusReason);
+    header_->backButton()->setFocus(Qt::OtherFocusReason);
 }
 
 void HostWindow::growFor(QWidget *view)
@@ -188,6 +171,7 @@ void HostWindow::showView(QWidget *view, std::function<void()> onScreen)
         showPage(page, true);
     else
         addView(view);
+    header_->search()->setView(view);
     QWidget *focus = lastFocus_.value(view);
     if (!focus)
         focus = view->nextInFocusChain();
@@ -201,6 +185,7 @@ void HostWindow::showView(QWidget *view, std::function<void()> onScreen)
 void HostWindow::hideView(QWidget *view)
 {
     onScreen_ = {};
+    header_->search()->setView(nullptr);
     QWidget *focus = focusWidget();
     lastFocus_[view] = isWithin(focus, view) ? focus : nullptr;
     // A pane may have taken its view out of the window.
@@ -230,6 +215,15 @@ void HostWindow::tellWhenOnScreen()
     showIcon();
     if (onScreen_)
         std::exchange(onScreen_, {})();
+    showWhatWasSearched();
+}
+
+void HostWindow::showWhatWasSearched()
+{
+    // A pane that was searched by its own name is shown as it was left.
+    if (!searched_.isEmpty() && !windowTitle().contains(searched_, Qt::CaseInsensitive))
+        header_->search()->showFirstMatch(searched_);
+    searched_.clear();
 }
 
 void HostWindow::bringToFront(const QString &activationToken)

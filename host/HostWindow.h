@@ -10,10 +10,9 @@
 #include <optional>
 
 class ErrorPage;
+class HostHeader;
 class Overview;
-class QLabel;
 class QStackedWidget;
-class QToolButton;
 
 /// The host's one window: a header with the way back, and below it the overview, a pane or the error page. It keeps its
 /// size between them.
@@ -27,7 +26,10 @@ public:
     void showOverview(const QList<InstalledPane> &panes, const QString &currentPath);
     void showError(const InstalledPane &pane, const PaneFailureReport &report);
     void setTitle(const InstalledPane &pane);
+    /// Puts the keyboard into the search of what is shown: of the overview, else of the pane.
     void focusSearch();
+    /// Whether there is a way back to the overview. Without other panes it would show nothing that is not on screen.
+    void offerOverview(bool offered);
     /// Shows the window, before all others; `activationToken` is what the starting desktop gave for that, or empty.
     void bringToFront(const QString &activationToken);
 
@@ -54,7 +56,6 @@ protected:
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
-    QWidget *makeHeader();
     void addShortcuts();
     void showPage(QWidget *page, bool withHeader);
     void addView(QWidget *view);
@@ -62,15 +63,15 @@ private:
     void showIcon();
     bool isOnScreen() const;
     void tellWhenOnScreen();
+    void showWhatWasSearched();
 
     QStackedWidget *stack_;
-    QWidget *header_;
-    QToolButton *backButton_;
-    QLabel *paneTitle_;
+    HostHeader *header_;
     Overview *overview_ = nullptr;
     ErrorPage *errorPage_ = nullptr;
     QHash<QWidget *, QPointer<QWidget>> lastFocus_;
     std::optional<InstalledPane> iconOwner_; // whose icon the window is to bear once it is on screen
+    QString searched_; // in the overview, when it opened the pane that comes up
     QSize normalSize_;
     bool sizeChosen_;
     bool mayClose_ = false;

@@ -102,6 +102,11 @@ void Overview::focusPanes()
     (grid_->isVisibleTo(this) ? static_cast<QWidget *>(grid_) : searchField_)->setFocus(Qt::OtherFocusReason);
 }
 
+QString Overview::searchText() const
+{
+    return searchField_->text().trimmed();
+}
+
 QStringList Overview::shownNames() const
 {
     QStringList names;

@@ -22,6 +22,8 @@ public:
     void setCurrentPane(const QString &path);
     void focusSearch();
     void focusPanes();
+    /// What is typed into the search, or empty.
+    QString searchText() const;
 
     /// The names of the panes shown now, in their order.
     QStringList shownNames() const;

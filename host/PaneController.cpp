@@ -51,7 +51,9 @@ PaneFailureReport PaneController::load(const QString &bundlePath)
             if (asking_ && asked == current())
                 takeReply(shouldUnselect);
         });
+    QWidget *view = pane->mainView();
     panes_[bundlePath] = std::move(pane);
+    Q_EMIT viewLoaded(bundlePath, view);
     return {};
 }
 

@@ -11,6 +11,7 @@
 
 class NSPreferencePane;
 class PaneStage;
+class QWidget;
 
 /// Drives panes through their contract. A pane once loaded is kept, one for each bundle, and shown again, until
 /// releaseAll. Whatever a pane throws is logged and ends there.
@@ -41,6 +42,8 @@ public:
     bool isInsidePane() const { return callsInProgress_ > 0; }
 
 Q_SIGNALS:
+    /// A pane's view was loaded; it is not on screen yet and the pane has not been asked to select itself.
+    void viewLoaded(const QString &bundlePath, QWidget *view);
     void paneWasKept();
     /// The last call into a pane returned.
     void paneReturned();

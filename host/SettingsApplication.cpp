@@ -1,5 +1,6 @@
 #include "host/SettingsApplication.h"
 
+#include "host/PageMemory.h"
 #include "host/WaitingUpdates.h"
 
 #include <QApplication>
@@ -18,6 +19,7 @@ SettingsApplication::SettingsApplication(const QStringList &folders)
     connect(&window_, &HostWindow::closeRequested, this, &SettingsApplication::terminate);
     connect(&window_, &HostWindow::unblocked, this, &SettingsApplication::goOnWhenPossible);
     connect(&controller_, &PaneController::paneReturned, this, &SettingsApplication::goOnWhenPossible);
+    connect(&controller_, &PaneController::viewLoaded, this, &SettingsApplication::rememberPages);
     connect(&controller_, &PaneController::paneWasKept, this, &SettingsApplication::keepPane);
 }
 
@@ -30,9 +32,24 @@ void SettingsApplication::start(const QString &request)
 {
     // Before anything of a bundle is read: what is known of one stays, as does code.
     finishUpdates(paneBundles(folders_, request));
-    go(request.isEmpty() ? Destination{Destination::Kind::Overview, {}}
-                         : Destination{Destination::Kind::Pane, request});
+    const QList<InstalledPane> panes = request.isEmpty() ? installedPanes(folders_) : QList<InstalledPane>();
+    const QString wanted = panes.size() == 1 ? panes.first().path : request;
+    go(wanted.isEmpty() ? Destination{Destination::Kind::Overview, {}} : Destination{Destination::Kind::Pane, wanted});
     window_.show();
+}
+
+/// Then the overview would show nothing that is not on screen already.
+bool SettingsApplication::isOnlyPane(const QString &path) const
+{
+    const QList<InstalledPane> panes = installedPanes(folders_);
+    return panes.size() == 1 && panes.first().path == path;
+}
+
+void SettingsApplication::rememberPages(const QString &path, QWidget *view)
+{
+    const QString pane = describePane(path).identifier;
+    showFirst(view, state_.lastPage(pane));
+    followPages(view, [this, pane](const QString &page) { state_.setLastPage(pane, page); });
 }
 
 void SettingsApplication::open(const QString &request, const QString &activationToken)
@@ -50,12 +67,16 @@ void SettingsApplication::open(const QString &request, const QString &activation
 
 void SettingsApplication::showOverview()
 {
-    go({Destination::Kind::Overview, {}});
+    if (!isOnlyPane(controller_.currentPath()))
+        go({Destination::Kind::Overview, {}});
 }
 
 void SettingsApplication::search()
 {
-    go({Destination::Kind::Search, {}});
+    if (isOnlyPane(controller_.currentPath()))
+        window_.focusSearch();
+    else
+        go({Destination::Kind::Search, {}});
 }
 
 void SettingsApplication::terminate()
@@ -138,6 +159,7 @@ void SettingsApplication::openPane(const QString &request)
     }
     const InstalledPane pane = describePane(path);
     window_.setTitle(pane);
+    window_.offerOverview(!isOnlyPane(path));
     const PaneFailureReport report = controller_.select(path);
     if (report) {
         window_.showError(pane, report);

@@ -51,6 +51,8 @@ private:
     };
 
     void go(const Destination &destination);
+    bool isOnlyPane(const QString &path) const;
+    void rememberPages(const QString &path, QWidget *view);
     void arrive(const Destination &destination);
     void arriveAtOverview();
     void openPane(const QString &request);

@@ -3,6 +3,7 @@
 #include "BusRecorder.h"
 #include "KeyPress.h"
 #include "OpenAlert.h"
+#include "PaneBundle.h"
 #include "Wait.h"
 #include "host/SettingsApplication.h"
 #include "platform/appkit/controls/Controls.h"
@@ -79,7 +80,8 @@ protected:
     bool isOn(const QString &page) { return host.window()->windowTitle() == page; }
 
     const QString pane = qEnvironmentVariable("LUMAROO_BUILD") + "/Lumaroo.prefPane";
-    SettingsApplication host{{QFileInfo(pane).path()}};
+    const PaneBundle other{"Other"};
+    SettingsApplication host{{QFileInfo(pane).path(), other.folder()}};
     QVariantMap before;
 };
 

@@ -39,7 +39,7 @@ protected:
 TEST_F(AnInstalledPrefix, startsFromThereWithItsOwnLibraries)
 {
     HostProgram host(command(), {}, QProcessEnvironment::systemEnvironment(), "/");
-    ASSERT_TRUE(waitUntil([] { return openWindowTitles().contains("Settings"); }));
+    ASSERT_TRUE(waitUntil([] { return openWindowTitles().contains("Lumaroo"); }));
     const QStringList maps = linesOf(QString("/proc/%1/maps").arg(host.processId()));
     const QStringList libraries = maps.filter("liblumaroo-");
     EXPECT_FALSE(libraries.isEmpty());

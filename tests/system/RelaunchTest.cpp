@@ -4,6 +4,7 @@
 #include "InstalledProduct.h"
 #include "KTXConstants.h"
 #include "KeyPress.h"
+#include "PaneBundle.h"
 #include "RunningPrograms.h"
 #include "Wait.h"
 
@@ -80,6 +81,8 @@ TEST_F(Relaunch, anAgentThatReplacedItselfBringsTheSettingsBackToo)
 
 TEST_F(Relaunch, aHigherVersionPutInPlaceBeforeThePaneIsOpenedBringsTheSettingsBack)
 {
+    const PaneBundle other("Other");
+    ASSERT_TRUE(QFile::link(other.path(), QFileInfo(pane()).path() + "/Other.prefPane"));
     startSettings({}, QStringLiteral("Settings"));
     const pid_t before = pid_t(settings->processId());
     install(newVersion);
