@@ -36,7 +36,7 @@ protected:
         EXPECT_TRUE(agents().isEmpty());
     }
 
-    QColor stateColor() { return control("enabledState")->palette().color(QPalette::WindowText); }
+    QColor stateColor() { return textColor(control("enabledState")); }
 };
 
 } // namespace

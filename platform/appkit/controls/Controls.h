@@ -39,10 +39,14 @@ LM_APPKIT void setEnabled(QObject *control, bool enabled);
 LM_APPKIT bool isHidden(const QObject *view);
 LM_APPKIT void setHidden(QObject *view, bool hidden);
 
-/// Text and background colours; where one is named the other is set to go with it, so that both themes read well. A
-/// text colour that does not read on its control is lightened or darkened until it does.
+/// Text and background colours; with a background the text is set to go with it. Black, white and red are names, by
+/// which both themes read well: they are drawn as the palette's text, the ground of fields and a red that reads. Any
+/// other background is drawn as it is, any other text colour lightened or darkened until it reads.
 LM_APPKIT void setTextColor(QObject *control, const QColor &color);
 LM_APPKIT void setBackgroundColor(QObject *control, const QColor &color);
+/// The colours that were set last, also where others are drawn for them; before that, those that are shown.
+LM_APPKIT QColor textColor(const QObject *control);
+LM_APPKIT QColor backgroundColor(const QObject *control);
 
 /// The item of a pop-up with a tag; a tag that no item has leaves the selection as it is. Returns whether an item was
 /// selected.
