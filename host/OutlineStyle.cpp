@@ -119,5 +119,7 @@ int OutlineStyle::styleHint(
     // Our alerts have none. The colour panel's dialog would search the icon themes for those of its hidden buttons.
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
         return 0;
+    if (hint == SH_TabBar_Alignment && widget && widget->inherits("PageTabBar"))
+        return Qt::AlignCenter;
     return QProxyStyle::styleHint(hint, option, widget, returnData);
 }

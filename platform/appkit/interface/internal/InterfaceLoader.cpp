@@ -1,14 +1,19 @@
 #include "platform/appkit/interface/internal/InterfaceLoader.h"
 
 #include "platform/appkit/colors/NSColorWell.h"
+#include "platform/appkit/controls/CardView.h"
+#include "platform/appkit/controls/ColumnPage.h"
 #include "platform/appkit/controls/ConflictMarker.h"
 #include "platform/appkit/controls/FloatSlider.h"
 #include "platform/appkit/controls/HeldKeyMarker.h"
+#include "platform/appkit/controls/KeyCapsLine.h"
 #include "platform/appkit/controls/NSMatrix.h"
 #include "platform/appkit/controls/NSProgressIndicator.h"
 #include "platform/appkit/controls/NSSwitch.h"
 #include "platform/appkit/controls/NSTextView.h"
+#include "platform/appkit/controls/PageTabView.h"
 #include "platform/appkit/controls/StyledLabel.h"
+#include "platform/appkit/controls/WindowsPicture.h"
 #include "platform/appkit/interface/internal/InterfaceText.h"
 #include "platform/appkit/web/WebView.h"
 #include "platform/foundation/bundles/NSBundle.h"
@@ -35,6 +40,11 @@ WidgetMaker ownClass(const QString &className)
         {QStringLiteral("NSMatrix"), &make<NSMatrix>},
         {QStringLiteral("NSColorWell"), &make<NSColorWell>},
         {QStringLiteral("FloatSlider"), &make<FloatSlider>},
+        {QStringLiteral("CardView"), &make<CardView>},
+        {QStringLiteral("KeyCapsLine"), &make<KeyCapsLine>},
+        {QStringLiteral("WindowsPicture"), &make<WindowsPicture>},
+        {QStringLiteral("ColumnPage"), &make<ColumnPage>},
+        {QStringLiteral("PageTabView"), &make<PageTabView>},
         {QStringLiteral("ConflictMarker"), &make<ConflictMarker>},
         {QStringLiteral("HeldKeyMarker"), &make<HeldKeyMarker>},
         {QStringLiteral("NSSwitch"), &make<NSSwitch>},

@@ -1,0 +1,54 @@
+#include "platform/appkit/controls/ColumnPage.h"
+
+#include <QBoxLayout>
+#include <QEvent>
+
+namespace {
+
+constexpr int widestColumn = 720 + 2 * 24; // with its margins
+constexpr int leastSideBySide = 700;
+constexpr QSize comfortableSize(widestColumn, 530);
+
+} // namespace
+
+ColumnPage::ColumnPage(QWidget *parent) : QScrollArea(parent)
+{
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidgetResizable(true);
+    setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    viewport()->setAutoFillBackground(false);
+}
+
+QSize ColumnPage::sizeHint() const
+{
+    return comfortableSize;
+}
+
+bool ColumnPage::event(QEvent *event)
+{
+    if (event->type() == QEvent::Polish)
+        fitColumn();
+    return QScrollArea::event(event);
+}
+
+void ColumnPage::resizeEvent(QResizeEvent *event)
+{
+    turnSideBySide();
+    QScrollArea::resizeEvent(event);
+}
+
+void ColumnPage::turnSideBySide()
+{
+    auto *layout = widget() && !sideBySide_.isEmpty() ? widget()->findChild<QBoxLayout *>(sideBySide_) : nullptr;
+    if (layout)
+        layout->setDirection(width() < leastSideBySide ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+}
+
+void ColumnPage::fitColumn()
+{
+    if (!widget())
+        return;
+    widget()->setMaximumWidth(widestColumn);
+    widget()->setAutoFillBackground(false);
+}
