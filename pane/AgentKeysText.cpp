@@ -3,6 +3,7 @@
 #include "KTXActionKeys.h"
 #include "KTXAgentAnswer.h"
 #include "KTXConstants.h"
+#include "KTXModifiers.h"
 #include "KeyCodeTranslator.h"
 #include "platform/foundation/bundles/NSBundle.h"
 
@@ -17,6 +18,9 @@ public:
     Words(const AgentKeys &keys, const NSBundle *bundle) : keys_(keys), bundle_(bundle) { }
 
     QString press() const;
+    QString pressSentence() const;
+    QStringList modifierNames() const;
+    QStringList arrows() const;
     QString state() const;
     QString held() const;
     QString offer() const;
@@ -35,14 +39,13 @@ private:
     {
         return KeyCodeTranslator::stringForKeyCodeWithModifierFlags(key.keyCode, 0).toUpper();
     }
-    QString arrows() const;
 
     const AgentKeys &keys_;
     const NSBundle *bundle_;
 };
 
 /// The keys of the four directions, as they are read.
-QString Words::arrows() const
+QStringList Words::arrows() const
 {
     QStringList names;
     for (const QString &action : {KTXLeftPref, KTXRightPref, KTXUpPref, KTXDownPref}) {
@@ -51,16 +54,40 @@ QString Words::arrows() const
             all.cbegin(), all.cend(), [&action](const KTXActionKey &one) { return one.preferenceName == action; });
         names.append(nameOf(keys_.keys.at(place - all.cbegin())));
     }
-    return names.join(u' ');
+    return names;
+}
+
+/// The modifiers as the page of the keys calls them.
+QStringList Words::modifierNames() const
+{
+    struct Modifier
+    {
+        quint32 mask;
+        const char *name;
+    };
+    const Modifier modifiers[] = {{KTXShiftModifier, "⇧ Sh&ift"}, {KTXControlModifier, "⌃ &Control"},
+        {KTXOptionModifier, "⌥ A&lt"}, {KTXCommandModifier, "⌘ Sup&er"}};
+    QStringList names;
+    for (const auto &[mask, name] : modifiers) {
+        const QString text = QString::fromUtf8(name);
+        if (keys_.modifiers & mask)
+            names.append(
+                bundle_->localizedStringForKeyValueTable(text, text, QStringLiteral("LumarooPref")).remove(u'&'));
+    }
+    return names;
+}
+
+QString Words::pressSentence() const
+{
+    if (keys_.modifiers == 0 || isCauseOfAny(KTXCauseNoHotKeys) || isCauseOfAny(KTXCauseGivenUp))
+        return {};
+    return localized(isCauseOfAny(KTXCauseDoublePressAlone) ? "Press %1 twice, then press %2" : "Hold %1 and press %2");
 }
 
 QString Words::press() const
 {
-    if (keys_.modifiers == 0 || isCauseOfAny(KTXCauseNoHotKeys) || isCauseOfAny(KTXCauseGivenUp))
-        return {};
-    const char *const text =
-        isCauseOfAny(KTXCauseDoublePressAlone) ? "Press %1 twice, then press %2" : "Hold %1 and press %2";
-    return localized(text).arg(modifierGlyphs(keys_.modifiers), arrows());
+    const QString sentence = pressSentence();
+    return sentence.isEmpty() ? QString() : sentence.arg(modifierGlyphs(keys_.modifiers), arrows().join(u' '));
 }
 
 QString Words::state() const
@@ -113,5 +140,6 @@ AgentKeysText agentKeysText(const AgentKeys &keys, const NSBundle *bundle)
     if (!keys.isKnown())
         return {};
     const Words words(keys, bundle);
-    return {words.press(), words.state(), words.held(), words.offer()};
+    return {words.press(), words.pressSentence(), words.modifierNames(), words.arrows(), words.state(), words.held(),
+        words.offer()};
 }

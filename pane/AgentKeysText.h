@@ -8,6 +8,9 @@ class NSBundle;
 struct AgentKeysText
 {
     QString press; ///< what to do now, with the keys that are set
+    QString pressSentence; ///< the same, with %1 for the modifiers and %2 for the keys
+    QStringList modifierNames; ///< with their signs, as on key caps
+    QStringList keyNames;
     QString state; ///< whether the keys work
     QString held; ///< which are other programs'
     QString offer; ///< what the button says that takes other modifiers

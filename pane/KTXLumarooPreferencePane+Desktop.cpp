@@ -2,12 +2,30 @@
 
 #include "KTXLoginEntry.h"
 #include "pane/PaneDesktop.h"
+#include "platform/foundation/Boundary.h"
 
 // What this desktop adds to the pane: what really comes of the keys, and the start at login.
 
 void KTXLumarooPreferencePane::followDesktop()
 {
     desktop_ = new PaneDesktop(mainView(), bundle(), this);
+    connect(&desktop_->presence(), &AgentPresence::ended, this,
+        [this] { runAtBoundary("setAgentVisualsOff", [this] { setAgentVisualsOff(); }); });
+}
+
+/// As toggleAgent, and the line below the switch tells of a start that comes to nothing.
+void KTXLumarooPreferencePane::toggleAgentAndTell(QObject *sender)
+{
+    const bool isStart = desktop_ && state(sender) == NSOnState;
+    try {
+        toggleAgent(sender);
+    } catch (...) {
+        if (isStart)
+            desktop_->presence().missStart();
+        throw;
+    }
+    if (isStart)
+        desktop_->presence().expectStart();
 }
 
 /// As by the check boxes, in one change: the agent is to know no modifiers that nobody chose.

@@ -57,7 +57,7 @@ QList<OutletEntry> KTXLumarooPreferencePane::outlets()
 QList<ActionEntry> KTXLumarooPreferencePane::actions()
 {
     return {
-        {QStringLiteral("toggleAgent:"), [this](QObject *sender) { toggleAgent(sender); }},
+        {QStringLiteral("toggleAgent:"), [this](QObject *sender) { toggleAgentAndTell(sender); }},
         {QStringLiteral("updateModifierStates:"), [this](QObject *sender) { updateModifierStates(sender); }},
         {QStringLiteral("updateButtonStates:"), [this](QObject *sender) { updateButtonStates(sender); }},
         {QStringLiteral("enableChecked:"), [this](QObject *sender) { enableChecked(sender); }},

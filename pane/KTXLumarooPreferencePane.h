@@ -11,7 +11,6 @@
 #include "platform/foundation/processes/ProcessSerialNumber.h"
 
 class NSAlert;
-class PaneDesktop;
 class SUUpdater;
 
 /// The settings pane. Each control edits one key of the agent's settings domain, which is then flushed and announced.
@@ -136,6 +135,7 @@ private:
     void activateByDoubleClick(QObject *checkBox);
     void storeSelectedItem(QObject *popUp);
     void followDesktop();
+    void toggleAgentAndTell(QObject *sender);
     void useFreeModifiers();
     void toggleStartAtLogin(QObject *sender);
 
@@ -146,5 +146,5 @@ private:
     QStringList keyCodePrefNames_;
     KeyCodeTable defaultKeyCodes_, keyCodes_;
     ProcessSerialNumber agentPSN_;
-    PaneDesktop *desktop_ = nullptr;
+    class PaneDesktop *desktop_ = nullptr;
 };

@@ -3,23 +3,86 @@
 #include "KTXLoginEntry.h"
 #include "pane/Controls.h"
 #include "platform/appkit/controls/HeldKeyMarker.h"
+#include "platform/appkit/controls/KeyCapsLine.h"
+#include "platform/appkit/controls/WindowsPicture.h"
 #include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/system/NSLog.h"
+
+#include <QEvent>
+#include <QHash>
 
 PaneDesktop::PaneDesktop(QWidget *view, const NSBundle *bundle, QObject *parent)
     : QObject(parent), view_(view), bundle_(bundle)
 {
     connect(&agent_, &AgentWatch::told, this, &PaneDesktop::showKeys);
+    connect(&presence_, &AgentPresence::changed, this, &PaneDesktop::showPresence);
     connect(&loginEntry_, &LoginEntryWatch::changed, this, &PaneDesktop::showStartAtLogin);
     showKeys({});
     showStartAtLogin();
+    showPresence();
+    showFrameColor();
+    for (const char *name : {"overlayColorWell", "windowsPicture"}) {
+        if (QWidget *seen = control(name))
+            seen->installEventFilter(this);
+    }
+}
+
+/// The picture has the colour that the well has when either comes up; a well that is given another one draws itself.
+bool PaneDesktop::eventFilter(QObject *object, QEvent *event)
+{
+    const bool isOfWell = object != control("windowsPicture");
+    if (event->type() == QEvent::Show || (isOfWell && event->type() == QEvent::Paint))
+        showFrameColor();
+    return QObject::eventFilter(object, event);
+}
+
+void PaneDesktop::showFrameColor()
+{
+    if (auto *picture = qobject_cast<WindowsPicture *>(control("windowsPicture")))
+        picture->setFrameColor(color(control("overlayColorWell")));
+}
+
+void PaneDesktop::showPress(const AgentKeysText &text)
+{
+    setStringValue(control("pressNowField"), text.press);
+    QStringList spoken = text.modifierNames;
+    for (QString &name : spoken)
+        name = name.section(u' ', 1);
+    if (auto *line = qobject_cast<KeyCapsLine *>(control("pressNowField"))) {
+        line->setSentence(text.pressSentence, {text.modifierNames, text.keyNames},
+            text.pressSentence.isEmpty() ? QString()
+                                         : text.pressSentence.arg(spoken.join(u' '), text.keyNames.join(u' ')));
+    }
+}
+
+QString PaneDesktop::localized(const char *text) const
+{
+    return bundle_->localizedStringForKeyValueTable(QString::fromUtf8(text), {}, {});
+}
+
+void PaneDesktop::showPresence()
+{
+    static const QHash<AgentPresence::State, const char *> sentences{
+        {AgentPresence::Unknown, "Turn &Lumaroo on with this switch."},
+        {AgentPresence::Off, "Turn &Lumaroo on with this switch."},
+        {AgentPresence::Runs, "&Lumaroo runs in the background. It stays on when you close this window."},
+        {AgentPresence::Ended,
+            "&Lumaroo has ended by itself: it crashed or was stopped. Turn it on again with this switch."},
+        {AgentPresence::CannotStart,
+            "&Lumaroo could not be started. Install it again, then turn it on with this switch."}};
+    const bool isRemoved =
+        bundle_->pathForResourceOfType(QStringLiteral("LumarooAgent"), QStringLiteral("app")).isEmpty();
+    const bool runs = presence_.state() == AgentPresence::Runs;
+    setStringValue(control("stateHint"),
+        localized(isRemoved && !runs ? "&Lumaroo was removed from this computer. Install it again to turn it on."
+                                     : sentences.value(presence_.state())));
 }
 
 void PaneDesktop::showKeys(const AgentKeys &keys)
 {
     keys_ = keys;
     const AgentKeysText text = agentKeysText(keys, bundle_);
-    setStringValue(control("pressNowField"), text.press);
+    showPress(text);
     setStringValue(control("keysStateField"), text.state);
     setStringValue(control("heldKeysField"), text.held);
     // An assistive tool reads a text that is not there as well.

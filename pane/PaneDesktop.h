@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pane/AgentKeysText.h"
+#include "pane/AgentPresence.h"
 #include "pane/AgentWatch.h"
 #include "pane/LoginEntryWatch.h"
 
@@ -22,16 +23,24 @@ public:
     /// Has the desktop start the agent of the bundle at login, or not. False where that failed, which is logged; the
     /// check box shows what holds then.
     bool setStartsAtLogin(bool on);
+    /// Whether the agent is there, to be told of its start.
+    AgentPresence &presence() { return presence_; }
 
 private:
     void showKeys(const AgentKeys &keys);
     void showMarkers(const QString &reason);
     void showStartAtLogin();
+    void showPress(const AgentKeysText &text);
+    void showPresence();
+    void showFrameColor();
+    QString localized(const char *text) const;
+    bool eventFilter(QObject *object, QEvent *event) override;
     QWidget *control(const char *name) const;
 
     QPointer<QWidget> view_;
     const NSBundle *bundle_;
     AgentKeys keys_;
     AgentWatch agent_;
+    AgentPresence presence_;
     LoginEntryWatch loginEntry_;
 };

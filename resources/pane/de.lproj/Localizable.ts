@@ -84,6 +84,26 @@
         <translation>Lumaroo ist vorerst aus. Das Menü seines Symbols in der Leiste schaltet es wieder ein.</translation>
     </message>
     <message>
+        <source>Turn &amp;Lumaroo on with this switch.</source>
+        <translation>Schalten Sie &amp;Lumaroo mit diesem Schalter ein.</translation>
+    </message>
+    <message>
+        <source>&amp;Lumaroo runs in the background. It stays on when you close this window.</source>
+        <translation>&amp;Lumaroo läuft im Hintergrund. Es bleibt eingeschaltet, wenn Sie dieses Fenster schließen.</translation>
+    </message>
+    <message>
+        <source>&amp;Lumaroo has ended by itself: it crashed or was stopped. Turn it on again with this switch.</source>
+        <translation>&amp;Lumaroo wurde unerwartet beendet. Schalten Sie es mit diesem Schalter wieder ein.</translation>
+    </message>
+    <message>
+        <source>&amp;Lumaroo could not be started. Install it again, then turn it on with this switch.</source>
+        <translation>&amp;Lumaroo ließ sich nicht starten. Installieren Sie es neu und schalten Sie es mit diesem Schalter ein.</translation>
+    </message>
+    <message>
+        <source>&amp;Lumaroo was removed from this computer. Install it again to turn it on.</source>
+        <translation>&amp;Lumaroo wurde von diesem Rechner entfernt. Installieren Sie es neu, um es einzuschalten.</translation>
+    </message>
+    <message>
         <source>All keys work.</source>
         <translation>Alle Tasten wirken.</translation>
     </message>
