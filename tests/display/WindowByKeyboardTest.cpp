@@ -8,6 +8,7 @@
 #include <QAccessible>
 #include <QLabel>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QTextBrowser>
 #include <QToolButton>
@@ -112,7 +113,8 @@ TEST_P(TheWindowIn, goesDownAPageByTab)
         int lowest = 0;
         for (const std::string &stop : tabOrder(tabbedView)) {
             const auto *control = window.find(QString::fromStdString(stop));
-            const int middle = control->mapTo(window.root(), control->rect().center()).y();
+            const QWidget *column = qobject_cast<const QScrollArea *>(window.page(index))->widget();
+            const int middle = control->mapTo(column, control->rect().center()).y();
             EXPECT_GT(middle, lowest - rowHeight) << stop;
             lowest = std::max(lowest, middle);
         }

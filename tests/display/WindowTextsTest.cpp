@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QStyle>
 #include <QTabWidget>
 #include <QXmlStreamReader>
@@ -89,14 +90,17 @@ void expectNothingClipped(const LoadedWindow &window)
 {
     for (int index = 0; index < pages; ++index) {
         window.showPage(index);
-        for (const QWidget *widget : window.page(index)->findChildren<QWidget *>()) {
+        const auto *page = qobject_cast<const QScrollArea *>(window.page(index));
+        const QWidget *column = page->widget();
+        EXPECT_LE(column->width(), page->viewport()->width()) << "it scrolls up and down only";
+        for (const QWidget *widget : column->findChildren<QWidget *>()) {
             if (!showsText(widget))
                 continue;
             const QSize needed = neededSize(widget);
             EXPECT_GE(widget->width(), needed.width()) << widget->objectName().toStdString();
             EXPECT_GE(widget->height(), needed.height()) << widget->objectName().toStdString();
-            const QRect place(widget->mapTo(window.page(index), QPoint()), widget->size());
-            EXPECT_TRUE(window.page(index)->rect().contains(place)) << widget->objectName().toStdString();
+            const QRect place(widget->mapTo(column, QPoint()), widget->size());
+            EXPECT_TRUE(column->rect().contains(place)) << widget->objectName().toStdString();
         }
     }
 }

@@ -127,6 +127,14 @@ void minimise(quint32 window)
     tellWindowManager(window, "WM_CHANGE_STATE", iconicState);
 }
 
+void maximise(quint32 window)
+{
+    constexpr quint32 add = 1;
+    sendToWindowManager(connection(), window, "_NET_WM_STATE",
+        {add, displayAtom(connection(), "_NET_WM_STATE_MAXIMIZED_HORZ"),
+            displayAtom(connection(), "_NET_WM_STATE_MAXIMIZED_VERT")});
+}
+
 QStringList windowStates(quint32 window)
 {
     QStringList names;

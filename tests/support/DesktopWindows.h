@@ -28,6 +28,8 @@ void askToClose(quint32 window);
 void turnToWindow(quint32 window);
 /// Minimises a window, as its frame's button does.
 void minimise(quint32 window);
+/// Has a window fill the screen, as its frame's button does.
+void maximise(quint32 window);
 /// What the window manager says of a window, as "_NET_WM_STATE_HIDDEN".
 QStringList windowStates(quint32 window);
 /// All windows that the window manager has taken over, the oldest first.

@@ -468,6 +468,10 @@
         <translation>Copyright © 2026 Die Entwickler von Lumaroo</translation>
     </message>
     <message>
+        <source>colour</source>
+        <translation>Farbe color</translation>
+    </message>
+    <message>
         <source>More help</source>
         <translation>Weitere Hilfe</translation>
     </message>
