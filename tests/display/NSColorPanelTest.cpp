@@ -130,6 +130,19 @@ TEST_F(TheColorPanel, standsBesideAWindowCentredOnIt)
     EXPECT_NEAR(shown.center().y(), realFrame(&host).center().y(), 1);
 }
 
+TEST_F(TheColorPanel, openedFromAWellComesWhollyIntoSightWithTheIconOfTheWindow)
+{
+    QPixmap red(16, 16);
+    red.fill(Qt::red);
+    host.setWindowIcon(QIcon(red));
+    NSColorWell well(&host);
+    panel->setFrameOrigin({5000, -700});
+    panel->orderFrontForWell(&well);
+    const QRect screen(QPoint(), host.screen()->size());
+    EXPECT_TRUE(waitUntil([&] { return screen.contains(realFrame(panel->window())); }));
+    EXPECT_EQ(panel->window()->windowIcon().cacheKey(), host.windowIcon().cacheKey());
+}
+
 TEST_F(TheColorPanel, letsTheHostWorkOnWhileItIsOpen)
 {
     show();

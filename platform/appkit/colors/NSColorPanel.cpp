@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QSignalBlocker>
 #include <QWindow>
+#include <algorithm>
 
 namespace {
 
@@ -128,6 +129,21 @@ void NSColorPanel::windowIsOnScreen()
     // What the window manager draws around the panel may have been a guess until now.
     if (originWhileHidden_)
         setFrameOrigin(*std::exchange(originWhileHidden_, std::nullopt));
+    bringIntoSight();
+}
+
+/// The place beside a window that fills the screen, or stands at its right edge, is beyond the screen.
+void NSColorPanel::bringIntoSight()
+{
+    if (!activeWell_ || !windowsCanBePlaced())
+        return;
+    const QRect room = activeWell_->screen()->availableGeometry();
+    const QMargins margins = frameMargins();
+    QRect frame = window_->geometry() + margins;
+    frame.moveRight(std::min(frame.right(), room.right()));
+    frame.moveBottom(std::min(frame.bottom(), room.bottom()));
+    frame.moveTopLeft({std::max(frame.left(), room.left()), std::max(frame.top(), room.top())});
+    window_->setGeometry(frame - margins);
 }
 
 void NSColorPanel::orderFrontForWell(NSColorWell *well)
@@ -137,6 +153,7 @@ void NSColorPanel::orderFrontForWell(NSColorWell *well)
     if (before)
         before->update();
     well->update();
+    window_->setWindowIcon(well->window()->windowIcon());
     window_->show();
     window_->raise();
     window_->activateWindow();

@@ -36,7 +36,8 @@ public:
     /// The panel's window.
     QColorDialog *window() const { return window_; }
 
-    /// Shows the panel; what the user picks in it goes to this well from now on.
+    /// Shows the panel, wholly on the screen of the well and with the icon of the well's window; what the user picks in
+    /// it goes to this well from now on.
     void orderFrontForWell(NSColorWell *well);
     /// The well that the panel edits, or null while it is closed. Makes no panel where there is none yet.
     static NSColorWell *activeWell();
@@ -51,6 +52,7 @@ private:
     static NSColorPanel *&instance();
     QMargins frameMargins() const;
     void windowIsOnScreen();
+    void bringIntoSight();
     void showColor(const NSColorRef &color);
     void giveColorToWell(const QColor &color);
     void letGoOfWell();
