@@ -4,7 +4,6 @@
 #include "pane/Controls.h"
 #include "platform/appkit/controls/HeldKeyMarker.h"
 #include "platform/appkit/controls/KeyCapsLine.h"
-#include "platform/appkit/controls/WindowsPicture.h"
 #include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/system/NSLog.h"
 
@@ -20,26 +19,27 @@ PaneDesktop::PaneDesktop(QWidget *view, const NSBundle *bundle, QObject *parent)
     showKeys({});
     showStartAtLogin();
     showPresence();
-    showFrameColor();
-    for (const char *name : {"overlayColorWell", "windowsPicture"}) {
-        if (QWidget *seen = control(name))
-            seen->installEventFilter(this);
-    }
+    followFrameColor();
 }
 
 /// The picture has the colour that the well has when either comes up; a well that is given another one draws itself.
-bool PaneDesktop::eventFilter(QObject *object, QEvent *event)
+void PaneDesktop::followFrameColor()
 {
-    const bool isOfWell = object != control("windowsPicture");
-    if (event->type() == QEvent::Show || (isOfWell && event->type() == QEvent::Paint))
-        showFrameColor();
-    return QObject::eventFilter(object, event);
+    well_ = control("overlayColorWell");
+    picture_ = qobject_cast<WindowsPicture *>(control("windowsPicture"));
+    if (!well_ || !picture_)
+        return;
+    well_->installEventFilter(this);
+    picture_->installEventFilter(this);
+    picture_->setFrameColor(color(well_));
 }
 
-void PaneDesktop::showFrameColor()
+bool PaneDesktop::eventFilter(QObject *object, QEvent *event)
 {
-    if (auto *picture = qobject_cast<WindowsPicture *>(control("windowsPicture")))
-        picture->setFrameColor(color(control("overlayColorWell")));
+    const bool comesUp = event->type() == QEvent::Show || (object == well_ && event->type() == QEvent::Paint);
+    if (comesUp && well_ && picture_)
+        picture_->setFrameColor(color(well_));
+    return QObject::eventFilter(object, event);
 }
 
 void PaneDesktop::showPress(const AgentKeysText &text)

@@ -4,6 +4,7 @@
 #include "pane/AgentPresence.h"
 #include "pane/AgentWatch.h"
 #include "pane/LoginEntryWatch.h"
+#include "platform/appkit/controls/WindowsPicture.h"
 
 #include <QPointer>
 
@@ -32,12 +33,14 @@ private:
     void showStartAtLogin();
     void showPress(const AgentKeysText &text);
     void showPresence();
-    void showFrameColor();
+    void followFrameColor();
     QString localized(const char *text) const;
     bool eventFilter(QObject *object, QEvent *event) override;
     QWidget *control(const char *name) const;
 
     QPointer<QWidget> view_;
+    QPointer<QWidget> well_;
+    QPointer<WindowsPicture> picture_;
     const NSBundle *bundle_;
     AgentKeys keys_;
     AgentWatch agent_;
