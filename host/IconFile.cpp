@@ -50,6 +50,8 @@ QIcon picturesWithin(const QByteArray &icons)
 
 QIcon iconFromFile(const QString &path)
 {
+    if (path.isEmpty())
+        return {};
     QFile file(path);
     if (file.open(QIODevice::ReadOnly) && file.size() <= largestFile && file.peek(4) == "icns") {
         const QIcon icon = picturesWithin(file.readAll());

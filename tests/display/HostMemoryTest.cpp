@@ -95,7 +95,7 @@ TEST_F(AHostThatRanBefore, takesNoNoticeOfNonsenseInItsState)
         NSUserDefaults::standardUserDefaults()->setPersistentDomainForName(state, HostState::domain);
         SettingsApplication host(folders);
         host.start(QString());
-        EXPECT_GE(host.window()->height(), 300);
+        EXPECT_GE(host.window()->height(), 280);
         EXPECT_LE(host.window()->width(), host.window()->screen()->availableSize().width());
     }
 }

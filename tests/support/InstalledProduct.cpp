@@ -42,6 +42,7 @@ InstalledProduct::InstalledProduct()
     pane_ = QDir(panes).canonicalPath() + QStringLiteral("/Lumaroo.prefPane");
     QFile::remove(settingsFile());
     NSUserDefaults::standardUserDefaults()->setPersistentDomainForName({}, KTXLMAppID);
+    SettingsProgram::forgetWhatWasSeen();
     letNotesBeSeen();
 }
 

@@ -2,6 +2,8 @@
 
 #include "Wait.h"
 
+#include "platform/foundation/preferences/NSUserDefaults.h"
+
 namespace {
 
 constexpr int picturesUntilSettled = 8; // taken 10 ms or more apart
@@ -18,6 +20,12 @@ SettingsProgram::SettingsProgram(const QStringList &arguments) : HostProgram(arg
 QString SettingsProgram::builtPane()
 {
     return qEnvironmentVariable("LUMAROO_BUILD") + QStringLiteral("/Lumaroo.prefPane");
+}
+
+void SettingsProgram::forgetWhatWasSeen()
+{
+    NSUserDefaults::standardUserDefaults()->setPersistentDomainForName(
+        {}, QStringLiteral("com.apple.systempreferences"));
 }
 
 bool SettingsProgram::waitForWindows(int count) const

@@ -11,6 +11,8 @@ public:
     explicit SettingsProgram(const QStringList &arguments = {builtPane()});
 
     static QString builtPane();
+    /// From now on they open as ones that were never used: with the first page, of the usual size.
+    static void forgetWhatWasSeen();
 
     QList<DesktopWindow> windows() const { return desktopWindowsOfProcess(processId()); }
     /// Waits until it shows `count` windows and the newest has the focus; false when that does not come about.

@@ -125,8 +125,8 @@ TEST_F(AgentByUser, theSwitchTurnsTheAgentOffAndOnAgainByMouse)
     ASSERT_TRUE(agentEnds());
     const QRect place = placeOfState(whileOn, settings->pictureAfterChangeFrom(whileOn));
     ASSERT_FALSE(place.isEmpty());
-    // The switch stands before the line.
-    const QPoint onSwitch(place.left() + place.height() / 2, place.center().y());
+    // The switch stands at the end of the line.
+    const QPoint onSwitch(place.right() - place.height() / 2, place.center().y());
     const QPoint onScreen = onSwitch + settings->windows().first().position;
     bus.clear();
     clickAt(onScreen);

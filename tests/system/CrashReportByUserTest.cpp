@@ -2,6 +2,7 @@
 // it.
 
 #include "CrashReportByUser.h"
+#include "PaneBundle.h"
 #include "ReportServer.h"
 
 TEST_F(CrashReportByUser, aCrashLeavesALogThatNamesThePane)
@@ -104,6 +105,9 @@ TEST_F(CrashReportByUser, aCrashWithoutThePaneIsNotOffered)
     open();
     ASSERT_TRUE(settings->waitForWindows(1));
     quit();
+    // With another pane beside it they open none by themselves.
+    const PaneBundle other("Other");
+    ASSERT_TRUE(QFile::link(other.path(), QFileInfo(pane()).path() + "/Other.prefPane"));
     settings = std::make_unique<SettingsProgram>(QStringList());
     ASSERT_TRUE(waitUntil([this] { return !settings->windows().isEmpty(); }));
     settings->signal(SIGABRT);

@@ -90,6 +90,9 @@ TEST_F(AnInstalledPrefix, speaksGermanFromThere)
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("LANGUAGE", "de");
     environment.insert("LANG", "de_DE.UTF-8");
+    // Where there are several panes, the settings show them all under their own name.
+    const PaneBundle other("Other");
+    run("cp", {"-r", other.path(), prefix + "/lib/lumaroo/PreferencePanes"});
     HostProgram host(command(), {}, environment, "/");
     EXPECT_TRUE(waitUntil([] { return openWindowTitles().contains("Einstellungen"); }));
 }

@@ -22,7 +22,11 @@ constexpr int onlyAlt = 0x800;
 class PaneSheet : public testing::Test
 {
 protected:
-    PaneSheet() { NSUserDefaults::standardUserDefaults()->setPersistentDomainForName(start_, KTXLMAppID); }
+    PaneSheet()
+    {
+        NSUserDefaults::standardUserDefaults()->setPersistentDomainForName(start_, KTXLMAppID);
+        SettingsProgram::forgetWhatWasSeen();
+    }
     ~PaneSheet() override { NSUserDefaults::standardUserDefaults()->setPersistentDomainForName({}, KTXLMAppID); }
 
     static QVariantMap domain() { return NSUserDefaults::standardUserDefaults()->persistentDomainForName(KTXLMAppID); }

@@ -15,7 +15,7 @@ namespace {
 
 constexpr quint16 controlAndAlt = XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1;
 constexpr int tabsToTheOffer = 18, newVersion = 200;
-const QString whatToPress = QStringLiteral("Hold ⌃⌥ and press ← → ↑ ↓");
+const QString whatToPress = QStringLiteral("Hold Control Alt and press ← → ↑ ↓");
 const QString leftIsHeld = QStringLiteral("⌃⌥← is used by another program. Lumaroo cannot take it.");
 
 class PaneTellsByUser : public ProductOnHotKeyPage
@@ -54,7 +54,7 @@ TEST_F(PaneTellsByUser, namesAHeldKeyAndTakesTheModifiersThatItOffers)
     pressKey(KEY_SPACE);
     EXPECT_TRUE(waitUntil([] { return domain().value(KTXModifierMask) == QVariant(0x1100); }));
     EXPECT_TRUE(tellsNoMore(leftIsHeld));
-    EXPECT_TRUE(tells("Hold ⌃⌘ and press ← → ↑ ↓"));
+    EXPECT_TRUE(tells("Hold Control Super and press ← → ↑ ↓"));
     EXPECT_TRUE(tells("All keys work."));
     quit();
 }

@@ -128,6 +128,7 @@ void walk(const QString &folder, const QStringList &arguments)
     letAnOutsideChangeArrive(settings, folder);
     changeAnOption();
     quit(settings);
+    SettingsProgram::forgetWhatWasSeen();
     SettingsProgram again(withPane);
     require(again.waitForWindows(1), QStringLiteral("the settings open again"));
     giveAKeyByPressingIt(again, folder);
