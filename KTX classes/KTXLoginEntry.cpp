@@ -53,6 +53,7 @@ QByteArray entryFor(const QString &program)
                           "Name=Lumaroo\n"
                           "Comment=Choose and act on windows from the keyboard\n"
                           "Comment[de]=Fenster mit der Tastatur auswählen und bedienen\n"
+                          "Comment[fr]=Choisir des fenêtres et agir sur elles au clavier\n"
                           "Icon=com.quorvane.LumarooSettings\n"
                           "TryExec=%1\n"
                           "Exec=%2\n"
