@@ -54,6 +54,7 @@ QByteArray entryFor(const QString &program)
                           "Comment=Choose and act on windows from the keyboard\n"
                           "Comment[de]=Fenster mit der Tastatur auswählen und bedienen\n"
                           "Comment[fr]=Choisir des fenêtres et agir sur elles au clavier\n"
+                          "Comment[es]=Elegir ventanas y actuar sobre ellas con el teclado\n"
                           "Icon=com.quorvane.LumarooSettings\n"
                           "TryExec=%1\n"
                           "Exec=%2\n"
