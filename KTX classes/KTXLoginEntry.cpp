@@ -55,6 +55,7 @@ QByteArray entryFor(const QString &program)
                           "Comment[de]=Fenster mit der Tastatur auswählen und bedienen\n"
                           "Comment[fr]=Choisir des fenêtres et agir sur elles au clavier\n"
                           "Comment[es]=Elegir ventanas y actuar sobre ellas con el teclado\n"
+                          "Comment[it]=Scegliere le finestre e agire su di esse con la tastiera\n"
                           "Icon=com.quorvane.LumarooSettings\n"
                           "TryExec=%1\n"
                           "Exec=%2\n"
