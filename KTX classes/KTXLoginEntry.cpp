@@ -54,6 +54,7 @@ QByteArray entryFor(const QString &program)
                           "Comment=Choose and act on windows from the keyboard\n"
                           "Comment[pt_BR]=Escolher e controlar janelas com o teclado\n"
                           "Comment[pl]=Wybieranie i obsługa okien za pomocą klawiatury\n"
+                          "Comment[ja]=キーボードでウィンドウを選択して操作します\n"
                           "Comment[de]=Fenster mit der Tastatur auswählen und bedienen\n"
                           "Comment[fr]=Choisir des fenêtres et agir sur elles au clavier\n"
                           "Comment[es]=Elegir ventanas y actuar sobre ellas con el teclado\n"
