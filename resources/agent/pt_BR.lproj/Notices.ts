@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Hold %1 and press %2</source>
-        <translation>Mantenha %1 e pressione %2</translation>
+        <translation>Segure %1 e pressione %2</translation>
     </message>
     <message>
         <source>Press %1 twice, then press %2</source>

@@ -281,7 +281,7 @@
     </message>
     <message>
         <source>Lumaroo then takes no combination from other programs, and always stays active.</source>
-        <translation>この場合、Lumaroo はほかのプログラムのキーの組み合わせを奪わず、常にアクティブなままになります。</translation>
+        <translation>オンにすると、Lumaroo はほかのプログラムのキーの組み合わせを奪わず、常にアクティブなままになります。</translation>
     </message>
     <message>
         <source>Keep Lumaroo active:</source>

@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Checking that it is genuine, and unpacking it</source>
-        <translation>真正性を確認して展開しています</translation>
+        <translation>正規のものか確認し、展開しています</translation>
     </message>
     <message>
         <source>Lumaroo %1 is ready</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>This copy of Lumaroo cannot update itself</source>
-        <translation>この Lumaroo は自動でアップデートできません</translation>
+        <translation>この Lumaroo は自身をアップデートできません</translation>
     </message>
     <message>
         <source>Whoever built it gave it no key to tell genuine updates by. Get new versions from where you got this one.</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>This copy of Lumaroo cannot update itself. Get new versions from where you got this one.</source>
-        <translation>この Lumaroo は自動でアップデートできません。新しいバージョンは、この Lumaroo の入手元から入手してください。</translation>
+        <translation>この Lumaroo は自身をアップデートできません。新しいバージョンは、この Lumaroo の入手元から入手してください。</translation>
     </message>
     <message>
         <source>Lumaroo was installed for everybody who uses this computer: updates come with the system's updates.</source>

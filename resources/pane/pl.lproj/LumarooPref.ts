@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>You see and choose all these keys on the page “Keys”.</source>
-        <translation>Wszystkie te klawisze są widoczne i wybierane na stronie „Klawisze”.</translation>
+        <translation>Wszystkie te klawisze można zobaczyć i wybrać na stronie „Klawisze”.</translation>
     </message>
     <message>
         <source>New to Lumaroo</source>
@@ -209,39 +209,39 @@
     </message>
     <message>
         <source>&amp;Left and right, go by:</source>
-        <translation>W &amp;lewo i w prawo według:</translation>
+        <translation>W &amp;lewo i w prawo liczy się:</translation>
     </message>
     <message>
         <source>First selected window</source>
-        <translation>Pierwszego wybranego okna</translation>
+        <translation>Pierwsze wybrane okno</translation>
     </message>
     <message>
         <source>Left edge</source>
-        <translation>Lewej krawędzi</translation>
+        <translation>Lewa krawędź</translation>
     </message>
     <message>
         <source>Right edge</source>
-        <translation>Prawej krawędzi</translation>
+        <translation>Prawa krawędź</translation>
     </message>
     <message>
         <source>Leading edge</source>
-        <translation>Krawędzi wiodącej</translation>
+        <translation>Krawędź wiodąca</translation>
     </message>
     <message>
         <source>Center</source>
-        <translation>Środka</translation>
+        <translation>Środek</translation>
     </message>
     <message>
         <source>Up and &amp;down, go by:</source>
-        <translation>W górę i w &amp;dół według:</translation>
+        <translation>W górę i w &amp;dół liczy się:</translation>
     </message>
     <message>
         <source>Top edge</source>
-        <translation>Górnej krawędzi</translation>
+        <translation>Górna krawędź</translation>
     </message>
     <message>
         <source>Bottom edge</source>
-        <translation>Dolnej krawędzi</translation>
+        <translation>Dolna krawędź</translation>
     </message>
     <message>
         <source>The key Under &amp;cycles:</source>
@@ -273,7 +273,7 @@
     </message>
     <message>
         <source>Staying active</source>
-        <translation>Pozostawanie aktywnym</translation>
+        <translation>Utrzymywanie aktywności</translation>
     </message>
     <message>
         <source>Acti&amp;vate only by pressing the modifier keys twice</source>
@@ -293,11 +293,11 @@
     </message>
     <message>
         <source>Modi&amp;fier keys pressed twice</source>
-        <translation>Modyfikatory &amp;naciśnięte dwukrotnie</translation>
+        <translation>Po dwóch &amp;naciśnięciach modyfikatorów</translation>
     </message>
     <message>
         <source>M&amp;odifier keys pressed once</source>
-        <translation>&amp;Modyfikatory naciśnięte raz</translation>
+        <translation>Po jednym naciśnięciu &amp;modyfikatorów</translation>
     </message>
     <message>
         <source>An active Lumaroo waits until you choose a window or cancel.</source>

@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>Hold %1 and press %2</source>
-        <translation>Mantenha %1 e pressione %2</translation>
+        <translation>Segure %1 e pressione %2</translation>
     </message>
     <message>
         <source>Press %1 twice, then press %2</source>
@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>Use %1 instead</source>
-        <translation>Usar %1</translation>
+        <translation>Usar %1 em vez disso</translation>
     </message>
     <message>
         <source>Another program uses this key with the modifier keys.</source>

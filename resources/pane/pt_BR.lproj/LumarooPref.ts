@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>Help about turning Lumaroo on</source>
-        <translation>Ajuda sobre ligar o Lumaroo</translation>
+        <translation>Ajuda sobre como ligar o Lumaroo</translation>
     </message>
     <message>
         <source>&amp;Keys</source>

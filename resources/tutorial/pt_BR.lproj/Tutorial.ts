@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Hold %1 and press %2. A frame goes to the next window; let go to be there.</source>
-        <translation>Mantenha %1 e pressione %2. Uma moldura vai para a próxima janela; solte para ficar nela.</translation>
+        <translation>Segure %1 e pressione %2. Uma moldura vai para a próxima janela; solte para ficar nela.</translation>
     </message>
     <message>
         <source>There it is. Now let go of %1.</source>
@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>The triangle is the last in its row. Hold %1 and press %2 once: the frame goes round to the circle. Then let go.</source>
-        <translation>O triângulo é o último da sua fileira. Mantenha %1 e pressione %2 uma vez: a moldura dá a volta até o círculo. Depois solte.</translation>
+        <translation>O triângulo é o último da sua fileira. Segure %1 e pressione %2 uma vez: a moldura dá a volta até o círculo. Depois solte.</translation>
     </message>
     <message>
         <source>Let go of %1 when the frame is around the circle.</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>A star lies under the square. Hold %1 and press %2: the frame goes to what is underneath. Then let go.</source>
-        <translation>Há uma estrela sob o quadrado. Mantenha %1 e pressione %2: a moldura vai para o que está por trás. Depois solte.</translation>
+        <translation>Há uma estrela sob o quadrado. Segure %1 e pressione %2: a moldura vai para o que está por trás. Depois solte.</translation>
     </message>
     <message>
         <source>Let go of %1 when the frame is around the star.</source>
@@ -189,11 +189,11 @@
     </message>
     <message>
         <source>Hold %1 and press %2. Before you let go, press %3: nothing will have changed.</source>
-        <translation>Mantenha %1 e pressione %2. Antes de soltar, pressione %3: tudo fica como estava.</translation>
+        <translation>Segure %1 e pressione %2. Antes de soltar, pressione %3: tudo fica como estava.</translation>
     </message>
     <message>
         <source>Now press %3 while you hold %1.</source>
-        <translation>Agora pressione %3 enquanto mantém %1.</translation>
+        <translation>Agora pressione %3 enquanto segura %1.</translation>
     </message>
     <message>
         <source>Press %1 twice, then %2. Now press %3: nothing will have changed.</source>
@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>Hold %1 and press %2 until the frame is around the triangle. Then press %3, or just let go.</source>
-        <translation>Mantenha %1 e pressione %2 até que a moldura esteja em volta do triângulo. Depois pressione %3 ou simplesmente solte.</translation>
+        <translation>Segure %1 e pressione %2 até que a moldura esteja em volta do triângulo. Depois pressione %3 ou simplesmente solte.</translation>
     </message>
     <message>
         <source>At the triangle, press %3 or let go.</source>
@@ -237,7 +237,7 @@
     </message>
     <message>
         <source>Hold %1 and press %2. That closes the window you are in, here the star.</source>
-        <translation>Mantenha %1 e pressione %2. Isso fecha a janela em que você está, aqui a estrela.</translation>
+        <translation>Segure %1 e pressione %2. Isso fecha a janela em que você está, aqui a estrela.</translation>
     </message>
     <message>
         <source>Let go, and press %2 with %1 in the star.</source>
