@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <algorithm>
@@ -13,10 +14,13 @@ namespace {
 
 constexpr qsizetype longestName = 60;
 
+/// Where the letter follows the text in brackets, as in languages whose own signs no key has, it goes with them.
 QString withoutMnemonic(QString text)
 {
     static const QString escaped(QChar(0x1));
-    return text.replace(QStringLiteral("&&"), escaped).remove(u'&').replace(escaped, QStringLiteral("&")).simplified();
+    static const QRegularExpression inBrackets(QStringLiteral(" ?\\(&[^)]\\)"));
+    text.replace(QStringLiteral("&&"), escaped).remove(inBrackets).remove(u'&');
+    return text.replace(escaped, QStringLiteral("&")).simplified();
 }
 
 /// What the window itself writes on a control; a label speaks for its buddy.
