@@ -1,6 +1,7 @@
 // The pane's window without a mouse and without eyes: names, mnemonics, and a place in the tab order for every control.
 
 #include "LoadedWindow.h"
+#include "StringTables.h"
 #include "Wait.h"
 #include "platform/appkit/controls/NSMatrix.h"
 
@@ -58,11 +59,26 @@ QString accessibleText(QWidget *widget, QAccessible::Text text)
     return interface ? interface->text(text) : QString();
 }
 
-class TheWindowIn : public testing::TestWithParam<const char *>
+class TheWindowIn : public testing::TestWithParam<std::string>
 {
 protected:
     void SetUp() override { window.show(); }
 
+    /// A table's texts in the window's language, by their English.
+    QMap<QString, QString> textsOf(const QString &part, const QString &table) const
+    {
+        if (language != u"en")
+            return stringTable(part, language, table).texts;
+        QMap<QString, QString> texts = stringTable(part, QStringLiteral("de"), table).texts;
+        for (auto text = texts.begin(); text != texts.end(); ++text)
+            *text = text.key();
+        return texts;
+    }
+    /// The button that the host shows beside the pane.
+    QString wayBack() const
+    {
+        return textsOf(QStringLiteral("host"), QStringLiteral("Settings")).value(QStringLiteral("&All settings"));
+    }
     /// Where Tab stops on its way from the tab bar round to it again; the links of a page are one stop, their view.
     std::vector<std::string> tabOrder(QTabWidget *tabbedView)
     {
@@ -79,7 +95,8 @@ protected:
         return order;
     }
 
-    LoadedWindow window{QString::fromLatin1(GetParam())};
+    const QString language = QString::fromStdString(GetParam());
+    LoadedWindow window{language};
 };
 
 TEST_P(TheWindowIn, namesEveryControlForAScreenReader)
@@ -133,7 +150,7 @@ TEST_P(TheWindowIn, givesEveryControlAMnemonicOfItsOwn)
             EXPECT_FALSE(texts.contains(mnemonic)) << qPrintable(text) << " and " << qPrintable(texts.value(mnemonic));
             texts[mnemonic] = text;
         };
-        add(QStringLiteral("&All settings")); // the way back that the host shows beside the pane, in German too
+        add(wayBack());
         for (int tab = 0; tab < pages; ++tab) {
             EXPECT_FALSE(QKeySequence::mnemonic(tabbedView->tabText(tab)).isEmpty());
             add(tabbedView->tabText(tab));
@@ -141,6 +158,21 @@ TEST_P(TheWindowIn, givesEveryControlAMnemonicOfItsOwn)
         for (const QWidget *widget : window.page(index)->findChildren<QWidget *>())
             add(textWithMnemonic(widget));
     }
+}
+
+TEST_P(TheWindowIn, keepsTheMnemonicsApartWhateverTheStateLineSays)
+{
+    const auto *tabbedView = window.find<QTabWidget>(QStringLiteral("tabbedView"));
+    QStringList others{QKeySequence::mnemonic(wayBack()).toString()};
+    for (int tab = 0; tab < pages; ++tab)
+        others += QKeySequence::mnemonic(tabbedView->tabText(tab)).toString();
+    for (const QWidget *widget : window.page(0)->findChildren<QWidget *>()) {
+        if (widget->objectName() != u"stateHint")
+            others += QKeySequence::mnemonic(textWithMnemonic(widget)).toString();
+    }
+    const QStringList lines = textsOf(QStringLiteral("pane"), QStringLiteral("Localizable")).values();
+    for (const QString &line : lines.filter(QStringLiteral("&")))
+        EXPECT_FALSE(others.contains(QKeySequence::mnemonic(line).toString())) << qPrintable(line);
 }
 
 TEST_P(TheWindowIn, reachesEveryControlByAMnemonic)
@@ -191,6 +223,6 @@ TEST_P(TheWindowIn, opensThePagesHelpWithF1)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Language, TheWindowIn, testing::Values("en", "de"));
+INSTANTIATE_TEST_SUITE_P(Language, TheWindowIn, testing::ValuesIn(languagesOfTheProgram()));
 
 } // namespace

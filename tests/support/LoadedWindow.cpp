@@ -2,6 +2,7 @@
 
 #include "CapturedLog.h"
 #include "KeyPress.h"
+#include "StringTables.h"
 #include "Wait.h"
 #include "platform/appkit/interface/InterfaceFile.h"
 #include "platform/foundation/bundles/NSBundle.h"
@@ -24,14 +25,25 @@ QByteArray contentOf(const QString &path)
     return file.readAll();
 }
 
+QString folderOf(const std::string &language)
+{
+    return QString::fromStdString(language) + QStringLiteral(".lproj/");
+}
+
 /// A bundle finds out about the user's language once, so that each language needs a bundle of its own.
 void copyResources(const TestBundle &bundle)
 {
     const QString inside = QStringLiteral("Contents/Resources/");
     const QString built = qEnvironmentVariable("LUMAROO_BUILD") + QStringLiteral("/Lumaroo.prefPane/") + inside;
-    for (const QString &file : {nibName + QStringLiteral(".ui"), QStringLiteral("de.lproj/LumarooPref.qm"),
-             QStringLiteral("Pages/AtAGlance.html"), QStringLiteral("de.lproj/Pages/AtAGlance.html"),
-             QStringLiteral("Pages/ReleaseNotes.html"), QStringLiteral("de.lproj/Pages/ReleaseNotes.html")})
+    QStringList files{nibName + QStringLiteral(".ui")};
+    for (const QString &page : {QStringLiteral("Pages/AtAGlance.html"), QStringLiteral("Pages/ReleaseNotes.html")}) {
+        files += page;
+        for (const std::string &language : translations())
+            files += folderOf(language) + page;
+    }
+    for (const std::string &language : translations())
+        files += folderOf(language) + nibName + QStringLiteral(".qm");
+    for (const QString &file : files)
         bundle.writeFile(inside + file, contentOf(built + file));
 }
 

@@ -1,3 +1,4 @@
+#include "StringTables.h"
 #include "platform/appkit/richtext/NSAttributedString.h"
 #include "platform/foundation/bundles/NSBundle.h"
 
@@ -23,16 +24,25 @@ QVariantMap info()
     return NSBundle::infoDictionaryOnDisk(builtPath());
 }
 
-class CreditsOfALanguage : public testing::TestWithParam<const char *>
+/// The folders with what every language has of its own; that of English is the bundle's resources themselves.
+std::vector<std::string> folders()
+{
+    std::vector<std::string> all{""};
+    for (const std::string &language : translations())
+        all.push_back(language + ".lproj/");
+    return all;
+}
+
+class CreditsOfALanguage : public testing::TestWithParam<std::string>
 {
 protected:
-    const NSAttributedString credits =
-        NSAttributedString::fromRTFDDocument(builtPath() + "/Contents/Resources/" + GetParam() + "Credits.rtfd");
+    const NSAttributedString credits = NSAttributedString::fromRTFDDocument(
+        builtPath() + "/Contents/Resources/" + QString::fromStdString(GetParam()) + "Credits.rtfd");
 };
 
-INSTANTIATE_TEST_SUITE_P(PaneResources, CreditsOfALanguage, testing::Values("", "de.lproj/"));
+INSTANTIATE_TEST_SUITE_P(PaneResources, CreditsOfALanguage, testing::ValuesIn(folders()));
 
-class PagesOfALanguage : public testing::TestWithParam<const char *>
+class PagesOfALanguage : public testing::TestWithParam<std::string>
 {
 protected:
     QStringList names() const { return folder.entryList({"*.html"}, QDir::Files); }
@@ -51,10 +61,10 @@ protected:
         return found;
     }
 
-    const QDir folder{builtPath() + "/Contents/Resources/" + GetParam() + "Pages"};
+    const QDir folder{builtPath() + "/Contents/Resources/" + QString::fromStdString(GetParam()) + "Pages"};
 };
 
-INSTANTIATE_TEST_SUITE_P(PaneResources, PagesOfALanguage, testing::Values("", "de.lproj/"));
+INSTANTIATE_TEST_SUITE_P(PaneResources, PagesOfALanguage, testing::ValuesIn(folders()));
 
 } // namespace
 
@@ -84,7 +94,19 @@ TEST(PaneResources, theCopyrightReadsWellUpToItsFirstComma)
     ASSERT_TRUE(bundle);
     EXPECT_EQ(info().value("NSHumanReadableCopyright").toString().section(',', 0, 0),
         QString("Copyright © 2026 The Lumaroo developers"));
-    EXPECT_TRUE(bundle->localizations().contains("de"));
+}
+
+TEST(PaneResources, areThereInEveryLanguage)
+{
+    const QStringList languages = NSBundle::bundleWithPath(builtPath())->localizations();
+    for (const std::string &language : languagesOfTheProgram())
+        EXPECT_TRUE(languages.contains(QString::fromStdString(language))) << language;
+    for (const std::string &language : translations()) {
+        const QString name = QString::fromStdString(language);
+        for (const QString &table : stringTableNames("pane", name))
+            EXPECT_TRUE(QFile::exists(builtPath() + "/Contents/Resources/" + name + ".lproj/" + table + ".qm"))
+                << language << ": " << qPrintable(table);
+    }
 }
 
 TEST_P(CreditsOfALanguage, holdTheMarkerOfTheCopyrightOnce)

@@ -1,48 +1,17 @@
-// The tutorial's texts: every one has its German, with the same keys in it, and each page's buttons have keys of their
-// own.
+// The tutorial's texts: they name the keys, and in every language each page's buttons have keys of their own.
 
 #include "KTXActionKeys.h"
 #include "KTXConstants.h"
-#include "SourceTree.h"
-#include "TestBundle.h"
+#include "StringTables.h"
 #include "tutorial/PreparationPage.h"
 #include "tutorial/StepPages.h"
 
-#include "platform/foundation/bundles/NSBundle.h"
-
-#include <QLocale>
+#include <QKeySequence>
 #include <gmock/gmock.h>
 
 using testing::IsEmpty;
 
 namespace {
-
-const NSBundle *built()
-{
-    return NSBundle::bundleWithPath(
-        qEnvironmentVariable("LUMAROO_BUILD") + "/Lumaroo.prefPane/Contents/Resources/LumarooTutorial.app");
-}
-
-QString inGerman(const QString &english)
-{
-    return built()->localizedStringForKeyValueTable(english, "none", "Tutorial");
-}
-
-/// What stands in quotation marks in the sources that have texts, put together where it goes over lines.
-QStringList quotedTexts()
-{
-    static const QRegularExpression quoted("\"((?:[^\"\\\\]|\\\\.)*)\"");
-    static const QRegularExpression seam("\"\\s*\"");
-    const SourceTree tree(qEnvironmentVariable("LUMAROO_SOURCE"));
-    QStringList texts;
-    for (const QString &file : tree.files().filter(QRegularExpression("^tutorial/.*(Page|Pages|Course|GuideWindow|"
-                                                                      "KeyNames|PracticeWindow)\\.cpp$"))) {
-        const QString source = tree.lines(file).filter(QRegularExpression("^(?!#include)")).join('\n').remove(seam);
-        for (auto match = quoted.globalMatch(source); match.hasNext();)
-            texts += match.next().captured(1);
-    }
-    return texts;
-}
 
 QStringList placeholdersOf(const QString &text)
 {
@@ -65,33 +34,33 @@ AgentReport report(bool byDoublePress)
     return report;
 }
 
-class TutorialTexts : public testing::Test
+class TranslatedTutorial : public testing::TestWithParam<std::string>
 {
 protected:
-    TutorialTexts() { QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); }
-    ~TutorialTexts() override { QLocale::setDefault(previous_); }
-
-private:
-    QLocale previous_;
+    const QMap<QString, QString> texts = stringTable("tutorial", QString::fromStdString(GetParam()), "Tutorial").texts;
 };
+
+INSTANTIATE_TEST_SUITE_P(Language, TranslatedTutorial, testing::ValuesIn(translations()));
 
 } // namespace
 
-TEST_F(TutorialTexts, haveAllTheirGermanWithTheSameKeys)
+TEST_P(TranslatedTutorial, givesEveryButtonOfAPageAKeyOfItsOwn)
 {
-    int sentences = 0;
-    for (const QString &text : quotedTexts()) {
-        const bool isWords = text.contains(' ') && text.size() > 7 && !text.startsWith(' ');
-        if (!isWords)
-            continue;
-        ++sentences;
-        EXPECT_NE(inGerman(text), u"none") << qPrintable(text);
-        EXPECT_EQ(placeholdersOf(inGerman(text)), placeholdersOf(text)) << qPrintable(text);
+    const QStringList alwaysThere{"&Back", "&Skip this step", "&Leave the tutorial"};
+    const QStringList whileKeysAreHeld{"&Use %1", "&Ask again", "Go on &without these keys", "&Leave the tutorial"};
+    const QStringList whileItIsOff{"&Turn Lumaroo on", "&Leave the tutorial"};
+    const QStringList whileItFails{"&Try again", "&Leave the tutorial"};
+    const QStringList atTheEnd{"&Finish", "&Once more"};
+    for (const QStringList &page : {alwaysThere, whileKeysAreHeld, whileItIsOff, whileItFails, atTheEnd}) {
+        QSet<QString> keys;
+        for (const QString &text : page)
+            keys += QKeySequence::mnemonic(texts.value(text)).toString();
+        EXPECT_EQ(keys.size(), page.size()) << page.join(", ").toStdString();
+        EXPECT_FALSE(keys.contains(QString())) << page.join(", ").toStdString();
     }
-    EXPECT_GT(sentences, 60);
 }
 
-TEST_F(TutorialTexts, nameTheKeysThatAreSet)
+TEST(TutorialTexts, nameTheKeysThatAreSet)
 {
     AgentReport own = report(false);
     own.modifiers = 0x1100;
@@ -108,7 +77,7 @@ TEST_F(TutorialTexts, nameTheKeysThatAreSet)
     EXPECT_EQ(caps, QStringList({"⌃ Control", "⌘ Super", "+", "←"}));
 }
 
-TEST_F(TutorialTexts, leaveNothingOpenWhateverBeginsASelection)
+TEST(TutorialTexts, leaveNothingOpenWhateverBeginsASelection)
 {
     for (const bool byDoublePress : {false, true}) {
         for (int step = 0; step <= int(Step::Close); ++step) {
@@ -123,7 +92,7 @@ TEST_F(TutorialTexts, leaveNothingOpenWhateverBeginsASelection)
     }
 }
 
-TEST_F(TutorialTexts, offerSomethingAtEachObstacle)
+TEST(TutorialTexts, offerSomethingAtEachObstacle)
 {
     for (int obstacle = int(Obstacle::NoBus); obstacle <= int(Obstacle::KeysUseless); ++obstacle) {
         const GuidePage page = pageOfPreparation({Obstacle(obstacle), {"→", "←"}, 0x1800, 0x1100});
