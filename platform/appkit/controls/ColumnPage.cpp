@@ -41,8 +41,12 @@ void ColumnPage::resizeEvent(QResizeEvent *event)
 void ColumnPage::turnSideBySide()
 {
     auto *layout = widget() && !sideBySide_.isEmpty() ? widget()->findChild<QBoxLayout *>(sideBySide_) : nullptr;
-    if (layout)
-        layout->setDirection(width() < leastSideBySide ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    if (!layout)
+        return;
+    layout->setDirection(QBoxLayout::LeftToRight);
+    // What is wide enough in one language is too narrow for the texts of another.
+    if (width() < leastSideBySide || widget()->minimumSizeHint().width() > viewport()->width())
+        layout->setDirection(QBoxLayout::TopToBottom);
 }
 
 void ColumnPage::fitColumn()
