@@ -8,6 +8,7 @@ const QString widthKey = QStringLiteral("WindowWidth");
 const QString heightKey = QStringLiteral("WindowHeight");
 const QString lastPaneKey = QStringLiteral("LastPane");
 const QString lastPagesKey = QStringLiteral("LastPages");
+const QString filesToldOfKey = QStringLiteral("FilesToldOf");
 
 } // namespace
 
@@ -48,6 +49,18 @@ void HostState::setLastPage(const QString &pane, const QString &page)
     QVariantMap pages = CFPreferencesCopyAppValue(lastPagesKey, domain).toMap();
     pages.insert(pane, page);
     CFPreferencesSetAppValue(lastPagesKey, pages, domain);
+}
+
+QString HostState::dateOfFileToldOf(const QString &path) const
+{
+    return CFPreferencesCopyAppValue(filesToldOfKey, domain).toMap().value(path).toString();
+}
+
+void HostState::setDateOfFileToldOf(const QString &path, const QString &date)
+{
+    QVariantMap files = CFPreferencesCopyAppValue(filesToldOfKey, domain).toMap();
+    files.insert(path, date);
+    CFPreferencesSetAppValue(filesToldOfKey, files, domain);
 }
 
 void HostState::flush()

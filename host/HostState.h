@@ -21,5 +21,9 @@ public:
     QString lastPage(const QString &pane) const;
     void setLastPage(const QString &pane, const QString &page);
 
+    /// The date of a file that was moved aside, as of when the user was told of it, or empty.
+    QString dateOfFileToldOf(const QString &path) const;
+    void setDateOfFileToldOf(const QString &path, const QString &date);
+
     void flush();
 };

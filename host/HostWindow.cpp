@@ -4,6 +4,7 @@
 #include "host/HostHeader.h"
 #include "host/HostText.h"
 #include "host/LetterTile.h"
+#include "host/NoticeBar.h"
 #include "host/Overview.h"
 #include "host/PanePage.h"
 #include "host/SearchField.h"
@@ -58,7 +59,8 @@ bool isWithin(const QWidget *inner, const QWidget *outer)
 } // namespace
 
 HostWindow::HostWindow(QSize rememberedSize)
-    : stack_(new QStackedWidget(this)), header_(new HostHeader(this)), sizeChosen_(rememberedSize.isValid())
+    : stack_(new QStackedWidget(this)), header_(new HostHeader(this)), noticeBar_(new NoticeBar(this)),
+      sizeChosen_(rememberedSize.isValid())
 {
     setObjectName(QStringLiteral("settingsWindow"));
     stack_->setObjectName(QStringLiteral("pages"));
@@ -66,6 +68,7 @@ HostWindow::HostWindow(QSize rememberedSize)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(header_);
+    layout->addWidget(noticeBar_);
     connect(header_->backButton(), &QToolButton::clicked, this, &HostWindow::backRequested);
     layout->addWidget(stack_, 1);
     setMinimumSize(smallestSize);
@@ -240,6 +243,8 @@ bool HostWindow::event(QEvent *event)
 {
     if (event->type() == QEvent::WindowUnblocked)
         Q_EMIT unblocked();
+    if (event->type() == QEvent::WindowActivate)
+        Q_EMIT activated();
     return QWidget::event(event);
 }
 

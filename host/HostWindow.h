@@ -11,11 +11,12 @@
 
 class ErrorPage;
 class HostHeader;
+class NoticeBar;
 class Overview;
 class QStackedWidget;
 
-/// The host's one window: a header with the way back, and below it the overview, a pane or the error page. It keeps its
-/// size between them.
+/// The host's one window: a header with the way back, below it what there is to tell of the window as a whole, and
+/// below that the overview, a pane or the error page. It keeps its size between them.
 class HostWindow : public QWidget, public PaneStage
 {
     Q_OBJECT
@@ -30,6 +31,8 @@ public:
     void focusSearch();
     /// Whether there is a way back to the overview. Without other panes it would show nothing that is not on screen.
     void offerOverview(bool offered);
+    /// Between the header and what is shown.
+    NoticeBar *noticeBar() { return noticeBar_; }
     /// Shows the window, before all others; `activationToken` is what the starting desktop gave for that, or empty.
     void bringToFront(const QString &activationToken);
 
@@ -48,6 +51,8 @@ Q_SIGNALS:
     void closeRequested();
     /// A modal window that blocked this one is gone.
     void unblocked();
+    /// The user turns to the window.
+    void activated();
 
 protected:
     bool event(QEvent *event) override;
@@ -67,6 +72,7 @@ private:
 
     QStackedWidget *stack_;
     HostHeader *header_;
+    NoticeBar *noticeBar_;
     Overview *overview_ = nullptr;
     ErrorPage *errorPage_ = nullptr;
     QHash<QWidget *, QPointer<QWidget>> lastFocus_;

@@ -9,7 +9,7 @@
 #include <utility>
 
 SettingsApplication::SettingsApplication(const QStringList &folders)
-    : folders_(folders), window_(state_.windowSize()), controller_(&window_)
+    : folders_(folders), window_(state_.windowSize()), notices_(window_.noticeBar(), &state_), controller_(&window_)
 {
     connect(&window_, &HostWindow::paneOpened, this, [this](const QString &path) {
         go({Destination::Kind::Pane, path});
@@ -17,6 +17,7 @@ SettingsApplication::SettingsApplication(const QStringList &folders)
     connect(&window_, &HostWindow::backRequested, this, &SettingsApplication::showOverview);
     connect(&window_, &HostWindow::searchRequested, this, &SettingsApplication::search);
     connect(&window_, &HostWindow::closeRequested, this, &SettingsApplication::terminate);
+    connect(&window_, &HostWindow::activated, &notices_, &StoreNotices::refresh);
     connect(&window_, &HostWindow::unblocked, this, &SettingsApplication::goOnWhenPossible);
     connect(&controller_, &PaneController::paneReturned, this, &SettingsApplication::goOnWhenPossible);
     connect(&controller_, &PaneController::viewLoaded, this, &SettingsApplication::rememberPages);
@@ -165,6 +166,7 @@ void SettingsApplication::openPane(const QString &request)
         window_.showError(pane, report);
         return;
     }
+    notices_.refresh();
     lastPath_ = path;
     state_.setLastPane(pane.identifier);
 }

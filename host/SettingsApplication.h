@@ -3,6 +3,7 @@
 #include "host/HostState.h"
 #include "host/HostWindow.h"
 #include "host/PaneController.h"
+#include "host/StoreNotices.h"
 
 #include <QObject>
 #include <QStringList>
@@ -62,6 +63,7 @@ private:
     QStringList folders_;
     HostState state_;
     HostWindow window_;
+    StoreNotices notices_;
     PaneController controller_;
     QString lastPath_;
     QString requestLeft_;

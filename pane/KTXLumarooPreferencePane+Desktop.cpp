@@ -1,8 +1,11 @@
 #include "pane/KTXLumarooPreferencePane.h"
 
+#include "KTXConstants.h"
 #include "KTXLoginEntry.h"
 #include "pane/PaneDesktop.h"
 #include "platform/foundation/Boundary.h"
+#include "platform/foundation/notifications/NSNotificationCenter.h"
+#include "platform/foundation/preferences/PreferencesTrouble.h"
 
 // What this desktop adds to the pane: what really comes of the keys, and the start at login.
 
@@ -11,6 +14,15 @@ void KTXLumarooPreferencePane::followDesktop()
     desktop_ = new PaneDesktop(mainView(), bundle(), this);
     connect(&desktop_->presence(), &AgentPresence::ended, this,
         [this] { runAtBoundary("setAgentVisualsOff", [this] { setAgentVisualsOff(); }); });
+    // What could not be stored, or read, was announced in vain when it was set; and what is stored may be something
+    // else.
+    const auto catchUp = [this] { runAtBoundary("readUserPrefs", [this] { readUserPrefs(); }); };
+    const auto troubleChanged = [this, catchUp](const NSNotification &) {
+        if (!hasPreferencesTrouble(KTXLMAppID))
+            QMetaObject::invokeMethod(this, catchUp, Qt::QueuedConnection);
+    };
+    NSNotificationCenter::defaultCenter()->addObserverSelectorNameObject(
+        this, troubleChanged, PreferencesTroubleDidChangeNotification, KTXLMAppID);
 }
 
 /// As toggleAgent, and the line below the switch tells of a start that comes to nothing.

@@ -67,5 +67,69 @@
         <source>Its window content could not be loaded. Install it again.</source>
         <translation>Der Fensterinhalt konnte nicht geladen werden. Installieren Sie den Bereich neu.</translation>
     </message>
+    <message>
+        <source>Your changes are not saved</source>
+        <translation>Ihre Änderungen sind nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>Your settings cannot be read</source>
+        <translation>Ihre Einstellungen lassen sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>Your changes may not last</source>
+        <translation>Ihre Änderungen sind womöglich nicht von Dauer</translation>
+    </message>
+    <message>
+        <source>The disk is full. Make room on it, then try again.</source>
+        <translation>Der Datenträger ist voll. Schaffen Sie Platz und versuchen Sie es dann erneut.</translation>
+    </message>
+    <message>
+        <source>The disk with the folder “%1” can only be read at the moment.</source>
+        <translation>Der Datenträger mit dem Ordner „%1“ lässt sich zurzeit nur lesen.</translation>
+    </message>
+    <message>
+        <source>You lack the permission to read the file “%1”.</source>
+        <translation>Ihnen fehlt das Recht, die Datei „%1“ zu lesen.</translation>
+    </message>
+    <message>
+        <source>You lack the permission to write in the folder “%1”.</source>
+        <translation>Ihnen fehlt das Recht, im Ordner „%1“ zu schreiben.</translation>
+    </message>
+    <message>
+        <source>Another program does not let go of the file “%1”.</source>
+        <translation>Ein anderes Programm gibt die Datei „%1“ nicht frei.</translation>
+    </message>
+    <message>
+        <source>The file “%1” would become too large.</source>
+        <translation>Die Datei „%1“ würde zu groß.</translation>
+    </message>
+    <message>
+        <source>The file “%1” makes trouble (%2).</source>
+        <translation>Mit der Datei „%1“ gibt es Schwierigkeiten (%2).</translation>
+    </message>
+    <message>
+        <source>What you see here is not what is stored.</source>
+        <translation>Was Sie hier sehen, ist nicht das, was gespeichert ist.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>A settings file was damaged</source>
+        <translation>Eine Einstellungsdatei war beschädigt</translation>
+    </message>
+    <message>
+        <source>It is kept as “%1”. The settings in it began anew with their defaults.</source>
+        <translation>Sie ist als „%1“ aufbewahrt. Die Einstellungen darin begannen neu mit ihren Standardwerten.</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ausblenden</translation>
+    </message>
 </context>
 </TS>

@@ -8,13 +8,28 @@
 #include "platform/foundation/system/UserFolders.h"
 
 #include <QFile>
+#include <algorithm>
+#include <map>
 #include <memory>
-#include <unordered_map>
 #include <utility>
 
 namespace {
 
 constexpr qsizetype longestName = 200; // in bytes; the file's name has a suffix, and so have its side files
+
+using Domains = std::map<QString, std::unique_ptr<PreferencesDomain>>;
+
+/// All of this process, by their paths.
+Domains &domains()
+{
+    static Domains domains;
+    return domains;
+}
+
+QString settingsFolder()
+{
+    return userConfigurationFolder() + QStringLiteral("/lumaroo/");
+}
 
 bool canNameADomain(const QString &name)
 {
@@ -47,12 +62,21 @@ PreferencesDomain *PreferencesDomain::find(const QString &name)
         NSLog(QStringLiteral("lumaroo: settings: \"%1\" cannot name a domain; nothing is read or written").arg(name));
         return nullptr;
     }
-    static std::unordered_map<QString, std::unique_ptr<PreferencesDomain>> domains;
-    const QString path = userConfigurationFolder() + QStringLiteral("/lumaroo/") + name + QStringLiteral(".plist");
-    std::unique_ptr<PreferencesDomain> &domain = domains[path];
+    const QString path = settingsFolder() + name + QStringLiteral(".plist");
+    std::unique_ptr<PreferencesDomain> &domain = domains()[path];
     if (!domain)
         domain.reset(new PreferencesDomain(name, QFile::encodeName(path)));
     return domain.get();
+}
+
+QList<PreferencesDomain *> PreferencesDomain::all()
+{
+    QList<PreferencesDomain *> found;
+    for (const auto &[path, domain] : domains()) {
+        if (path.startsWith(settingsFolder()))
+            found += domain.get();
+    }
+    return found;
 }
 
 PreferencesDomain::PreferencesDomain(const QString &name, const QByteArray &path) : name_(name), file_(path) { }
@@ -87,6 +111,16 @@ void PreferencesDomain::tellOfChange(bool isChangedHere)
     const bool isChangedByOthers = std::exchange(changesToldOf_, file_.changesByOthers()) != file_.changesByOthers();
     if (isChangedHere || isChangedByOthers)
         NSNotificationCenter::defaultCenter()->postNotificationNameObject(NSUserDefaultsDidChangeNotification, name_);
+    tellOfTrouble();
+}
+
+void PreferencesDomain::tellOfTrouble()
+{
+    NSNotificationCenter *const centre = NSNotificationCenter::defaultCenter();
+    if (std::exchange(troubleToldOf_, file_.trouble()) != file_.trouble())
+        centre->postNotificationNameObject(PreferencesTroubleDidChangeNotification, name_);
+    if (std::exchange(filesKeptAsideToldOf_, file_.timesMovedAside()) != file_.timesMovedAside())
+        centre->postNotificationNameObject(PreferencesFileWasKeptAsideNotification, name_);
 }
 
 void PreferencesDomain::setValue(const QString &key, const QVariant &value)

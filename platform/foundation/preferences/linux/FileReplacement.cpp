@@ -39,8 +39,8 @@ bool writeAll(int descriptor, const QByteArray &bytes)
     return true;
 }
 
-/// Empty, or what failed.
-QString writeFile(const QByteArray &path, const QByteArray &bytes, struct stat *status)
+/// None, or what failed.
+SystemError writeFile(const QByteArray &path, const QByteArray &bytes, struct stat *status)
 {
     FileDescriptor file = createdFile(path);
     if (!file)
@@ -58,9 +58,11 @@ QString writeFile(const QByteArray &path, const QByteArray &bytes, struct stat *
 
 } // namespace
 
-QString systemError(const char *call)
+SystemError systemError(const char *call)
 {
-    return QStringLiteral("%1: %2").arg(QString::fromLatin1(call), QString::fromLocal8Bit(std::strerror(errno)));
+    const int number = errno;
+    return {
+        QStringLiteral("%1: %2").arg(QString::fromLatin1(call), QString::fromLocal8Bit(std::strerror(number))), number};
 }
 
 QByteArray folderOf(const QByteArray &path)
@@ -68,7 +70,7 @@ QByteArray folderOf(const QByteArray &path)
     return path.left(std::max(qsizetype(1), path.lastIndexOf('/')));
 }
 
-QString secureFolder(const QByteArray &folder)
+SystemError secureFolder(const QByteArray &folder)
 {
     const FileDescriptor descriptor = FileDescriptor::opened(folder, O_RDONLY | O_DIRECTORY);
     if (!descriptor)
@@ -85,13 +87,13 @@ FileReplacement replaceFile(const QByteArray &path, const QByteArray &bytes)
     FileReplacement replacement;
     const QByteArray temporary = temporaryPathFor(path);
     replacement.error = writeFile(temporary, bytes, &replacement.status);
-    if (replacement.error.isEmpty() && systemCalls().rename(temporary.constData(), path.constData()) != 0)
+    if (!replacement.error && systemCalls().rename(temporary.constData(), path.constData()) != 0)
         replacement.error = systemError("rename");
-    if (!replacement.error.isEmpty()) {
+    if (replacement.error) {
         systemCalls().unlink(temporary.constData());
         return replacement;
     }
     replacement.error = secureFolder(folderOf(path));
-    replacement.outcome = replacement.error.isEmpty() ? Outcome::Secured : Outcome::Replaced;
+    replacement.outcome = replacement.error ? Outcome::Replaced : Outcome::Secured;
     return replacement;
 }

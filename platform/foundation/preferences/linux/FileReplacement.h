@@ -4,6 +4,15 @@
 
 #include <QString>
 
+/// What the system refused: "write: No space left on device", and the number of that.
+struct SystemError
+{
+    QString text; ///< empty where nothing was refused
+    int number = 0;
+
+    explicit operator bool() const { return !text.isEmpty(); }
+};
+
 /// How far a replacement came.
 struct FileReplacement
 {
@@ -13,7 +22,7 @@ struct FileReplacement
         Secured, ///< the new file stands and its folder knows it for good
     };
     Outcome outcome = Outcome::Unchanged;
-    QString error; ///< empty when secured
+    SystemError error; ///< none when secured
     struct stat status = {}; ///< of the new file
 };
 
@@ -21,11 +30,11 @@ struct FileReplacement
 /// keeps other writers away.
 FileReplacement replaceFile(const QByteArray &path, const QByteArray &bytes);
 
-/// Makes what was renamed in a folder survive a power failure; empty, or what failed.
-QString secureFolder(const QByteArray &folder);
+/// Makes what was renamed in a folder survive a power failure; or what failed.
+SystemError secureFolder(const QByteArray &folder);
 
 /// The folder of a path.
 QByteArray folderOf(const QByteArray &path);
 
-/// "write: No space left on device", after errno.
-QString systemError(const char *call);
+/// What a call has just left in errno.
+SystemError systemError(const char *call);

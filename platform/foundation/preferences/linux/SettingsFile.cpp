@@ -5,7 +5,10 @@
 #include "platform/foundation/propertylists/PropertyList.h"
 #include "platform/foundation/system/NSLog.h"
 
+#include <QDir>
 #include <QFile>
+#include <QHash>
+#include <algorithm>
 #include <cerrno>
 #include <climits>
 
@@ -30,11 +33,20 @@ QByteArray lockPathFor(const QByteArray &path)
     return path.left(name) + '.' + path.mid(name) + ".lock";
 }
 
-QString lockError()
+SystemError lockError()
 {
     if (errno == ETIMEDOUT)
-        return QStringLiteral("another process keeps it locked");
+        return {QStringLiteral("another process keeps it locked"), ETIMEDOUT};
     return systemError("lock");
+}
+
+PreferencesTrouble::Cause causeOf(int errorNumber)
+{
+    using Cause = PreferencesTrouble::Cause;
+    static const QHash<int, Cause> causes{{ENOSPC, Cause::FullDisk}, {EDQUOT, Cause::FullDisk},
+        {EROFS, Cause::ReadOnlyDisk}, {EACCES, Cause::NoPermission}, {EPERM, Cause::NoPermission},
+        {ETIMEDOUT, Cause::Locked}, {EFBIG, Cause::TooLarge}};
+    return causes.value(errorNumber, Cause::Other);
 }
 
 } // namespace
@@ -79,28 +91,26 @@ bool SettingsFile::write(const QByteArray &path, const QVariantMap &values)
 {
     const QByteArray bytes = writeBinaryPropertyList(values);
     if (bytes.isEmpty())
-        return failToWrite(QStringLiteral("it would be more than a property list may hold"));
+        return failToWrite({QStringLiteral("it would be more than a property list may hold"), EFBIG});
     const FileReplacement replacement = replaceFile(path, bytes);
     if (replacement.outcome == FileReplacement::Outcome::Unchanged)
         return failToWrite(replacement.error);
     stored_.adopt(values, bytes, replacement.status);
     unsecuredFolder_ = folderOf(path);
     if (replacement.outcome == FileReplacement::Outcome::Replaced)
-        return fail(QStringLiteral("is written but might not survive a power failure (%1)").arg(replacement.error));
+        return failToSecure(replacement.error);
     unsecuredFolder_.clear();
-    reported_.clear();
-    return true;
+    return succeed();
 }
 
 /// After a write whose folder could not be synced the file holds everything, and only that is left to do.
 bool SettingsFile::securePreviousWrite()
 {
-    const QString error = unsecuredFolder_.isEmpty() ? QString() : secureFolder(unsecuredFolder_);
-    if (!error.isEmpty())
-        return fail(QStringLiteral("is written but might not survive a power failure (%1)").arg(error));
+    const SystemError error = unsecuredFolder_.isEmpty() ? SystemError() : secureFolder(unsecuredFolder_);
+    if (error)
+        return failToSecure(error);
     unsecuredFolder_.clear();
-    reported_.clear();
-    return true;
+    return succeed();
 }
 
 Content SettingsFile::current()
@@ -115,7 +125,7 @@ Content SettingsFile::moveAside()
     const QByteArray path = target();
     const FileLock lock(lockPathFor(path));
     if (!lock) {
-        fail(QStringLiteral("does not parse (%1) and cannot be moved aside (%2)").arg(stored_.problem(), lockError()));
+        failToMoveAside(stored_.problem(), lockError());
         return Content::Damaged;
     }
     const Content content = stored_.refresh();
@@ -124,38 +134,60 @@ Content SettingsFile::moveAside()
 
 bool SettingsFile::moveAsideUnderLock(const QByteArray &path)
 {
-    const QString damage = stored_.problem();
+    const SystemError damage = stored_.problem();
     for (int number = 1; number <= mostFilesKeptAside; ++number) {
         const QByteArray suffix = '~' + QByteArray::number(number);
         if (systemCalls().renameWithoutReplacing(path.constData(), (path + suffix).constData()) == 0) {
             NSLog(QStringLiteral("lumaroo: settings: %1 does not parse (%2); kept as %1%3, starting empty")
-                      .arg(name(), damage, QString::fromLatin1(suffix)));
+                      .arg(name(), damage.text, QString::fromLatin1(suffix)));
+            ++timesMovedAside_;
             stored_.refresh();
             return true;
         }
         if (errno != EEXIST)
             break;
     }
-    return fail(
-        QStringLiteral("does not parse (%1) and cannot be moved aside (%2)").arg(damage, systemError("rename")));
+    return failToMoveAside(damage, systemError("rename"));
 }
 
-bool SettingsFile::fail(const QString &problem)
+bool SettingsFile::fail(const QString &problem, const SystemError &reason, PreferencesTrouble::Extent extent)
 {
     if (problem != reported_)
         NSLog(QStringLiteral("lumaroo: settings: %1 %2; changes wait for the next attempt").arg(name(), problem));
     reported_ = problem;
+    trouble_ = {causeOf(reason.number), extent, QFile::decodeName(path_), reason.text};
     return false;
 }
 
 bool SettingsFile::failToRead()
 {
-    return fail(QStringLiteral("cannot be read (%1)").arg(stored_.problem()));
+    const SystemError &reason = stored_.problem();
+    return fail(QStringLiteral("cannot be read (%1)").arg(reason.text), reason, PreferencesTrouble::Extent::Unreadable);
 }
 
-bool SettingsFile::failToWrite(const QString &reason)
+bool SettingsFile::failToWrite(const SystemError &reason)
 {
-    return fail(QStringLiteral("cannot be written (%1)").arg(reason));
+    return fail(
+        QStringLiteral("cannot be written (%1)").arg(reason.text), reason, PreferencesTrouble::Extent::NotStored);
+}
+
+bool SettingsFile::failToSecure(const SystemError &reason)
+{
+    return fail(QStringLiteral("is written but might not survive a power failure (%1)").arg(reason.text), reason,
+        PreferencesTrouble::Extent::NotSecured);
+}
+
+bool SettingsFile::failToMoveAside(const SystemError &damage, const SystemError &reason)
+{
+    return fail(QStringLiteral("does not parse (%1) and cannot be moved aside (%2)").arg(damage.text, reason.text),
+        reason, PreferencesTrouble::Extent::Unreadable);
+}
+
+bool SettingsFile::succeed()
+{
+    reported_.clear();
+    trouble_.reset();
+    return true;
 }
 
 QString SettingsFile::name() const
@@ -176,4 +208,16 @@ QByteArray SettingsFile::target() const
         path = link.startsWith('/') ? link : folderOf(path) + '/' + link;
     }
     return path;
+}
+
+QString SettingsFile::newestKeptAside() const
+{
+    const QString path = QFile::decodeName(target());
+    const QString beginning = QFileInfo(path).fileName() + u'~';
+    int newest = 0;
+    for (const QString &file : QFileInfo(path).dir().entryList(QDir::Files | QDir::Hidden)) {
+        if (file.startsWith(beginning))
+            newest = std::max(newest, file.mid(beginning.size()).toInt());
+    }
+    return newest > 0 ? path + u'~' + QString::number(newest) : QString();
 }

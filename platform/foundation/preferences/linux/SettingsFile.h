@@ -1,9 +1,11 @@
 #pragma once
 
 #include "platform/foundation/Export.h"
+#include "platform/foundation/preferences/PreferencesTrouble.h"
 #include "platform/foundation/preferences/linux/StoredSettings.h"
 
 #include <functional>
+#include <optional>
 
 /// The file of one settings domain: read as it is now, changed under a kernel lock, replaced whole or not at all.
 class LM_FOUNDATION SettingsFile
@@ -34,6 +36,13 @@ public:
     /// last; the old or the new file then stands whole.
     bool update(const Change &change);
 
+    /// Why the last update() failed; none after one that did not.
+    const std::optional<PreferencesTrouble> &trouble() const { return trouble_; }
+    /// How often this process has moved the file aside.
+    quint64 timesMovedAside() const { return timesMovedAside_; }
+    /// Of the files that were moved aside and are still there the one with the highest number, or empty.
+    QString newestKeptAside() const;
+
 private:
     StoredSettings::Content current();
     StoredSettings::Content moveAside();
@@ -42,14 +51,19 @@ private:
     bool write(const QByteArray &path, const QVariantMap &values);
     bool securePreviousWrite();
 
-    bool fail(const QString &problem);
+    bool fail(const QString &problem, const SystemError &reason, PreferencesTrouble::Extent extent);
     bool failToRead();
-    bool failToWrite(const QString &reason);
+    bool failToWrite(const SystemError &reason);
+    bool failToSecure(const SystemError &reason);
+    bool failToMoveAside(const SystemError &damage, const SystemError &reason);
+    bool succeed();
     QString name() const;
     QByteArray target() const;
 
     QByteArray path_;
     StoredSettings stored_;
     QString reported_; ///< the problem last logged, so that it is not logged again until something has succeeded
+    std::optional<PreferencesTrouble> trouble_;
+    quint64 timesMovedAside_ = 0;
     QByteArray unsecuredFolder_; ///< where a rename may not survive a power failure yet
 };

@@ -1,6 +1,5 @@
 #include "platform/foundation/preferences/linux/StoredSettings.h"
 
-#include "platform/foundation/preferences/linux/FileReplacement.h"
 #include "platform/foundation/propertylists/PropertyList.h"
 #include "platform/foundation/propertylists/PropertyListBounds.h"
 
@@ -114,7 +113,8 @@ StoredSettings::Content StoredSettings::readOpened(FileDescriptor file)
     if (systemCalls().fstat(file.get(), &status) != 0)
         return unreadable(systemError("fstat"));
     if (!S_ISREG(status.st_mode))
-        return unreadable(S_ISDIR(status.st_mode) ? QStringLiteral("it is a folder") : QStringLiteral("it is no file"));
+        return unreadable(
+            {S_ISDIR(status.st_mode) ? QStringLiteral("it is a folder") : QStringLiteral("it is no file")});
     bytesReadAt_ = systemCalls().realTime();
     if (!readAll(file.get(), status.st_size, &bytes_))
         return unreadable(systemError("read"));
@@ -127,15 +127,15 @@ StoredSettings::Content StoredSettings::parse()
 {
     const PropertyListReading reading = readPropertyList(bytes_);
     if (!reading && reading.errorOffset >= 0)
-        return find(Content::Damaged, QStringLiteral("byte %1").arg(reading.errorOffset));
+        return find(Content::Damaged, {QStringLiteral("byte %1").arg(reading.errorOffset)});
     if (!reading)
-        return find(Content::Damaged, reading.error);
+        return find(Content::Damaged, {reading.error});
     if (reading.value.typeId() != QMetaType::QVariantMap)
-        return find(Content::Damaged, QStringLiteral("it holds no dictionary"));
+        return find(Content::Damaged, {QStringLiteral("it holds no dictionary")});
     return find(Content::Values, {}, reading.value.toMap());
 }
 
-StoredSettings::Content StoredSettings::keep(Content content, const QString &problem, const QVariantMap &values)
+StoredSettings::Content StoredSettings::keep(Content content, const SystemError &problem, const QVariantMap &values)
 {
     content_ = content;
     problem_ = problem;
@@ -144,7 +144,7 @@ StoredSettings::Content StoredSettings::keep(Content content, const QString &pro
     return content;
 }
 
-StoredSettings::Content StoredSettings::find(Content content, const QString &problem, const QVariantMap &values)
+StoredSettings::Content StoredSettings::find(Content content, const SystemError &problem, const QVariantMap &values)
 {
     // What the first look finds is no change.
     if (std::exchange(hasLooked_, true) && !isEqualPropertyList(values, values_))
@@ -152,7 +152,7 @@ StoredSettings::Content StoredSettings::find(Content content, const QString &pro
     return keep(content, problem, values);
 }
 
-StoredSettings::Content StoredSettings::unreadable(const QString &problem)
+StoredSettings::Content StoredSettings::unreadable(const SystemError &problem)
 {
     forgetFile();
     return find(Content::Unreadable, problem);

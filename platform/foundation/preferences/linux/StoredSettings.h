@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/system/SystemCalls.h"
+#include "platform/foundation/preferences/linux/FileReplacement.h"
 
 #include <QVariantMap>
 #include <memory>
@@ -27,7 +27,7 @@ public:
     /// How often a refresh has found other values than before; what adopt() takes over is not counted.
     quint64 changesByOthers() const { return changesByOthers_; }
     /// Why the last refresh did not answer Values.
-    const QString &problem() const { return problem_; }
+    const SystemError &problem() const { return problem_; }
 
     /// Takes over what the caller has just written to the file with this inode, unless another file stands there by
     /// now.
@@ -39,9 +39,9 @@ private:
     bool isSettled() const;
     Content readOpened(FileDescriptor file);
     Content parse();
-    Content keep(Content content, const QString &problem = {}, const QVariantMap &values = {});
-    Content find(Content content, const QString &problem = {}, const QVariantMap &values = {});
-    Content unreadable(const QString &problem);
+    Content keep(Content content, const SystemError &problem = {}, const QVariantMap &values = {});
+    Content find(Content content, const SystemError &problem = {}, const QVariantMap &values = {});
+    Content unreadable(const SystemError &problem);
     void forgetFile();
     void closeLater(FileDescriptor file);
 
@@ -57,5 +57,5 @@ private:
     quint64 reading_ = 0;
     bool hasLooked_ = false;
     quint64 changesByOthers_ = 0;
-    QString problem_;
+    SystemError problem_;
 };
