@@ -1,5 +1,6 @@
 #include "pane/PaneDesktop.h"
 
+#include "KTXAgentAnswer.h"
 #include "KTXLoginEntry.h"
 #include "pane/Controls.h"
 #include "platform/appkit/controls/HeldKeyMarker.h"
@@ -9,6 +10,23 @@
 
 #include <QEvent>
 #include <QHash>
+#include <algorithm>
+
+namespace {
+
+constexpr char onWayland[] =
+    "This session runs on Wayland. There no program may take keys or see the windows of others, so Lumaroo’s keys do "
+    "nothing here. Your settings are kept. To use Lumaroo, log out and choose “X11” or “Xorg” on the login screen.";
+
+/// The agent goes by the same. While it does not run it cannot say so, but it would.
+bool isKeptAwayByWayland(const AgentKeys &keys)
+{
+    const auto hasNoHotKeys = [](const AgentKeys::Key &key) { return key.cause == KTXCauseNoHotKeys; };
+    return !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
+        && std::all_of(keys.keys.cbegin(), keys.keys.cend(), hasNoHotKeys);
+}
+
+} // namespace
 
 PaneDesktop::PaneDesktop(QWidget *view, const NSBundle *bundle, QObject *parent)
     : QObject(parent), view_(view), bundle_(bundle)
@@ -83,7 +101,7 @@ void PaneDesktop::showKeys(const AgentKeys &keys)
     keys_ = keys;
     const AgentKeysText text = agentKeysText(keys, bundle_);
     showPress(text);
-    setStringValue(control("keysStateField"), text.state);
+    setStringValue(control("keysStateField"), isKeptAwayByWayland(keys) ? localized(onWayland) : text.state);
     setStringValue(control("heldKeysField"), text.held);
     // An assistive tool reads a text that is not there as well.
     setStringValue(control("freeModifiersButton"), text.offer);

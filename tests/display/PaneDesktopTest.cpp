@@ -197,6 +197,27 @@ TEST_F(KeysInPane, tellsNothingOfAnAgentThatAnswersOtherwise)
     }
 }
 
+TEST_F(KeysInPane, tellsOnWaylandThatTheyDoNothingThereAndWhatToDo)
+{
+    QMap<QString, QString> all;
+    for (const KTXActionKey &action : KTXActionKeys())
+        all.insert(action.preferenceName, KTXCauseNoHotKeys);
+    qputenv("WAYLAND_DISPLAY", "wayland-0");
+    const auto cleanUp = qScopeGuard([] { qunsetenv("WAYLAND_DISPLAY"); });
+    const auto tellsOfWayland = [this] {
+        return waitUntil([this] { return text("keysStateField").startsWith("This session runs on Wayland."); });
+    };
+    agent->answers(AgentStandIn::answerWith(all));
+    showPage();
+    ASSERT_TRUE(waitUntil([this] { return agent->questions() > 0; }));
+    EXPECT_TRUE(tellsOfWayland());
+    EXPECT_TRUE(text("keysStateField").contains("choose “X11” or “Xorg” on the login screen"));
+    agent->answers(AgentStandIn::answerWith({}));
+    EXPECT_TRUE(shows("keysStateField", "All keys work.")) << "one that has keys there is believed";
+    agent.reset();
+    EXPECT_TRUE(tellsOfWayland()) << "whether it runs or not";
+}
+
 TEST_F(PaneAtLogin, showsWhatTheDesktopDoes)
 {
     const QString program = QStringLiteral("/bin/sh");

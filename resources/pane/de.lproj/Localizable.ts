@@ -128,6 +128,10 @@
         <translation>Diese Sitzung lässt Programmen keine eigenen Tasten. Lumaroo braucht eine X11-Sitzung.</translation>
     </message>
     <message>
+        <source>This session runs on Wayland. There no program may take keys or see the windows of others, so Lumaroo’s keys do nothing here. Your settings are kept. To use Lumaroo, log out and choose “X11” or “Xorg” on the login screen.</source>
+        <translation>Diese Sitzung läuft mit Wayland. Dort darf kein Programm Tasten übernehmen oder die Fenster anderer sehen, daher tun Lumaroos Tasten hier nichts. Ihre Einstellungen bleiben erhalten. Um Lumaroo zu benutzen, melden Sie sich ab und wählen auf dem Anmeldebildschirm „X11“ oder „Xorg“.</translation>
+    </message>
+    <message>
         <source>%1 is used by another program. Lumaroo cannot take it.</source>
         <translation>%1 wird von einem anderen Programm benutzt. Lumaroo erhält diese Taste nicht.</translation>
     </message>
