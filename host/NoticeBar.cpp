@@ -14,8 +14,8 @@
 
 namespace {
 
-constexpr int widestColumn = 720;
 constexpr int margin = 24;
+constexpr int widestColumn = 720 + 2 * margin;
 constexpr int gap = 12;
 constexpr int symbolExtent = 24;
 constexpr float shareOfGround = 0.12f;

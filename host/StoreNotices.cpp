@@ -29,10 +29,16 @@ QString headingOf(Extent extent)
     return {};
 }
 
+QString shortened(const QString &path)
+{
+    const QString home = QDir::homePath() + u'/';
+    return path.startsWith(home) ? QStringLiteral("~/") + path.mid(home.size()) : path;
+}
+
 QString causeOf(const PreferencesTrouble &trouble)
 {
-    const QString path = QDir::toNativeSeparators(trouble.path);
-    const QString folder = QFileInfo(trouble.path).path();
+    const QString path = shortened(trouble.path);
+    const QString folder = shortened(QFileInfo(trouble.path).path());
     switch (trouble.cause) {
     case Cause::FullDisk:
         return hostText(QStringLiteral("The disk is full. Make room on it, then try again."));
