@@ -90,8 +90,10 @@ void AgentPresence::expectStart()
 void AgentPresence::missStart()
 {
     start_.stop();
-    if (!isOwned_)
-        set(CannotStart);
+    if (isOwned_)
+        return;
+    set(CannotStart);
+    Q_EMIT startMissed();
 }
 
 void AgentPresence::set(State state)
