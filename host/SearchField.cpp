@@ -6,12 +6,15 @@
 #include <QApplication>
 #include <QCompleter>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QStandardItemModel>
 #include <algorithm>
 
 namespace {
 
 constexpr int mostMatches = 12;
+constexpr int widthOfLens = 22;
+constexpr double lensRadius = 4.5;
 
 QString line(const SearchedControl &match)
 {
@@ -29,6 +32,7 @@ SearchField::SearchField(QWidget *parent)
     setAccessibleName(hostText(QStringLiteral("Search settings")));
     setToolTip(QKeySequence(Qt::CTRL | Qt::Key_F).toString(QKeySequence::NativeText));
     setClearButtonEnabled(true);
+    setTextMargins(widthOfLens, 0, 0, 0);
     // The list holds what matches already.
     completer_->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     completer_->setMaxVisibleItems(mostMatches);
@@ -47,6 +51,20 @@ void SearchField::focusInEvent(QFocusEvent *event)
     if (event->reason() != Qt::PopupFocusReason && view_)
         controls_ = searchedControls(view_);
     QLineEdit::focusInEvent(event);
+}
+
+/// The looking-glass is drawn, as an icon would not follow the palette.
+void SearchField::paintEvent(QPaintEvent *event)
+{
+    QLineEdit::paintEvent(event);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QPalette::ColorRole role = hasFocus() ? QPalette::Text : QPalette::PlaceholderText;
+    painter.setPen(QPen(palette().color(role), 1.6, Qt::SolidLine, Qt::RoundCap));
+    const double x = layoutDirection() == Qt::RightToLeft ? width() - 15.5 : 14.5;
+    const QPointF center(x, height() / 2.0 - 1);
+    painter.drawEllipse(center, lensRadius, lensRadius);
+    painter.drawLine(center + QPointF(3.4, 3.4), center + QPointF(6.6, 6.6));
 }
 
 void SearchField::fill(const QString &search)
