@@ -22,6 +22,7 @@ public:
     QStringList modifierNames() const;
     QStringList arrows() const;
     QString state() const;
+    QString modifiers() const;
     QString held() const;
     QString offer() const;
 
@@ -37,7 +38,7 @@ private:
     }
     static QString nameOf(const AgentKeys::Key &key)
     {
-        return KeyCodeTranslator::stringForKeyCodeWithModifierFlags(key.keyCode, 0).toUpper();
+        return KeyCodeTranslator::stringForKeyCodeWithModifierFlags(key.keyCode, 0);
     }
 
     const AgentKeys &keys_;
@@ -103,6 +104,7 @@ QString Words::state() const
         {KTXCauseNoHotKeys, "This session has no hot keys for programs. Lumaroo needs an X11 session."},
         {KTXCauseNoModifiers, "No key works, since no modifier keys are chosen."},
         {KTXCauseDoublePressAlone, "Lumaroo takes no key from other programs."},
+        {KTXCauseTyping, "Some keys do not work, since Shift alone would take the capital letters you type."},
         {KTXCauseOtherProgram, "Some keys do not work, since other programs use them. The page “Keys” names them."},
     };
     for (const Sentence &sentence : sentences) {
@@ -112,6 +114,15 @@ QString Words::state() const
     const bool doAllWork = std::all_of(
         keys_.keys.cbegin(), keys_.keys.cend(), [](const AgentKeys::Key &key) { return key.cause.isEmpty(); });
     return localized(doAllWork ? "All keys work." : "Some keys do not work. The page “Keys” shows all of them.");
+}
+
+QString Words::modifiers() const
+{
+    if (isCauseOfAny(KTXCauseNoModifiers))
+        return localized("Choose one at least: without a modifier key, no key works.");
+    if (isCauseOfAny(KTXCauseTyping))
+        return localized("Shift alone would take the capital letters you type. Choose another modifier key with it.");
+    return {};
 }
 
 QString Words::held() const
@@ -140,6 +151,6 @@ AgentKeysText agentKeysText(const AgentKeys &keys, const NSBundle *bundle)
     if (!keys.isKnown())
         return {};
     const Words words(keys, bundle);
-    return {words.press(), words.pressSentence(), words.modifierNames(), words.arrows(), words.state(), words.held(),
-        words.offer()};
+    return {words.press(), words.pressSentence(), words.modifierNames(), words.arrows(), words.state(),
+        words.modifiers(), words.held(), words.offer()};
 }

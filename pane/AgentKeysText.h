@@ -12,6 +12,7 @@ struct AgentKeysText
     QStringList modifierNames; ///< with their signs, as on key caps
     QStringList keyNames;
     QString state; ///< whether the keys work
+    QString modifiers; ///< what is wrong with those that are chosen
     QString held; ///< which are other programs'
     QString offer; ///< what the button says that takes other modifiers
 };

@@ -34,6 +34,7 @@ PaneDesktop::PaneDesktop(QWidget *view, const NSBundle *bundle, QObject *parent)
     connect(&agent_, &AgentWatch::told, this, &PaneDesktop::showKeys);
     connect(&presence_, &AgentPresence::changed, this, &PaneDesktop::showPresence);
     connect(&loginEntry_, &LoginEntryWatch::changed, this, &PaneDesktop::showStartAtLogin);
+    modifierHint_ = stringValue(control("modifierHint"));
     showKeys({});
     showStartAtLogin();
     showPresence();
@@ -94,6 +95,17 @@ void PaneDesktop::showPresence()
     setStringValue(control("stateHint"),
         localized(isRemoved && !runs ? "&Lumaroo was removed from this computer. Install it again to turn it on."
                                      : sentences.value(presence_.state())));
+    hideEmptyRow();
+}
+
+/// The row of the keys keeps its room until it is known that no agent will tell of them.
+void PaneDesktop::hideEmptyRow()
+{
+    const bool isEmpty =
+        stringValue(control("pressNowField")).isEmpty() && stringValue(control("keysStateField")).isEmpty();
+    const bool isAwaited = presence_.state() == AgentPresence::Unknown || presence_.state() == AgentPresence::Runs;
+    for (const char *name : {"pressNowField", "keysStateField"})
+        setHidden(control(name), isEmpty && !isAwaited);
 }
 
 void PaneDesktop::showKeys(const AgentKeys &keys)
@@ -102,7 +114,9 @@ void PaneDesktop::showKeys(const AgentKeys &keys)
     const AgentKeysText text = agentKeysText(keys, bundle_);
     showPress(text);
     setStringValue(control("keysStateField"), isKeptAwayByWayland(keys) ? localized(onWayland) : text.state);
+    setStringValue(control("modifierHint"), text.modifiers.isEmpty() ? modifierHint_ : text.modifiers);
     setStringValue(control("heldKeysField"), text.held);
+    hideEmptyRow();
     // An assistive tool reads a text that is not there as well.
     setStringValue(control("freeModifiersButton"), text.offer);
     setHidden(control("freeModifiersButton"), text.offer.isEmpty());

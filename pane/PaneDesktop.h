@@ -33,6 +33,7 @@ private:
     void showStartAtLogin();
     void showPress(const AgentKeysText &text);
     void showPresence();
+    void hideEmptyRow();
     void followFrameColor();
     QString localized(const char *text) const;
     bool eventFilter(QObject *object, QEvent *event) override;
@@ -43,6 +44,7 @@ private:
     QPointer<WindowsPicture> picture_;
     const NSBundle *bundle_;
     AgentKeys keys_;
+    QString modifierHint_; ///< what is said of the modifiers where nothing is wrong with them
     AgentWatch agent_;
     AgentPresence presence_;
     LoginEntryWatch loginEntry_;

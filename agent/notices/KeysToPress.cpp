@@ -18,7 +18,7 @@ QStringList directions(const QList<AgentHotKey> &hotKeys)
             hotKeys.cbegin(), hotKeys.cend(), [&action](const AgentHotKey &one) { return one.action == action; });
         if (key == hotKeys.cend() || !(key->cause.isEmpty() || key->cause == KTXCauseDoublePressAlone))
             continue;
-        names.append(KeyCodeTranslator::stringForKeyCodeWithModifierFlags(key->keyCode, 0).toUpper());
+        names.append(KeyCodeTranslator::stringForKeyCodeWithModifierFlags(key->keyCode, 0));
     }
     return names;
 }

@@ -46,6 +46,10 @@ AgentPresence::AgentPresence()
 
 void AgentPresence::askForOwner()
 {
+    if (!QDBusConnection::sessionBus().isConnected()) {
+        set(Off);
+        return;
+    }
     auto *const answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(ownerQuestion()), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
         answer->deleteLater();

@@ -158,6 +158,24 @@ TEST_F(KeysInPane, tellsWhatKeepsAllKeysAway)
     EXPECT_TRUE(shows("keysStateField", "Some keys do not work. The page “Keys” shows all of them."));
 }
 
+TEST_F(KeysInPane, tellsWhatIsWrongWithTheModifiersBesideThem)
+{
+    showPage();
+    const QString usual = "Hold these while you press one of the keys below.";
+    ASSERT_TRUE(shows("keysStateField", "All keys work."));
+    EXPECT_EQ(text("modifierHint"), usual);
+    agent->answers(AgentStandIn::answerWith({{KTXScreenshotPref, KTXCauseTyping}}, 0x200));
+    EXPECT_TRUE(shows(
+        "modifierHint", "Shift alone would take the capital letters you type. Choose another modifier key with it."));
+    EXPECT_EQ(
+        text("keysStateField"), "Some keys do not work, since Shift alone would take the capital letters you type.");
+    agent->answers(AgentStandIn::answerWith({{KTXLeftPref, KTXCauseNoModifiers}}, 0));
+    EXPECT_TRUE(shows("modifierHint", "Choose one at least: without a modifier key, no key works."));
+    EXPECT_EQ(text("keysStateField"), "No key works, since no modifier keys are chosen.");
+    agent->answers(AgentStandIn::answerWith({}));
+    EXPECT_TRUE(shows("modifierHint", usual));
+}
+
 TEST_F(KeysInPane, tellsNothingWhereNoAgentRunsAndAgainWhenOneComes)
 {
     agent.reset();

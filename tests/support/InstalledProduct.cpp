@@ -33,6 +33,18 @@ void changeVersion(const QString &paneBundle, int version)
     changeInfo(paneBundle, change);
 }
 
+namespace {
+
+/// Damaged settings that a test before has left.
+void removeFilesSetAside(const QString &settingsFile)
+{
+    QDir folder(QFileInfo(settingsFile).path());
+    for (const QString &file : folder.entryList({QStringLiteral("*.plist~*")}, QDir::Files))
+        folder.remove(file);
+}
+
+} // namespace
+
 InstalledProduct::InstalledProduct()
 {
     qputenv("XDG_DATA_HOME", QFile::encodeName(folder_.path()));
@@ -41,6 +53,7 @@ InstalledProduct::InstalledProduct()
     EXPECT_EQ(runProgram(QStringLiteral("cp"), {QStringLiteral("-a"), SettingsProgram::builtPane(), panes}).status, 0);
     pane_ = QDir(panes).canonicalPath() + QStringLiteral("/Lumaroo.prefPane");
     QFile::remove(settingsFile());
+    removeFilesSetAside(settingsFile());
     NSUserDefaults::standardUserDefaults()->setPersistentDomainForName({}, KTXLMAppID);
     SettingsProgram::forgetWhatWasSeen();
     letNotesBeSeen();

@@ -5,6 +5,7 @@
 #include "KTXConstants.h"
 #include "KeyPress.h"
 #include "RunningPrograms.h"
+#include "ScreenReader.h"
 #include "SecondBus.h"
 #include "Wait.h"
 
@@ -38,7 +39,7 @@ protected:
         ASSERT_TRUE(settings->waitForWindows(1));
         ASSERT_TRUE(waitUntil([this] { return bus.names().contains(KTXLMAgentLaunched); }));
         EXPECT_EQ(bus.names().count(KTXLMAgentShouldTerminate), 1) << "the pane found a first run";
-        EXPECT_TRUE(waitUntil([this] { return settings->settledPicture() == whileOn; })) << "it is shown on";
+        EXPECT_TRUE(reader.waitForText(settings->processId(), "Lumaroo Enabled")) << "it is shown on";
         EXPECT_EQ(agents(), before);
     }
     /// Returns once the agent, too, is done with what the settings have announced on their way out.
@@ -81,6 +82,7 @@ protected:
         return place;
     }
 
+    ScreenReader reader;
     std::unique_ptr<SettingsProgram> settings;
     QImage whileOn;
 };

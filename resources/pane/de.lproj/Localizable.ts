@@ -155,5 +155,17 @@
         <source>Lumaroo cannot write the file “%1”. Check that you may change it, and try again.</source>
         <translation>Lumaroo kann die Datei „%1“ nicht schreiben. Prüfen Sie, ob Sie sie ändern dürfen, und versuchen Sie es noch einmal.</translation>
     </message>
+    <message>
+        <source>Some keys do not work, since Shift alone would take the capital letters you type.</source>
+        <translation>Einige Tasten wirken nicht, weil die Umschalttaste allein die Großbuchstaben nähme, die Sie tippen.</translation>
+    </message>
+    <message>
+        <source>Choose one at least: without a modifier key, no key works.</source>
+        <translation>Wählen Sie mindestens eine: Ohne Zusatztaste wirkt keine Taste.</translation>
+    </message>
+    <message>
+        <source>Shift alone would take the capital letters you type. Choose another modifier key with it.</source>
+        <translation>Die Umschalttaste allein nähme die Großbuchstaben, die Sie tippen. Wählen Sie eine weitere Zusatztaste dazu.</translation>
+    </message>
 </context>
 </TS>
