@@ -3,6 +3,7 @@
 #include "KTXConstants.h"
 #include "KTXLoginEntry.h"
 #include "pane/PaneDesktop.h"
+#include "pane/RepeatTrial.h"
 #include "platform/foundation/Boundary.h"
 #include "platform/foundation/notifications/NSNotificationCenter.h"
 #include "platform/foundation/preferences/PreferencesTrouble.h"
@@ -26,6 +27,7 @@ void KTXLumarooPreferencePane::followDesktop()
     };
     NSNotificationCenter::defaultCenter()->addObserverSelectorNameObject(
         this, troubleChanged, PreferencesTroubleDidChangeNotification, KTXLMAppID);
+    new RepeatTrial(mainView(), bundle(), this);
 }
 
 /// As toggleAgent, and the line below the switch tells of a start that comes to nothing.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "agent/keys/RepeatTiming.h"
+#include "RepeatTiming.h"
 
 #include <QObject>
 #include <QTimer>

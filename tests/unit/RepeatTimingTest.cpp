@@ -1,6 +1,6 @@
 // What the settings of repeating mean in time.
 
-#include "agent/keys/RepeatTiming.h"
+#include "RepeatTiming.h"
 #include "KTXConstants.h"
 
 #include <gtest/gtest.h>

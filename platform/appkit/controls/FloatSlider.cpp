@@ -89,6 +89,7 @@ void FloatSlider::valueChangedFrom(double before)
         return;
     QAccessibleValueChangeEvent event(this, value());
     QAccessible::updateAccessibility(&event);
+    Q_EMIT showsAnotherValue();
 }
 
 int FloatSlider::lastPosition() const

@@ -42,6 +42,8 @@ public:
 Q_SIGNALS:
     /// The user has chosen a value: at each key, wheel step and click, and at the end of a drag.
     void valueChosen();
+    /// The value is another one, by whomever, during a drag too.
+    void showsAnotherValue();
 
 private:
     double valueAtPosition(int position) const;

@@ -19,8 +19,9 @@ public:
 protected:
     bool hitButton(const QPoint &position) const override;
     void paintEvent(QPaintEvent *event) override;
+    /// Where the switch itself is.
+    virtual QRectF trackRect() const;
 
 private:
-    QRectF trackRect() const;
     QPointF knobCenter(const QRectF &track) const;
 };

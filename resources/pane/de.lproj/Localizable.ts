@@ -4,6 +4,14 @@
 <context>
     <name>Localizable</name>
     <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 per second</source>
+        <translation>%1 je Sekunde</translation>
+    </message>
+    <message>
         <source>Lumaroo Enabled</source>
         <translation>Lumaroo ist eingeschaltet</translation>
     </message>

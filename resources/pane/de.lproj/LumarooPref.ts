@@ -209,19 +209,19 @@
     </message>
     <message>
         <source>&amp;Left and right, go by:</source>
-        <translation>&amp;Links und rechts zählt:</translation>
+        <translation>&amp;Links und rechts geht es nach:</translation>
     </message>
     <message>
         <source>First selected window</source>
-        <translation>Zuerst gewähltes Fenster</translation>
+        <translation>Ausgangsfenster</translation>
     </message>
     <message>
         <source>Left edge</source>
-        <translation>Linker Rand</translation>
+        <translation>Linke Kante</translation>
     </message>
     <message>
         <source>Right edge</source>
-        <translation>Rechter Rand</translation>
+        <translation>Rechte Kante</translation>
     </message>
     <message>
         <source>Leading edge</source>
@@ -233,31 +233,31 @@
     </message>
     <message>
         <source>Up and &amp;down, go by:</source>
-        <translation>&amp;Oben und unten zählt:</translation>
+        <translation>&amp;Oben und unten geht es nach:</translation>
     </message>
     <message>
         <source>Top edge</source>
-        <translation>Oberer Rand</translation>
+        <translation>Obere Kante</translation>
     </message>
     <message>
         <source>Bottom edge</source>
-        <translation>Unterer Rand</translation>
+        <translation>Untere Kante</translation>
     </message>
     <message>
         <source>The key Under &amp;cycles:</source>
-        <translation>Da&amp;runter führt:</translation>
+        <translation>Die Taste Da&amp;runter führt:</translation>
     </message>
     <message>
         <source>Up the stack</source>
-        <translation>Im Stapel aufwärts</translation>
+        <translation>Im Stapel nach oben</translation>
     </message>
     <message>
         <source>Down the stack</source>
-        <translation>Im Stapel abwärts</translation>
+        <translation>Im Stapel nach unten</translation>
     </message>
     <message>
         <source>Down the stack goes from a window to the one that it covers, up the stack the other way.</source>
-        <translation>Abwärts geht es von einem Fenster zu dem, das es verdeckt, aufwärts umgekehrt.</translation>
+        <translation>Nach unten geht es von einem Fenster zu dem, das es verdeckt, nach oben umgekehrt.</translation>
     </message>
     <message>
         <source>The leading edge is the one that faces the way you move.</source>
@@ -265,11 +265,11 @@
     </message>
     <message>
         <source>&amp;Wrap around at the left and right edges of the screen</source>
-        <translation>Am linken und rechten Bildschirmrand u&amp;mbrechen</translation>
+        <translation>A&amp;m linken und rechten Bildschirmrand auf der anderen Seite weitergehen</translation>
     </message>
     <message>
         <source>Wrap around at the top and botto&amp;m edges of the screen</source>
-        <translation>Am oberen und u&amp;nteren Bildschirmrand umbrechen</translation>
+        <translation>Am oberen und u&amp;nteren Bildschirmrand auf der anderen Seite weitergehen</translation>
     </message>
     <message>
         <source>Staying active</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Acti&amp;vate only by pressing the modifier keys twice</source>
-        <translation>Nur &amp;durch zweimaliges Drücken der Zusatztasten aktivieren</translation>
+        <translation>Nur durch zweimaliges &amp;Drücken der Zusatztasten einschalten</translation>
     </message>
     <message>
         <source>Lumaroo then takes no combination from other programs, and always stays active.</source>
@@ -313,7 +313,7 @@
     </message>
     <message>
         <source>D&amp;elay before the first repeat:</source>
-        <translation>Ver&amp;zögerung zu Beginn:</translation>
+        <translation>Bis &amp;zur ersten Wiederholung:</translation>
     </message>
     <message>
         <source>Short</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>Delay before the first repeat</source>
-        <translation>Verzögerung zu Beginn</translation>
+        <translation>Zeit bis zur ersten Wiederholung</translation>
     </message>
     <message>
         <source>%1 seconds</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>Repeat &amp;speed:</source>
-        <translation>Ge&amp;schwindigkeit:</translation>
+        <translation>Ge&amp;schwindigkeit danach:</translation>
     </message>
     <message>
         <source>Slow</source>
@@ -346,6 +346,22 @@
     <message>
         <source>Fast</source>
         <translation>Schnell</translation>
+    </message>
+    <message>
+        <source>Hold an arrow key here.</source>
+        <translation>Halten Sie hier eine Pfeiltaste.</translation>
+    </message>
+    <message>
+        <source>Try the key repeat</source>
+        <translation>Tastenwiederholung ausprobieren</translation>
+    </message>
+    <message>
+        <source>Click the windows, then hold an arrow key.</source>
+        <translation>Klicken Sie die Fenster an und halten Sie eine Pfeiltaste.</translation>
+    </message>
+    <message>
+        <source>Try &amp;it:</source>
+        <translation>Aus&amp;probieren:</translation>
     </message>
     <message>
         <source>Overlay</source>

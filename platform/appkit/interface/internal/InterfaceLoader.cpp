@@ -2,17 +2,20 @@
 
 #include "platform/appkit/colors/NSColorWell.h"
 #include "platform/appkit/controls/CardView.h"
+#include "platform/appkit/controls/ChoicePicture.h"
 #include "platform/appkit/controls/ColumnPage.h"
 #include "platform/appkit/controls/ConflictMarker.h"
 #include "platform/appkit/controls/FloatSlider.h"
 #include "platform/appkit/controls/HeldKeyMarker.h"
 #include "platform/appkit/controls/KeyCapsLine.h"
+#include "platform/appkit/controls/KeyRepeatField.h"
 #include "platform/appkit/controls/NSMatrix.h"
 #include "platform/appkit/controls/NSProgressIndicator.h"
 #include "platform/appkit/controls/NSSwitch.h"
 #include "platform/appkit/controls/NSTextView.h"
 #include "platform/appkit/controls/PageTabView.h"
 #include "platform/appkit/controls/StyledLabel.h"
+#include "platform/appkit/controls/SwitchRow.h"
 #include "platform/appkit/controls/WindowsPicture.h"
 #include "platform/appkit/interface/internal/InterfaceText.h"
 #include "platform/appkit/web/WebView.h"
@@ -48,6 +51,9 @@ WidgetMaker ownClass(const QString &className)
         {QStringLiteral("ConflictMarker"), &make<ConflictMarker>},
         {QStringLiteral("HeldKeyMarker"), &make<HeldKeyMarker>},
         {QStringLiteral("NSSwitch"), &make<NSSwitch>},
+        {QStringLiteral("SwitchRow"), &make<SwitchRow>},
+        {QStringLiteral("ChoicePicture"), &make<ChoicePicture>},
+        {QStringLiteral("KeyRepeatField"), &make<KeyRepeatField>},
         {QStringLiteral("NSTextView"), &make<NSTextView>},
         {QStringLiteral("NSProgressIndicator"), &make<NSProgressIndicator>},
         {QStringLiteral("StyledLabel"), &make<StyledLabel>},

@@ -1,4 +1,4 @@
-#include "agent/keys/RepeatTiming.h"
+#include "RepeatTiming.h"
 
 #include "KTXConstants.h"
 #include "KTXSettings.h"
