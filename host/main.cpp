@@ -3,10 +3,12 @@
 #include "host/Appearance.h"
 #include "host/HostText.h"
 #include "host/SettingsApplication.h"
+#include "host/ToolkitTexts.h"
 #include "host/linux/SingleInstance.h"
 #include "host/linux/WindowActivation.h"
 #include "platform/appkit/NSApplication.h"
 #include "platform/foundation/Boundary.h"
+#include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/crashlogs/CrashLogWriter.h"
 #include "platform/foundation/processes/NSTask.h"
 #include "platform/foundation/system/EndingSignals.h"
@@ -102,6 +104,7 @@ int main(int argumentCount, char **argumentValues)
         return outcome == SingleInstance::Outcome::HandedOver ? 0 : 1;
 
     trimCrashLogs();
+    translateToolkit(NSBundle::mainBundle()->preferredLocalizations().value(0));
     const Appearance appearance(arguments.scheme);
     SettingsApplication settings(paneFolders());
     return run(settings, instance, arguments.request);
