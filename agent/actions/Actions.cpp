@@ -44,6 +44,7 @@ Actions::Actions(WindowSystem &windows, Gestures &gestures) : windows_(windows),
     connect(&gestures, &Gestures::moved, this, &Actions::followWithPreview);
     connect(&gestures, &Gestures::over, this, &Actions::endPreview);
     connect(&notices_, &Notices::pressed, this, &Actions::hearButton);
+    connect(&session_, &SessionWatch::userIsLeaving, this, &Actions::endPreview);
 }
 
 Actions::~Actions() = default;
@@ -193,18 +194,27 @@ void Actions::showPreview(const ActionTold &told)
         answer(told);
         return;
     }
-    const auto found = target();
-    QString reason = found ? reasonForNoPicture(found->window) : actionText("There is no window to show.");
-    if (reason.isEmpty())
-        preview(*found);
-    if (reason.isEmpty() && !preview_)
-        reason = actionText("This X server gives no pictures of windows.");
+    const QString reason = begunPreview();
     if (!reason.isEmpty()) {
         refuse({previewMatter, actionText("No preview is shown"), reason, {}}, told);
         return;
     }
+    session_.begin();
     Q_EMIT previewShown();
     answer(told);
+}
+
+/// Why there is none.
+QString Actions::begunPreview()
+{
+    if (gestures_.isScreenTaken())
+        return actionText("Another program has the keyboard and the mouse, as one that locks the screen.");
+    const auto found = target();
+    const QString reason = found ? reasonForNoPicture(found->window) : actionText("There is no window to show.");
+    if (!reason.isEmpty())
+        return reason;
+    preview(*found);
+    return preview_ ? QString() : actionText("This X server gives no pictures of windows.");
 }
 
 /// The one before goes only when this one is there.
@@ -246,6 +256,7 @@ void Actions::hidePreview()
 void Actions::endPreview()
 {
     hidePreview();
+    session_.end();
     if (std::exchange(isPreviewing_, false))
         Q_EMIT previewEnded();
 }

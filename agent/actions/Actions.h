@@ -2,6 +2,7 @@
 
 #include "agent/actions/Closing.h"
 #include "agent/actions/Preview.h"
+#include "agent/gestures/SessionWatch.h"
 #include "agent/notices/Notices.h"
 
 #include <QObject>
@@ -40,7 +41,8 @@ public:
     /// Asks the window to close, and its user before anything is ended that does not answer. windowClosed(), a dialog
     /// of its program, which is selected then, or refused() follows within about 2 s.
     void closeWindow(quint32 time = 0, const ActionTold &told = {});
-    /// Shows the window enlarged, or ends that. During a gesture it follows the selection, and ends with it.
+    /// Shows the window enlarged, or ends that. During a gesture it follows the selection, and ends with it; it ends
+    /// when its user leaves the session.
     void showPreview(const ActionTold &told = {});
     /// Opens the settings at Lumaroo's pane, or brings them to the front as they are.
     void openPrefPane(quint32 time = 0);
@@ -67,6 +69,7 @@ private:
     void hearButton(const QString &matter);
     void endUnansweringProgram();
     void tellOfPicture(const WindowDescription &window, const QString &path, const ActionTold &told);
+    QString begunPreview();
     void preview(const Target &target);
     void followWithPreview();
     void hearPreviewsEnd();
@@ -81,4 +84,5 @@ private:
     QString picture_; ///< the last one that was taken
     bool isPreviewing_ = false; ///< also while the selection has no picture
     std::unique_ptr<Preview> preview_;
+    SessionWatch session_; ///< while there is a preview
 };

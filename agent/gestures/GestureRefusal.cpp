@@ -9,6 +9,8 @@ QString sentence(const GestureRefusal &refusal)
         return QStringLiteral("there is no window to select");
     case GestureRefusal::Kind::Unreadable:
         return refusal.detail;
+    case GestureRefusal::Kind::ScreenTaken:
+        return QStringLiteral("another program has the keyboard and the mouse, as one that locks the screen");
     case GestureRefusal::Kind::KeyboardKept:
         return QStringLiteral("another program keeps the keyboard; only the combinations work");
     case GestureRefusal::Kind::NotActivated:

@@ -8,6 +8,7 @@ struct GestureRefusal
     enum class Kind : quint8 {
         NoWindow, ///< that can be selected
         Unreadable, ///< the desktop does not tell its windows
+        ScreenTaken, ///< another program has keyboard and mouse, as one that locks the screen
         KeyboardKept, ///< by another program; the combinations work
         NotActivated ///< the window that was accepted
     };

@@ -133,7 +133,7 @@ bool Gestures::perform(GestureStep step, const GestureEvent &event)
         keys_.beginHeld();
         return true;
     case GestureStep::WatchSession:
-        session_.begin();
+        watchSession(event);
         return true;
     case GestureStep::TakeKeyboard:
         session_.begin();
@@ -163,7 +163,7 @@ bool Gestures::begin(const GestureEvent &event)
     run_.emplace(settings_);
     run_->takesKeys = event.kind != Kind::Command;
     overlay_.setStyle(settings_.overlay);
-    if (!read())
+    if (!mayBegin() || !read())
         return false;
     run_->origin = run_->world.activeWindow;
     if (!run_->selection.begin(run_->world)) {

@@ -30,6 +30,8 @@ public:
     /// keyboard.
     void command(GestureEvent event);
 
+    /// Whether another program has keyboard and mouse, as one that locks the screen: nothing is to be shown above that.
+    bool isScreenTaken() { return keys_.isScreenTaken(); }
     /// 0 where none is on.
     quint32 selected() const { return run_ ? run_->selection.selected() : 0; }
     /// Selects a window without a key, as one that has just come up; harmless where none is on.
@@ -72,6 +74,8 @@ private:
     void take(const GestureEvent &event);
     bool perform(GestureStep step, const GestureEvent &event);
     bool begin(const GestureEvent &event);
+    bool mayBegin();
+    void watchSession(const GestureEvent &event);
     bool move(const GestureEvent &event);
     bool read();
     bool showSelected(quint32 before);

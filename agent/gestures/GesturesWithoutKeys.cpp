@@ -14,6 +14,24 @@ void Gestures::command(GestureEvent event)
     take(event);
 }
 
+/// A key comes from nobody while the screen is locked; a command does.
+bool Gestures::mayBegin()
+{
+    if (run_->takesKeys || !isScreenTaken())
+        return true;
+    Q_EMIT refused({GestureRefusal::Kind::ScreenTaken, {}});
+    return false;
+}
+
+/// No key waits for a command.
+void Gestures::watchSession(const GestureEvent &event)
+{
+    if (event.kind == GestureEvent::Kind::Command)
+        session_.begin();
+    else
+        session_.beginSoon();
+}
+
 void Gestures::stay()
 {
     if (isOn())

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 #include <memory>
 
 class ScreenSaverWatch;
@@ -17,6 +18,8 @@ public:
 
     /// Listens from now on. What is not there, the system bus or the server's screen saver, tells nothing.
     void begin();
+    /// Listens in a moment: what is connected to for that would hold up the next key.
+    void beginSoon();
     /// Harmless when it does not listen.
     void end();
 
@@ -30,5 +33,6 @@ private Q_SLOTS:
 private:
     void followLogind(bool follow);
 
+    QTimer soon_;
     std::unique_ptr<ScreenSaverWatch> screenSaver_; ///< while it listens
 };

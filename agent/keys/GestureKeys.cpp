@@ -67,7 +67,7 @@ bool GestureKeys::grabKeyboard()
     releaseCheck_.stop();
     grabTries_ = 0;
     tryToGrab();
-    return isGrabbed_ || !keyboard_->isMouseTaken();
+    return isGrabbed_ || !keyboard_->isScreenTaken();
 }
 
 void GestureKeys::tryToGrab()

@@ -47,6 +47,9 @@ public:
     /// Those that it got: not the key of an action, and nobody else's.
     QSet<int> takenDigits() const;
 
+    /// Whether another program has keyboard and mouse to itself, as one that locks the screen. One round trip.
+    bool isScreenTaken() { return keyboard_->isScreenTaken(); }
+
     /// The keyboard's bell: a key leads nowhere.
     void ring() { keyboard_->ring(); }
 

@@ -49,8 +49,9 @@ public:
     /// Takes the whole keyboard: each press and release comes here, and to nobody else. False while another program has
     /// it. One round trip.
     virtual bool grab() = 0;
-    /// Whether another program has the mouse to itself. Who has both locks the screen, or has a menu open.
-    virtual bool isMouseTaken() = 0;
+    /// Whether another program has keyboard and mouse to itself: it locks the screen, or has a menu open. Neither is
+    /// touched. One round trip.
+    virtual bool isScreenTaken() = 0;
     /// Harmless when it is not grabbed.
     virtual void letGo() = 0;
 

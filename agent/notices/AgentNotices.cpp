@@ -26,6 +26,7 @@ Notice noticeOf(const GestureRefusal &refusal)
                                      : noticeText("The window manager did not turn to “%1”.").arg(refusal.detail),
             {}};
     case Kind::NoWindow:
+    case Kind::ScreenTaken:
         break;
     }
     return {};

@@ -27,7 +27,7 @@ QList<GestureStep> Gesture::takeInIdle(const GestureEvent &event)
     }
     if (event.kind == Kind::Movement && !rules_.onlyByDoublePress) {
         enter(State::Held);
-        return {Begin, Move, WatchModifiers};
+        return {Begin, Move, WatchModifiers, WatchSession};
     }
     if (!isWayIn(event))
         return {};

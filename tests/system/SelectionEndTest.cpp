@@ -9,6 +9,7 @@
 
 #include <QProcess>
 #include <csignal>
+#include <gmock/gmock.h>
 #include <linux/input-event-codes.h>
 #include <random>
 
@@ -56,6 +57,33 @@ TEST_F(SelectionEnd, comesWithALockedSession)
     expectNothingLeft();
 }
 
+TEST_F(SelectionEnd, comesWithALockedSessionAlsoWhileTheModifiersAreHeld)
+{
+    open();
+    holdModifiers();
+    pressKey(KEY_RIGHT);
+    ASSERT_TRUE(says({"began", "moved to middle"}));
+    const auto endsWithALock = [this] {
+        loginManager().lock(); // it listens a moment after the mark has come up
+        return steps() == QStringList({"began", "moved to middle", "cancelled"});
+    };
+    EXPECT_TRUE(waitUntil(endsWithALock));
+    EXPECT_TRUE(waitUntil([] { return marksOnScreen() == 0; }));
+    releaseModifiers();
+    expectNothingLeft();
+    EXPECT_EQ(activeWindowTitle(), u"left") << "the locked session is left as it is";
+}
+
+TEST_F(SelectionEnd, isThatOfAPreviewTooWhereTheSessionIsLocked)
+{
+    open();
+    pressKey(KEY_SPACE, modifiers());
+    ASSERT_TRUE(agent.waitForLine(QStringLiteral("preview shown")));
+    loginManager().lock();
+    EXPECT_TRUE(agent.waitForLine(QStringLiteral("preview ended")));
+    EXPECT_TRUE(waitUntil([] { return marksOnScreen() == 0; }));
+}
+
 TEST_F(SelectionEnd, leavesTheKeyboardToALocker)
 {
     open();
@@ -73,6 +101,12 @@ TEST_F(SelectionEnd, leavesTheKeyboardToALocker)
     pressKey(KEY_RIGHT, modifiers());
     pressModifiersTwice();
     EXPECT_TRUE(says({"began", "cancelled", "began", "cancelled"}));
+    for (const QStringList &command : QList<QStringList>{{"--move", "right"}, {"--preview"}}) {
+        const ProgramResult result = runAgent(command);
+        EXPECT_EQ(result.status, 1);
+        EXPECT_THAT(result.errors,
+            testing::EndsWith("as one that locks the screen" + std::string(command.size() == 1 ? ".\n" : "\n")));
+    }
     EXPECT_EQ(marksOnScreen(), 0);
     locker.kill();
     EXPECT_TRUE(locker.waitForFinished());

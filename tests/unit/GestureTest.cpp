@@ -47,7 +47,7 @@ const GestureRules onlyTwice{.onlyByDoublePress = true};
 const GestureRules toggling{.toggles = true};
 
 const Row rows[]{
-    {"aMovementBegins", State::Idle, event(Kind::Movement), {Begin, Move, WatchModifiers}, State::Held},
+    {"aMovementBegins", State::Idle, event(Kind::Movement), {Begin, Move, WatchModifiers, WatchSession}, State::Held},
     {"noMovementBeginsWhereOnlyADoublePressDoes", State::Idle, event(Kind::Movement), {}, State::Idle, onlyTwice},
     {"aHeldKeyBeginsNothing", State::Idle, event(Kind::Repeat), {}, State::Idle},
     {"cancellingNothingDoesNothing", State::Idle, event(Kind::Cancel), {}, State::Idle},
@@ -142,7 +142,7 @@ TEST(Gesture, oneThatFailedIsOver)
     Gesture gesture = gestureIn(State::Held);
     gesture.end();
     EXPECT_THAT(gesture.take(event(Kind::ModifiersReleased)), IsEmpty());
-    EXPECT_THAT(gesture.take(event(Kind::Movement)), ElementsAre(Begin, Move, WatchModifiers));
+    EXPECT_THAT(gesture.take(event(Kind::Movement)), ElementsAre(Begin, Move, WatchModifiers, WatchSession));
 }
 
 TEST(Gesture, whateverHappensOneThatHasBegunEndsOnce)

@@ -23,7 +23,7 @@ public:
     bool isHeld(VirtualKeyCode) override { return false; }
     bool isAnythingHeldBut(quint32) override { return false; }
     bool grab() override { return false; }
-    bool isMouseTaken() override { return false; }
+    bool isScreenTaken() override { return false; }
     void letGo() override { }
     void ring() override { }
 

@@ -3,8 +3,22 @@
 #include "agent/gestures/x11/ScreenSaverWatch.h"
 
 #include <QDBusConnection>
+#include <chrono>
 
-SessionWatch::SessionWatch() = default;
+using namespace std::chrono_literals;
+
+namespace {
+
+/// Who only taps a key and lets go has been there and gone by then.
+constexpr auto moment = 50ms;
+
+} // namespace
+
+SessionWatch::SessionWatch()
+{
+    soon_.setSingleShot(true);
+    connect(&soon_, &QTimer::timeout, this, &SessionWatch::begin);
+}
 
 SessionWatch::~SessionWatch()
 {
@@ -20,8 +34,14 @@ void SessionWatch::begin()
     followLogind(true);
 }
 
+void SessionWatch::beginSoon()
+{
+    soon_.start(moment);
+}
+
 void SessionWatch::end()
 {
+    soon_.stop();
     if (!screenSaver_)
         return;
     screenSaver_.reset();

@@ -206,17 +206,25 @@ bool XKeyboard::grab()
     return isGrabbed_;
 }
 
-bool XKeyboard::isMouseTaken()
+bool XKeyboard::isScreenTaken()
 {
     if (!connection_)
         return false;
     xcb_connection_t *const server = connection_.get();
-    const auto question = xcb_grab_pointer(server, false, root_, 0, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC,
+    // Who is not on screen is granted nothing, but told first that another one has it.
+    const xcb_window_t unseen = xcb_generate_id(server);
+    xcb_create_window(
+        server, 0, unseen, root_, 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
+    const auto keys =
+        xcb_grab_keyboard(server, false, unseen, XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    const auto mouse = xcb_grab_pointer(server, false, unseen, 0, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC,
         XCB_WINDOW_NONE, XCB_CURSOR_NONE, XCB_CURRENT_TIME);
-    xcb_ungrab_pointer(server, XCB_CURRENT_TIME);
-    const auto answer = fromServer(xcb_grab_pointer_reply(server, question, nullptr));
+    xcb_destroy_window(server, unseen);
+    const auto ofKeys = fromServer(xcb_grab_keyboard_reply(server, keys, nullptr));
+    const auto ofMouse = fromServer(xcb_grab_pointer_reply(server, mouse, nullptr));
     handleLater();
-    return answer && answer->status == XCB_GRAB_STATUS_ALREADY_GRABBED;
+    return ofKeys && ofKeys->status == XCB_GRAB_STATUS_ALREADY_GRABBED && ofMouse
+        && ofMouse->status == XCB_GRAB_STATUS_ALREADY_GRABBED;
 }
 
 void XKeyboard::letGo()

@@ -29,7 +29,7 @@ public:
     bool isHeld(VirtualKeyCode keyCode) override;
     bool isAnythingHeldBut(quint32 modifiers) override;
     bool grab() override;
-    bool isMouseTaken() override;
+    bool isScreenTaken() override;
     void letGo() override;
     void ring() override;
 

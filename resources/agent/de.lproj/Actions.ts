@@ -108,6 +108,10 @@
         <translation>Keine Vorschau wird gezeigt</translation>
     </message>
     <message>
+        <source>Another program has the keyboard and the mouse, as one that locks the screen.</source>
+        <translation>Ein anderes Programm hat Tastatur und Maus, etwa eines, das den Bildschirm sperrt.</translation>
+    </message>
+    <message>
         <source>There is no window to show.</source>
         <translation>Es gibt kein Fenster, das sich zeigen lässt.</translation>
     </message>
