@@ -13,8 +13,7 @@ constexpr double slowestInterval = 1, fastestInterval = 0.12;
 
 double number(const QVariantMap &settings, const QString &key, double most)
 {
-    const double stored = settings.value(key, KTXDefaultValue(key)).toDouble();
-    return std::clamp(std::isnan(stored) ? KTXDefaultValue(key).toDouble() : stored, 0.0, most);
+    return std::clamp(settings.value(key, KTXDefaultValue(key)).toDouble(), 0.0, most);
 }
 
 std::chrono::milliseconds asMilliseconds(double seconds)

@@ -13,6 +13,7 @@ struct RepeatTiming
     bool operator==(const RepeatTiming &) const = default;
 };
 
-/// What the settings' switch and sliders mean: the delay is "initialDelay" in seconds, but a quarter of a second at
-/// least; the interval falls from 1 s to 0.12 s, by the same factor for each step of "repeatRate" from 0 to 1.
+/// What the settings' switch and sliders mean, in which there is nothing that is no number: the delay is "initialDelay"
+/// in seconds, but a quarter of a second at least; the interval falls from 1 s to 0.12 s, by the same factor for each
+/// step of "repeatRate" from 0 to 1.
 RepeatTiming repeatTiming(const QVariantMap &settings);
