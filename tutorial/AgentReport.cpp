@@ -1,5 +1,6 @@
 #include "tutorial/AgentReport.h"
 
+#include "KTXAgentAnswer.h"
 #include "KTXConstants.h"
 
 #include <QJsonArray>
@@ -11,10 +12,10 @@ namespace {
 
 AgentReport::Key keyFrom(const QJsonObject &object)
 {
-    const bool isRegistered = object.value(QStringLiteral("registered")).toBool();
-    const QString refusal = object.value(QStringLiteral("refusal")).toString(QStringLiteral("unknown"));
-    return {object.value(QStringLiteral("action")).toString(),
-        VirtualKeyCode(quint32(object.value(QStringLiteral("keyCode")).toInt())), isRegistered ? QString() : refusal};
+    const bool isRegistered = object.value(KTXAnswerRegistered).toBool();
+    const QString cause = object.value(KTXAnswerCause).toString(QStringLiteral("unknown"));
+    return {object.value(KTXAnswerAction).toString(), VirtualKeyCode(quint32(object.value(KTXAnswerKeyCode).toInt())),
+        isRegistered ? QString() : cause};
 }
 
 } // namespace
@@ -29,7 +30,7 @@ const AgentReport::Key *AgentReport::key(const QString &action) const
 bool AgentReport::works(const QString &action) const
 {
     const Key *const found = key(action);
-    return found && (found->refusal.isEmpty() || beginsByDoublePress);
+    return found && (found->cause.isEmpty() || beginsByDoublePress);
 }
 
 std::optional<AgentReport> readAgentReport(const QString &json)
@@ -37,12 +38,12 @@ std::optional<AgentReport> readAgentReport(const QString &json)
     const QJsonObject root = QJsonDocument::fromJson(json.toUtf8()).object();
     if (root.value(QStringLiteral("readings")).toInt() == 0)
         return {};
-    const QJsonObject settings = root.value(QStringLiteral("settings")).toObject();
+    const QJsonObject settings = root.value(KTXAnswerSettings).toObject();
     AgentReport report;
-    for (const QJsonValue &key : root.value(QStringLiteral("hotKeys")).toArray())
+    for (const QJsonValue &key : root.value(KTXAnswerHotKeys).toArray())
         report.keys += keyFrom(key.toObject());
     report.modifiers = quint32(settings.value(KTXModifierMask).toInteger());
-    report.freeModifiers = quint32(root.value(QStringLiteral("freeModifiers")).toArray().first().toInteger());
+    report.freeModifiers = quint32(root.value(KTXAnswerFreeModifiers).toArray().first().toInteger());
     report.beginsByDoublePress = settings.value(KTXActivateDoubleClick).toBool();
     report.wrapsHorizontally = settings.value(KTXHWrap).toBool(true);
     report.cyclesAscending = settings.value(KTXCycleAscending).toBool();

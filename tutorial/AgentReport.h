@@ -13,7 +13,7 @@ struct AgentReport
     {
         QString action; ///< the name under which its key is stored
         VirtualKeyCode keyCode;
-        QString refusal; ///< why it does not work; empty where it does
+        QString cause; ///< why it does not work, by KTXAgentAnswer.h; empty where it does
     };
 
     QList<Key> keys;

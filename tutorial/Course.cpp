@@ -167,6 +167,10 @@ void Course::goToEnd()
 
 void Course::startAgent()
 {
+    if (preparation_.obstacle == Obstacle::OffForNow) {
+        RunningAgent::switchOn();
+        return;
+    }
     const bool runs = RunningAgent::start();
     prepareFor(runs ? Obstacle::Asking : Obstacle::AgentDoesNotStart);
     if (runs)

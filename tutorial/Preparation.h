@@ -10,6 +10,7 @@ enum class Obstacle : quint8 {
     Asking, ///< the agent has yet to answer
     NoBus,
     AgentOff,
+    OffForNow, ///< it runs, but has given its keys back
     AgentDoesNotStart,
     AgentSilent,
     NoHotKeys, ///< in this session at all

@@ -23,6 +23,8 @@ constexpr ObstacleTexts obstacleTexts[]{
         Wish::Leave, "&Close"},
     {Obstacle::AgentOff, "Lumaroo is off", "The tutorial shows Lumaroo at work, so it has to be on.", Wish::StartAgent,
         "&Turn Lumaroo on"},
+    {Obstacle::OffForNow, "Lumaroo is off", "The tutorial shows Lumaroo at work, so it has to be on.", Wish::StartAgent,
+        "&Turn Lumaroo on"},
     {Obstacle::AgentDoesNotStart, "Lumaroo does not start", "A part of it is missing. Install Lumaroo again.",
         Wish::StartAgent, "&Try again"},
     {Obstacle::AgentSilent, "Lumaroo does not answer",

@@ -20,6 +20,8 @@ public:
     /// Starts the one that comes with the tutorial; false, with one logged line, where that cannot be run. It reports
     /// once it is up.
     static bool start();
+    /// Has one that has given its keys back take them again, as whoever asks it for the tutorial does. It reports then.
+    static void switchOn();
 
 Q_SIGNALS:
     void told(const AgentReport &report);
@@ -31,6 +33,7 @@ Q_SIGNALS:
     void selectionAccepted();
     void selectionCancelled();
     void selectionRefused();
+    void keysChanged();
 
 private:
     void handleAnswer(const QString &json);

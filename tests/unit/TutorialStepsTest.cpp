@@ -1,6 +1,7 @@
 // The tutorial's rules, without a display: which steps there are, when one is done, and what has to be there first.
 
 #include "KTXActionKeys.h"
+#include "KTXAgentAnswer.h"
 #include "KTXConstants.h"
 #include "tutorial/Preparation.h"
 #include "tutorial/StageLayout.h"
@@ -24,12 +25,12 @@ AgentReport report()
     return report;
 }
 
-AgentReport reportWithRefusal(const QString &action, const QString &refusal)
+AgentReport reportWithCause(const QString &action, const QString &cause)
 {
     AgentReport one = report();
     for (AgentReport::Key &key : one.keys) {
         if (key.action == action)
-            key.refusal = refusal;
+            key.cause = cause;
     }
     return one;
 }
@@ -135,33 +136,32 @@ TEST(TutorialSteps, areThoseThatTheSettingsAndKeysAllow)
     AgentReport without = report();
     without.wrapsHorizontally = false;
     EXPECT_THAT(possibleSteps(without), ElementsAre(Move, Under, Cancel, Accept, Close));
-    EXPECT_THAT(
-        possibleSteps(reportWithRefusal(KTXUnderPref, "taken")), ElementsAre(Move, Wrap, Cancel, Accept, Close));
-    EXPECT_THAT(possibleSteps(reportWithRefusal(KTXRightPref, "taken")), ElementsAre(Under, Close));
-    EXPECT_THAT(possibleSteps(reportWithRefusal(KTXScreenClosePref, "taken")), Not(testing::Contains(Close)));
-    AgentReport byDoublePress = reportWithRefusal(KTXRightPref, "only pressing the modifiers twice");
+    EXPECT_THAT(possibleSteps(reportWithCause(KTXUnderPref, "taken")), ElementsAre(Move, Wrap, Cancel, Accept, Close));
+    EXPECT_THAT(possibleSteps(reportWithCause(KTXRightPref, "taken")), ElementsAre(Under, Close));
+    EXPECT_THAT(possibleSteps(reportWithCause(KTXScreenClosePref, "taken")), Not(testing::Contains(Close)));
+    AgentReport byDoublePress = reportWithCause(KTXRightPref, "only pressing the modifiers twice");
     byDoublePress.beginsByDoublePress = true;
     EXPECT_EQ(possibleSteps(byDoublePress).size(), 6) << "the keys work once the modifiers have been pressed twice";
 }
 
 TEST(TutorialPreparation, tellsWhatIsInTheWay)
 {
-    const QString held = "another program holds it";
+    const QString held = KTXCauseOtherProgram;
     EXPECT_EQ(preparationFor(report()), Preparation{});
-    AgentReport one = reportWithRefusal(KTXUpPref, held);
+    AgentReport one = reportWithCause(KTXUpPref, held);
     EXPECT_EQ(preparationFor(one), (Preparation{Obstacle::KeysHeld, {"↑"}, 0x1800, 0}));
     one.freeModifiers = 0x1100;
     EXPECT_EQ(preparationFor(one).offered, 0x1100U);
-    EXPECT_EQ(preparationFor(reportWithRefusal(KTXScreenClosePref, held)), Preparation{}) << "that moves nothing";
-    EXPECT_EQ(preparationFor(reportWithRefusal(KTXUpPref, "the keyboard has no such key")), Preparation{});
-    EXPECT_EQ(preparationFor(reportWithRefusal(KTXUpPref, "there are no hot keys in this session")),
-        Preparation{Obstacle::NoHotKeys});
+    EXPECT_EQ(preparationFor(reportWithCause(KTXScreenClosePref, held)), Preparation{}) << "that moves nothing";
+    EXPECT_EQ(preparationFor(reportWithCause(KTXUpPref, KTXCauseNoKey)), Preparation{});
+    EXPECT_EQ(preparationFor(reportWithCause(KTXUpPref, KTXCauseNoHotKeys)), Preparation{Obstacle::NoHotKeys});
+    EXPECT_EQ(preparationFor(reportWithCause(KTXUpPref, KTXCauseGivenUp)), Preparation{Obstacle::OffForNow});
     AgentReport none = report();
     none.modifiers = 0;
     EXPECT_EQ(preparationFor(none), (Preparation{Obstacle::NoModifiers, {}, 0, 0x1800}));
     AgentReport useless = report();
     for (AgentReport::Key &key : useless.keys)
-        key.refusal = "another action has the same key";
+        key.cause = KTXCauseOtherAction;
     EXPECT_EQ(preparationFor(useless), Preparation{Obstacle::KeysUseless});
 }
 
@@ -172,7 +172,7 @@ TEST(TutorialReport, isReadFromTheAgentsAnswer)
             "ActionKeyCyclesAscending": true},
         "hotKeys": [{"action": "moveUpHotKey", "keyCode": 126, "combination": "⌃⌥↑", "registered": true},
             {"action": "moveRightHotKey", "keyCode": 124, "combination": "⌃⌥→", "registered": false,
-                "refusal": "another program holds it"}]})");
+                "refusal": "taken by a window manager", "cause": "otherProgram"}]})");
     ASSERT_TRUE(read);
     EXPECT_EQ(read->modifiers, 0x1800U);
     EXPECT_EQ(read->freeModifiers, 0x1100U);
@@ -180,9 +180,9 @@ TEST(TutorialReport, isReadFromTheAgentsAnswer)
     EXPECT_FALSE(read->wrapsHorizontally);
     EXPECT_TRUE(read->cyclesAscending);
     ASSERT_NE(read->key(KTXRightPref), nullptr);
-    EXPECT_EQ(read->key(KTXRightPref)->refusal, u"another program holds it");
+    EXPECT_EQ(read->key(KTXRightPref)->cause, KTXCauseOtherProgram);
     EXPECT_EQ(read->key(KTXUpPref)->keyCode.number(), 126U);
-    EXPECT_TRUE(read->key(KTXUpPref)->refusal.isEmpty());
+    EXPECT_TRUE(read->key(KTXUpPref)->cause.isEmpty());
 }
 
 TEST(TutorialReport, isNoneBeforeTheFirstReadingAndFromAnythingElse)

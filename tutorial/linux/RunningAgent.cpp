@@ -2,6 +2,7 @@
 
 #include "KTXConstants.h"
 #include "platform/foundation/bundles/NSBundle.h"
+#include "platform/foundation/notifications/CFNotificationCenter.h"
 #include "platform/foundation/notifications/NSDistributedNotificationCenter.h"
 #include "platform/foundation/processes/LaunchServices.h"
 #include "platform/foundation/system/NSLog.h"
@@ -54,6 +55,8 @@ RunningAgent::RunningAgent()
     relay("SelectionAccepted", SIGNAL(selectionAccepted()));
     relay("SelectionCancelled", SIGNAL(selectionCancelled()));
     relay("SelectionRefused", SIGNAL(selectionRefused()));
+    relay("HotKeysChanged", SIGNAL(keysChanged()));
+    connect(this, &RunningAgent::keysChanged, this, &RunningAgent::ask);
     for (const QString &name : {KTXLMAgentLaunched, KTXLMPrefsChanged})
         NSDistributedNotificationCenter::defaultCenter()->addObserverSelectorNameObject(
             this, [this](const NSNotification &) { ask(); }, name);
@@ -94,6 +97,12 @@ void RunningAgent::handleEnd()
 {
     ++question_;
     Q_EMIT wentOff();
+}
+
+void RunningAgent::switchOn()
+{
+    CFNotificationCenterPostNotification(
+        CFNotificationCenterGetDistributedCenter(), KTXLMRunTutorial, KTXLMAppID, {}, true);
 }
 
 bool RunningAgent::start()
