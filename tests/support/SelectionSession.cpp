@@ -96,15 +96,19 @@ void SelectionSession::releaseModifiers()
         keyUp(key);
 }
 
-void SelectionSession::pressModifiersTwice()
+void SelectionSession::pressModifiersOnce()
 {
     constexpr quint32 handsPace = 40; // milliseconds by the server's clock, which the agent goes by
-    for (int i = 0; i < 2; ++i) {
-        holdModifiers();
-        const quint32 start = serverTime();
-        EXPECT_TRUE(waitUntil([start] { return serverTime() - start >= handsPace; }));
-        releaseModifiers();
-    }
+    holdModifiers();
+    const quint32 start = serverTime();
+    EXPECT_TRUE(waitUntil([start] { return serverTime() - start >= handsPace; }));
+    releaseModifiers();
+}
+
+void SelectionSession::pressModifiersTwice()
+{
+    pressModifiersOnce();
+    pressModifiersOnce();
 }
 
 bool SelectionSession::isActive(const QString &title)

@@ -29,6 +29,7 @@ public:
     static void holdModifiers();
     static void releaseModifiers();
     /// As a hand does: what goes faster is taken for a program's typing.
+    static void pressModifiersOnce();
     static void pressModifiersTwice();
 
     /// Waits until a window has the focus.
