@@ -62,7 +62,7 @@ bool managesAll(WindowSystem &system, int count)
 {
     QElapsedTimer timer;
     timer.start();
-    QString failure;
+    WindowFailure failure{};
     while (timer.elapsed() < longestWait) {
         const auto world = system.read({}, &failure);
         if (world && world->windows.size() == count)
@@ -75,7 +75,7 @@ bool managesAll(WindowSystem &system, int count)
 void measure(WindowSystem &system, const OtherProgram &other, int count)
 {
     std::vector<double> readings, floors;
-    QString failure;
+    WindowFailure failure{};
     for (int round = 0; round < rounds; ++round) {
         floors.push_back(milliseconds([&other] {
             for (int trip = 0; trip < roundTrips; ++trip)

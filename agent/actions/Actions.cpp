@@ -10,6 +10,7 @@
 #include "agent/actions/x11/WindowCloser.h"
 #include "agent/gestures/GestureView.h"
 #include "agent/gestures/Gestures.h"
+#include "agent/notices/WindowFailureText.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -61,26 +62,30 @@ void Actions::perform(const QString &action, quint32 time)
         act(*this, time);
 }
 
-/// The desktop and its panels may have the focus, but are nothing to act on.
-std::optional<Actions::Target> Actions::target()
+/// Without a value `reason` says why, with the action's own text where there is just no window.
+std::optional<Actions::Target> Actions::target(const char *noWindow, QString *reason)
 {
-    QString failure;
+    WindowFailure failure{};
     const auto world = windows_.read({true, {}}, &failure);
+    *reason = world ? actionText(noWindow) : windowFailureText(failure);
     if (!world)
         return std::nullopt;
     const quint32 windowID = gestures_.isOn() ? gestures_.selected() : world->activeWindow;
     const WindowDescription *window = world->window(windowID);
+    // The desktop and its panels may have the focus, but are nothing to act on.
     if (!window || window->windowIsIgnored == WindowIgnored::Type)
         return std::nullopt;
+    reason->clear();
     return Target{*world, *window};
 }
 
 void Actions::takeScreenshot(const ActionTold &told)
 {
     gestures_.stay();
-    const auto found = target();
-    const QString reason =
-        found ? reasonForNoPicture(found->window) : actionText("There is no window to take a picture of.");
+    QString reason;
+    const auto found = target("There is no window to take a picture of.", &reason);
+    if (found)
+        reason = reasonForNoPicture(found->window);
     if (!reason.isEmpty()) {
         refuse({pictureMatter, actionText("No picture was taken"), reason, {}}, told);
         return;
@@ -100,7 +105,7 @@ void Actions::takeScreenshot(const ActionTold &told)
 void Actions::tellOfPicture(const WindowDescription &window, const QString &path, const ActionTold &told)
 {
     picture_ = path;
-    notices_.tell({pictureMatter, actionText("Picture of “%1” taken").arg(titleOf(window)),
+    notices_.tell({pictureMatter, actionText("Picture of “%1” taken").arg(shownTitle(window)),
         actionText("It is stored as “%1” in %2.").arg(QFileInfo(path).fileName(), shownFolder(path)),
         actionText("Show"), path});
     Q_EMIT screenshotTaken(path);
@@ -110,26 +115,26 @@ void Actions::tellOfPicture(const WindowDescription &window, const QString &path
 void Actions::closeWindow(quint32 time, const ActionTold &told)
 {
     gestures_.stay();
-    const auto found = target();
+    QString reason;
+    const auto found = target("There is no window to close.", &reason);
     if (!found) {
-        refuse(
-            {closingMatter, actionText("No window was closed"), actionText("There is no window to close."), {}}, told);
+        refuse({closingMatter, actionText("No window was closed"), reason, {}}, told);
         return;
     }
     auto *const closing = new Closing(windows_, found->world, found->window.windowID);
     closing->setParent(this);
     connect(closing, &Closing::ended, this, [this, closing, told](Closing::Outcome outcome, quint32 dialog) {
         closing->deleteLater();
-        gestures_.setClosing(0);
+        gestures_.endClosing(closing->window().windowID);
         hearEnd(closing->window(), outcome, dialog, told);
     });
-    gestures_.setClosing(found->window.windowID);
+    gestures_.beginClosing(found->window.windowID);
     closing->begin(time);
 }
 
 void Actions::hearEnd(const WindowDescription &window, Closing::Outcome outcome, quint32 dialog, const ActionTold &told)
 {
-    const QString title = titleOf(window);
+    const QString title = shownTitle(window);
     switch (outcome) {
     case Closing::Outcome::Closed:
         gestures_.followWindows();
@@ -143,6 +148,13 @@ void Actions::hearEnd(const WindowDescription &window, Closing::Outcome outcome,
         break;
     case Closing::Outcome::StaysOpen:
         refuse({closingMatter, actionText("A window did not close"), actionText("“%1” is still open.").arg(title), {}},
+            told);
+        break;
+    case Closing::Outcome::Unknown:
+        refuse({closingMatter, actionText("A window may still be open"),
+                   actionText("The windows cannot be seen any more, so it is not known whether “%1” has closed.")
+                       .arg(shownTitle(window)),
+                   {}},
             told);
         break;
     case Closing::Outcome::CannotBeAsked:
@@ -167,7 +179,7 @@ void Actions::hearButton(const QString &matter)
 /// Meanwhile the window may have gone, and its number may be another's.
 void Actions::endUnansweringProgram()
 {
-    QString failure;
+    WindowFailure failure{};
     const auto world = windows_.read({true, {}}, &failure);
     const WindowDescription *window = world ? world->window(unanswering_.windowID) : nullptr;
     if (window && window->windowPID == unanswering_.windowPID && window->appName == unanswering_.appName)
@@ -209,8 +221,10 @@ QString Actions::begunPreview()
 {
     if (gestures_.isScreenTaken())
         return actionText("Another program has the keyboard and the mouse, as one that locks the screen.");
-    const auto found = target();
-    const QString reason = found ? reasonForNoPicture(found->window) : actionText("There is no window to show.");
+    QString reason;
+    const auto found = target("There is no window to show.", &reason);
+    if (found)
+        reason = reasonForNoPicture(found->window);
     if (!reason.isEmpty())
         return reason;
     preview(*found);
@@ -232,7 +246,8 @@ void Actions::followWithPreview()
 {
     if (!isPreviewing_)
         return;
-    const auto found = target();
+    QString reason;
+    const auto found = target("", &reason);
     if (found && reasonForNoPicture(found->window).isEmpty())
         preview(*found);
     else

@@ -64,7 +64,7 @@ private:
     };
 
     void perform(const QString &action, quint32 time);
-    std::optional<Target> target();
+    std::optional<Target> target(const char *noWindow, QString *reason);
     void hearEnd(const WindowDescription &window, Closing::Outcome outcome, quint32 dialog, const ActionTold &told);
     void hearButton(const QString &matter);
     void endUnansweringProgram();

@@ -38,21 +38,23 @@ void Closing::begin(quint32 time)
     }
 }
 
-void Closing::look()
+/// False where nobody tells windows; another manager may.
+bool Closing::look()
 {
-    QString failure;
+    WindowFailure failure{};
     const auto world = windows_.read({true, {}}, &failure);
-    // Where nobody tells windows any more, nothing is known of this one either.
-    if (!world || !world->window(window_.windowID))
+    if (!world)
+        return false;
+    if (!world->window(window_.windowID))
         end(Outcome::Closed);
     else if (const quint32 dialog = dialogIn(*world))
         end(Outcome::Asks, dialog);
+    return true;
 }
 
 void Closing::giveUp()
 {
-    look();
-    end(Outcome::StaysOpen);
+    end(look() ? Outcome::StaysOpen : Outcome::Unknown);
 }
 
 /// The topmost one.

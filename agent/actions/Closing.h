@@ -16,6 +16,7 @@ public:
         Closed,
         Asks, ///< its program has opened another window instead
         StaysOpen, ///< for 2 s now
+        Unknown, ///< nobody has told windows for 2 s
         CannotBeAsked ///< its program does not take part in closing; nothing has been done
     };
 
@@ -32,7 +33,7 @@ Q_SIGNALS:
     void ended(Outcome outcome, quint32 dialog);
 
 private:
-    void look();
+    bool look();
     void giveUp();
     quint32 dialogIn(const WindowWorld &world) const;
     void end(Outcome outcome, quint32 dialog = 0);

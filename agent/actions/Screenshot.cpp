@@ -4,7 +4,6 @@
 #include "agent/actions/PictureName.h"
 #include "agent/actions/PictureStoring.h"
 #include "agent/actions/PictureThread.h"
-#include "agent/gestures/GestureView.h"
 
 #include <cerrno>
 
@@ -14,7 +13,7 @@ QString sentenceOf(PictureFailure failure, const WindowDescription &window)
 {
     if (failure == PictureFailure::NotPossible)
         return actionText("This X server gives no pictures of windows.");
-    return actionText("“%1” was closed before there was a picture of it.").arg(titleOf(window));
+    return actionText("“%1” was closed before there was a picture of it.").arg(shownTitle(window));
 }
 
 QString sentenceOf(int error, const QString &folder)
@@ -46,9 +45,9 @@ PictureOrder orderOf(const WindowDescription &window)
 QString reasonForNoPicture(const WindowDescription &window)
 {
     if (window.windowIsIgnored == WindowIgnored::OtherDesktop)
-        return actionText("“%1” is on another desktop, so it has no picture.").arg(titleOf(window));
+        return actionText("“%1” is on another desktop, so it has no picture.").arg(shownTitle(window));
     if (window.isMinimised)
-        return actionText("“%1” is minimised, so it has no picture.").arg(titleOf(window));
+        return actionText("“%1” is minimised, so it has no picture.").arg(shownTitle(window));
     return {};
 }
 

@@ -50,6 +50,14 @@ void UncoveringOverlay::hideOverlay()
     dropPicture();
 }
 
+void UncoveringOverlay::open()
+{
+    if (!overlay_->isLost())
+        return;
+    dropPicture();
+    overlay_ = overlay();
+}
+
 void UncoveringOverlay::pause()
 {
     isPaused_ = true;

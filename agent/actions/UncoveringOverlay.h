@@ -18,6 +18,10 @@ public:
     void showOverlay(const OverlayView &view) override;
     void hideOverlay() override;
 
+    /// Marks on the display that there is now, where the one before has gone. Not to be called while a window is
+    /// marked.
+    void open();
+
     /// Shows no pictures, since a larger one is shown elsewhere.
     void pause();
     void goOn();
@@ -27,7 +31,7 @@ private:
     void takePicture();
     void dropPicture();
 
-    const std::unique_ptr<LayeredOverlay> overlay_;
+    std::unique_ptr<LayeredOverlay> overlay_;
     OverlayView view_; ///< empty where nothing is marked
     bool isPaused_ = false;
     QTimer soon_, gone_;

@@ -53,6 +53,11 @@ QString GestureCommands::end(GestureEvent::Kind kind)
 {
     if (!gestures_.isOn())
         return QStringLiteral("no window is selected");
+    bool isTurnedTo = true;
+    const auto listening = QObject::connect(&gestures_, &Gestures::cancelled, [&isTurnedTo] { isTurnedTo = false; });
     gestures_.command({.kind = kind});
+    QObject::disconnect(listening);
+    if (kind == GestureEvent::Kind::Snap && !isTurnedTo)
+        return QStringLiteral("the selected window is being closed");
     return {};
 }

@@ -8,13 +8,15 @@ QString sentence(const GestureRefusal &refusal)
     case GestureRefusal::Kind::NoWindow:
         return QStringLiteral("there is no window to select");
     case GestureRefusal::Kind::Unreadable:
-        return refusal.detail;
+        return clause(refusal.failure);
     case GestureRefusal::Kind::ScreenTaken:
         return QStringLiteral("another program has the keyboard and the mouse, as one that locks the screen");
     case GestureRefusal::Kind::KeyboardKept:
         return QStringLiteral("another program keeps the keyboard; only the combinations work");
     case GestureRefusal::Kind::NotActivated:
-        return QStringLiteral("%1 did not come to the front").arg(quoted(refusal.detail));
+        return QStringLiteral("%1 did not come to the front").arg(quoted(refusal.title));
+    case GestureRefusal::Kind::Closed:
+        return QStringLiteral("%1 has been closed meanwhile").arg(quoted(refusal.title));
     }
     return {};
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include "agent/windows/WindowFailure.h"
 
 /// Why nothing came of a gesture, or not what was meant.
 struct GestureRefusal
@@ -10,11 +10,13 @@ struct GestureRefusal
         Unreadable, ///< the desktop does not tell its windows
         ScreenTaken, ///< another program has keyboard and mouse, as one that locks the screen
         KeyboardKept, ///< by another program; the combinations work
-        NotActivated ///< the window that was accepted
+        NotActivated, ///< the window that was accepted
+        Closed ///< that window, before it had the focus
     };
 
     Kind kind = Kind::NoWindow;
-    QString detail; ///< of what cannot be read, the reason; of a window, its title, which may be empty
+    QString title = {}; ///< the window's, which may be empty
+    WindowFailure failure = {}; ///< of what cannot be read
 };
 
 /// A sentence without its full stop.

@@ -15,8 +15,6 @@ namespace {
 constexpr auto hesitation = 400ms;
 /// Without a key for that long the user has gone.
 constexpr auto patience = 30s;
-/// Windows that take longer come to the front without their mark.
-constexpr auto longestFarewell = 50ms;
 
 /// No value for an action that neither moves nor ends a selection.
 std::optional<GestureEvent> eventOf(const QString &action, quint32 time)
@@ -69,10 +67,7 @@ Gestures::Gestures(WindowSystem &windows, Overlay &overlay, GestureKeys &keys)
     connect(&limit_, &QTimer::timeout, this, &Gestures::cancel);
     connect(&farewell_, &QTimer::timeout, this, [this] { overlay_.hideOverlay(); });
     connect(&windows, &WindowSystem::activated, this, &Gestures::takeMarkAway);
-    connect(&windows, &WindowSystem::notActivated, this, [this](quint32 windowID) {
-        takeMarkAway();
-        Q_EMIT refused({GestureRefusal::Kind::NotActivated, turnedTo_.value(windowID)});
-    });
+    connect(&windows, &WindowSystem::notActivated, this, &Gestures::tellOfWindow);
 }
 
 Gestures::~Gestures()
@@ -142,7 +137,7 @@ bool Gestures::perform(GestureStep step, const GestureEvent &event)
         Q_EMIT cancelled();
         return false;
     case GestureStep::TellOfKeyboard:
-        Q_EMIT refused({GestureRefusal::Kind::KeyboardKept, {}});
+        Q_EMIT refused({GestureRefusal::Kind::KeyboardKept});
         return true;
     case GestureStep::Accept:
         accept(event.time);
@@ -203,10 +198,10 @@ bool Gestures::showSelected(quint32 before)
 
 bool Gestures::read()
 {
-    QString failure;
+    WindowFailure failure{};
     auto world = windows_.read(run_->settings.windows, &failure);
     if (!world) {
-        Q_EMIT refused({GestureRefusal::Kind::Unreadable, failure});
+        Q_EMIT refused({GestureRefusal::Kind::Unreadable, {}, failure});
         return false;
     }
     run_->world = std::move(*world);
@@ -242,54 +237,6 @@ void Gestures::label()
 void Gestures::choose(int digit)
 {
     run_->selection.select(run_->labels.value(digit, run_->selection.selected()));
-}
-
-void Gestures::accept(quint32 time)
-{
-    const quint32 selected = run_->selection.selected();
-    if (selected == closing_) {
-        Q_EMIT cancelled();
-        return;
-    }
-    before_ = run_->origin;
-    turnedTo_ = {{selected, title(selected)}};
-    windows_.activate(selected, time);
-    farewell_.start(longestFarewell);
-    Q_EMIT accepted(title(selected));
-}
-
-void Gestures::goBack(quint32 time)
-{
-    if (before_ == 0)
-        return;
-    turnedTo_ = {{before_, QString()}};
-    windows_.activate(before_, time);
-}
-
-/// Nothing of a gesture stays behind.
-void Gestures::finish()
-{
-    labels_.stop();
-    limit_.stop();
-    // The display takes a while to draw what was below it, and the window would have to wait for that.
-    if (!farewell_.isActive())
-        overlay_.hideOverlay();
-    windows_.expectActivation(false);
-    keys_.end();
-    session_.end();
-    if (!run_)
-        return;
-    run_.reset();
-    Q_EMIT over();
-}
-
-/// Of the gesture before.
-void Gestures::takeMarkAway()
-{
-    if (!farewell_.isActive())
-        return;
-    farewell_.stop();
-    overlay_.hideOverlay();
 }
 
 QString Gestures::title(quint32 windowID) const

@@ -40,8 +40,9 @@ public:
     void followWindows();
     /// Something has been done with the selection: it stays for another while. Harmless where none is on.
     void stay();
-    /// A window that has been asked to close is not turned to; 0 for none any more.
-    void setClosing(quint32 windowID) { closing_ = windowID; }
+    /// A window that has been asked to close is not turned to, until it is known how it took that.
+    void beginClosing(quint32 windowID) { closing_ += windowID; }
+    void endClosing(quint32 windowID) { closing_ -= windowID; }
 
 Q_SIGNALS:
     void began();
@@ -70,6 +71,13 @@ private:
         QHash<int, quint32> labels; ///< digits with their windows
     };
 
+    /// A window that is turned to, and how it is told of.
+    struct Destination
+    {
+        quint32 windowID = 0; ///< 0 for none
+        QString title;
+    };
+
     void hearPress(const QString &action, quint32 time);
     void take(const GestureEvent &event);
     bool perform(GestureStep step, const GestureEvent &event);
@@ -86,6 +94,7 @@ private:
     void goBack(quint32 time);
     void finish();
     void takeMarkAway();
+    void tellOfWindow(quint32 windowID, bool hasClosed);
     void endUnless(bool goesOn);
     void interrupt(quint32 time) { take({.kind = GestureEvent::Kind::Interrupted, .time = time}); }
     QString title(quint32 windowID) const;
@@ -97,9 +106,9 @@ private:
     GestureSettings settings_;
     Gesture gesture_;
     std::optional<Run> run_;
-    quint32 before_ = 0; ///< the window with the focus before the last one that was accepted
-    quint32 closing_ = 0;
-    QHash<quint32, QString> turnedTo_; ///< the title of the window that is being turned to
+    Destination before_; ///< the window with the focus before the last one that was accepted
+    Destination turnedTo_; ///< the last one
+    QSet<quint32> closing_;
     QTimer labels_;
     QTimer limit_;
     QTimer farewell_; ///< while the mark stands at a window that is being turned to

@@ -19,7 +19,7 @@ bool Gestures::mayBegin()
 {
     if (run_->takesKeys || !isScreenTaken())
         return true;
-    Q_EMIT refused({GestureRefusal::Kind::ScreenTaken, {}});
+    Q_EMIT refused({GestureRefusal::Kind::ScreenTaken});
     return false;
 }
 

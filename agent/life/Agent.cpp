@@ -106,6 +106,8 @@ void Agent::takeKeys()
 {
     hotKeys_.apply(settings());
     gestureKeys_.apply(settings());
+    windows_->open();
+    overlay_.open();
     notices_.lookAtKeys();
 }
 
@@ -141,9 +143,14 @@ void Agent::readChange()
 /// As the pane stores them.
 void Agent::takeModifiers(quint32 modifiers)
 {
+    const QVariant before = CFPreferencesCopyAppValue(KTXModifierMask, KTXLMAppID);
     CFPreferencesSetAppValue(KTXModifierMask, qlonglong(modifiers), KTXLMAppID);
-    if (!CFPreferencesAppSynchronize(KTXLMAppID))
+    if (!CFPreferencesAppSynchronize(KTXLMAppID)) {
+        // It would be stored with whatever is stored next, when nobody thinks of it any more.
+        CFPreferencesSetAppValue(KTXModifierMask, before, KTXLMAppID);
+        notices_.tellOfUnstoredModifiers();
         return;
+    }
     readSettings();
     announce(KTXLMPrefsChanged);
 }

@@ -73,10 +73,10 @@ void showPreview(const AgentRequest &)
 void printWindows(const AgentRequest &)
 {
     const QVariantMap stored = NSUserDefaults::standardUserDefaults()->persistentDomainForName(KTXLMAppID);
-    QString failure;
+    WindowFailure failure{};
     const auto world = windowSystem()->read(windowChoice(effectiveSettings(stored)), &failure);
     if (!world)
-        throw CommandFailure(QStringLiteral("the windows cannot be read: %1").arg(failure));
+        throw CommandFailure(QStringLiteral("the windows cannot be read: %1").arg(clause(failure)));
     print(windowTable(*world).toUtf8().constData());
 }
 

@@ -3,6 +3,7 @@
 #include "KTXActionKeys.h"
 #include "KeyCodeTranslator.h"
 #include "agent/notices/NoticeTexts.h"
+#include "agent/notices/WindowFailureText.h"
 
 #include <utility>
 
@@ -11,20 +12,28 @@ namespace {
 const QString keysMatter = QStringLiteral("keys");
 const QString welcomeMatter = QStringLiteral("welcome");
 
+QString textOf(const GestureRefusal &refusal)
+{
+    const bool hasTitle = !refusal.title.isEmpty();
+    if (refusal.kind == GestureRefusal::Kind::Closed)
+        return hasTitle ? noticeText("“%1” has been closed.").arg(refusal.title) : noticeText("It has been closed.");
+    return hasTitle ? noticeText("The window manager did not turn to “%1”.").arg(refusal.title)
+                    : noticeText("The window manager did not turn to it.");
+}
+
 Notice noticeOf(const GestureRefusal &refusal)
 {
     using Kind = GestureRefusal::Kind;
     switch (refusal.kind) {
     case Kind::Unreadable:
-        return {QStringLiteral("windows"), noticeText("Windows cannot be selected here"), refusal.detail, {}};
+        return {QStringLiteral("windows"), noticeText("Windows cannot be selected here"),
+            windowFailureText(refusal.failure), {}};
     case Kind::KeyboardKept:
         return {QStringLiteral("keyboard"), noticeText("Another program keeps the keyboard"),
             noticeText("Until it lets go, Lumaroo's keys work with the modifier keys held."), {}};
     case Kind::NotActivated:
-        return {QStringLiteral("activation"), noticeText("A window did not come to the front"),
-            refusal.detail.isEmpty() ? noticeText("The window manager did not turn to it.")
-                                     : noticeText("The window manager did not turn to “%1”.").arg(refusal.detail),
-            {}};
+    case Kind::Closed:
+        return {QStringLiteral("activation"), noticeText("A window did not come to the front"), textOf(refusal), {}};
     case Kind::NoWindow:
     case Kind::ScreenTaken:
         break;
@@ -32,11 +41,17 @@ Notice noticeOf(const GestureRefusal &refusal)
     return {};
 }
 
+QString offerText(quint32 modifiers)
+{
+    return noticeText("Use %1").arg(modifierGlyphs(modifiers));
+}
+
 } // namespace
 
 AgentNotices::AgentNotices(const AgentHotKeys &hotKeys, const Gestures &gestures) : hotKeys_(hotKeys)
 {
     connect(&gestures, &Gestures::refused, this, &AgentNotices::handleRefusal);
+    connect(&gestures, &Gestures::began, this, [this] { unreadable_.reset(); });
     connect(&notices_, &Notices::pressed, this, &AgentNotices::handlePress);
     // Only the welcome has two buttons.
     connect(&notices_, &Notices::secondPressed, this, &AgentNotices::settingsChosen);
@@ -47,21 +62,29 @@ void AgentNotices::handlePress(const QString &matter)
     if (matter == welcomeMatter)
         Q_EMIT tutorialChosen();
     else if (matter == keysMatter && offered_ != 0)
-        Q_EMIT modifiersChosen(std::exchange(offered_, 0));
+        Q_EMIT modifiersChosen(offered_);
+}
+
+void AgentNotices::tellOfUnstoredModifiers()
+{
+    notices_.tell({keysMatter, noticeText("The modifier keys stay as they are"),
+        noticeText("Your choice could not be stored. The disk may be full."), offerText(offered_)});
 }
 
 void AgentNotices::lookAtKeys()
 {
     const QStringList held = hotKeys_.movementKeysHeldByOthers();
+    if (held.isEmpty())
+        offered_ = 0;
     if (std::exchange(heldKeys_, held) == held || held.isEmpty())
         return;
     Notice notice{keysMatter, noticeText("Another program holds Lumaroo's keys"),
         noticeText("Lumaroo does not get %1.").arg(held.join(QStringLiteral(", "))), {}};
     offered_ = hotKeys_.freeModifiers().value(0);
     if (offered_ != 0) {
-        const QString glyphs = modifierGlyphs(offered_);
-        notice.text += u' ' + noticeText("With %1 held instead, all movement keys are free.").arg(glyphs);
-        notice.button = noticeText("Use %1").arg(glyphs);
+        notice.text +=
+            u' ' + noticeText("With %1 held instead, all movement keys are free.").arg(modifierGlyphs(offered_));
+        notice.button = offerText(offered_);
     }
     notices_.tell(notice);
 }
@@ -83,9 +106,10 @@ void AgentNotices::welcome(const QString &keysToPress)
 
 void AgentNotices::handleRefusal(const GestureRefusal &refusal)
 {
-    // Another window each time; the others stay as they are.
-    const bool isNews = refusal.kind == GestureRefusal::Kind::NotActivated || !told_.contains(refusal.kind);
-    told_ += refusal.kind;
-    if (const Notice notice = noticeOf(refusal); isNews && !notice.matter.isEmpty())
+    // Each key would tell it anew until windows can be read again.
+    if (refusal.kind == GestureRefusal::Kind::Unreadable
+        && std::exchange(unreadable_, refusal.failure) == refusal.failure)
+        return;
+    if (const Notice notice = noticeOf(refusal); !notice.matter.isEmpty())
         notices_.tell(notice);
 }

@@ -4,7 +4,7 @@
 #include "agent/keys/AgentHotKeys.h"
 #include "agent/notices/Notices.h"
 
-#include <QSet>
+#include <optional>
 
 /// What the agent tells its user by itself: each cause once, until it is another.
 class AgentNotices : public QObject
@@ -17,6 +17,8 @@ public:
     /// Tells of movement keys that other programs hold, with other modifiers to take. Called when the keys have
     /// followed the settings.
     void lookAtKeys();
+    /// Tells that those which its user has taken could not be stored, and offers them again.
+    void tellOfUnstoredModifiers();
     /// Tells that the tutorial, which was asked for, could not be started.
     void tellOfMissingTutorial();
     /// Tells who has started the agent for the first time that it is on, and what to press (empty where no key works);
@@ -38,5 +40,5 @@ private:
     Notices notices_;
     QStringList heldKeys_; ///< by others, as of the last look
     quint32 offered_ = 0; ///< modifiers
-    QSet<GestureRefusal::Kind> told_;
+    std::optional<WindowFailure> unreadable_; ///< that was told last, since windows were read
 };

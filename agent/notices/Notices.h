@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QSet>
 #include <QString>
 
 class QDBusServiceWatcher;
@@ -17,7 +18,8 @@ struct Notice
     QString secondButton = {}; ///< beside the first
 };
 
-/// The desktop's notifications. Nothing is listened to but while a bubble with a button is up.
+/// The desktop's notifications. Of its own accord the desktop is heard only while a bubble with a button is up; else
+/// what is told is whether its server has gone, while there is a bubble.
 class Notices : public QObject
 {
     Q_OBJECT
@@ -41,9 +43,11 @@ private Q_SLOTS:
 private:
     void handleShown(const Notice &notice, quint32 id);
     void forgetAll();
+    void followShown();
     void listen(bool listen);
 
-    QHash<QString, quint32> shown_; ///< the bubble of each matter that has one
+    QHash<QString, quint32> shown_; ///< the newest bubble of each matter; perhaps it has been closed
+    QSet<QString> pressable_; ///< the matters whose bubble has a button and is up
     bool isListening_ = false;
     QDBusServiceWatcher *const server_; ///< that shows them
 };

@@ -9,10 +9,16 @@ namespace {
 class NoOverlay : public LayeredOverlay
 {
 public:
+    explicit NoOverlay(bool isLost) : isLost_(isLost) { }
+
     void setStyle(const OverlayStyle &) override { }
     void showOverlay(const OverlayView &) override { }
     void hideOverlay() override { }
     void showBelow(quint32) override { }
+    bool isLost() override { return isLost_; }
+
+private:
+    const bool isLost_;
 };
 
 } // namespace
@@ -24,5 +30,6 @@ std::unique_ptr<LayeredOverlay> overlay()
         return std::make_unique<XOverlay>(std::move(display));
     if (!failure.isEmpty())
         NSLog(QStringLiteral("lumaroo: agent: selected windows are not marked: %1").arg(failure));
-    return std::make_unique<NoOverlay>();
+    // What a display lacks it will not have later.
+    return std::make_unique<NoOverlay>(failure.isEmpty());
 }

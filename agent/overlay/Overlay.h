@@ -56,6 +56,8 @@ public:
 class LayeredOverlay : public Overlay
 {
 public:
+    /// Whether the display has gone, or was not there: another one is to take its place.
+    virtual bool isLost() = 0;
     /// Shows a window between the mark and all others, with the mark's texts or after them. In the moment in which the
     /// mark leaves this place it is on screen no more. The one before is forgotten; 0 for none any more, whatever has
     /// become of it.

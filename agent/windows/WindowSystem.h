@@ -1,6 +1,7 @@
 #pragma once
 
 #include "agent/windows/WindowChoice.h"
+#include "agent/windows/WindowFailure.h"
 #include "agent/windows/WindowWorld.h"
 
 #include <QObject>
@@ -14,9 +15,13 @@ class WindowSystem : public QObject
     Q_OBJECT
 
 public:
-    /// All windows as they are now; no value where the desktop does not tell them: `failure` then is a clause that says
-    /// why. Waits for the display. Once the display has gone, no later reading works.
-    virtual std::optional<WindowWorld> read(const WindowChoice &choice, QString *failure) = 0;
+    /// Connects to the display where it is not connected, as once it has come back. Called when the keys are taken
+    /// anew.
+    virtual void open() = 0;
+
+    /// All windows as they are now; no value where the desktop does not tell them: `failure` then says why. Waits for
+    /// the display. Once the display has gone, no reading works before it is opened again.
+    virtual std::optional<WindowWorld> read(const WindowChoice &choice, WindowFailure *failure) = 0;
 
     /// Turns to a window: its desktop, and it in front with the focus, also where it is minimised. `time` is that of
     /// the key or button that decided, in the display's own clock, and never 0. Returns at once; activated() or
@@ -34,8 +39,9 @@ public:
 Q_SIGNALS:
     /// It has the focus, or a modal window of its own or of its group has.
     void activated(quint32 windowID);
-    void notActivated(quint32 windowID);
+    /// It does not have it; `hasClosed` where that is because there is no such window any more.
+    void notActivated(quint32 windowID, bool hasClosed);
 };
 
-/// The door that is open in this session; never null. Without a display its reading fails.
+/// The door of this session, opened; never null. Without a display its reading fails.
 std::unique_ptr<WindowSystem> windowSystem();

@@ -1,6 +1,7 @@
 // How windows take being closed.
 
 #include "agent/actions/Closing.h"
+#include "DisplayRoot.h"
 #include "LivingWindow.h"
 #include "WindowsOnDesktop.h"
 #include "agent/actions/x11/WindowCloser.h"
@@ -69,6 +70,18 @@ TEST_F(ClosingOnDesktop, ofAWindowThatRefusesIsToldAfterTwoSeconds)
     EXPECT_TRUE(isAsked);
     EXPECT_THAT(outcomes, ElementsAre(Outcome::StaysOpen));
     EXPECT_GE(timer.elapsed(), 1900);
+}
+
+TEST_F(ClosingOnDesktop, isNotKnownWhereNobodyTellsWindowsAnyMore)
+{
+    constexpr char property[] = "_NET_SUPPORTING_WM_CHECK";
+    const QList<quint32> manager = valuesOnRoot(property);
+    LivingWindow window("Unseen", somewhere);
+    window.whenAskedToClose([&] { removeFromRoot(property); });
+    ASSERT_TRUE(window.show());
+    close(window);
+    EXPECT_THAT(outcomes, ElementsAre(Outcome::Unknown));
+    setOnRoot(property, "WINDOW", manager);
 }
 
 TEST_F(ClosingOnDesktop, ofAWindowThatHangsIsToldAfterTwoSeconds)

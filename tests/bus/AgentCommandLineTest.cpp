@@ -118,10 +118,10 @@ TEST_F(TheCommandLine, saysWhyNothingCameOfAnAction)
 {
     AgentProgram agent;
     ASSERT_TRUE(agent.waitForLaunch());
-    EXPECT_EQ(runAgent({"--screenshot"}).errors, "LumarooAgent: There is no window to take a picture of.\n");
-    EXPECT_EQ(runAgent({"--close"}).errors, "LumarooAgent: There is no window to close.\n");
+    EXPECT_EQ(runAgent({"--screenshot"}).errors, "LumarooAgent: There is no X server.\n");
+    EXPECT_EQ(runAgent({"--close"}).errors, "LumarooAgent: There is no X server.\n");
     const ProgramResult result = runAgent({"--preview"});
-    EXPECT_EQ(result.errors, "LumarooAgent: There is no window to show.\n");
+    EXPECT_EQ(result.errors, "LumarooAgent: There is no X server.\n");
     EXPECT_EQ(result.output, "");
     EXPECT_EQ(result.status, 1);
 }

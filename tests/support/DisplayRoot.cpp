@@ -107,6 +107,16 @@ void removeFromRoot(const char *property)
     waitForServer(connection);
 }
 
+QList<quint32> valuesOnRoot(const char *property)
+{
+    const XConnection connection = connectToXServer();
+    const auto asked = xcb_get_property(connection.get(), 0, screenOf(connection)->root,
+        displayAtom(connection.get(), property), XCB_GET_PROPERTY_TYPE_ANY, 0, 1024);
+    const auto reply = fromServer(xcb_get_property_reply(connection.get(), asked, nullptr));
+    const auto *const values = static_cast<const quint32 *>(xcb_get_property_value(reply.get()));
+    return {values, values + xcb_get_property_value_length(reply.get()) / int(sizeof(quint32))};
+}
+
 void setMonitors(const QList<QRect> &monitors, int dotsPerInch)
 {
     const XConnection connection = connectToXServer();

@@ -16,9 +16,9 @@ public:
     /// What a reading says; it has to work.
     WindowWorld world(const WindowChoice &choice = {})
     {
-        QString failure;
+        WindowFailure failure{};
         const auto world = system->read(choice, &failure);
-        EXPECT_TRUE(world) << failure.toStdString();
+        EXPECT_TRUE(world) << clause(failure).toStdString();
         return world.value_or(WindowWorld());
     }
     /// What it says of one window; empty where that is left out.

@@ -123,6 +123,31 @@ TEST_F(ActionsByCommand, saysThatAWindowIsStillOpen)
     EXPECT_TRUE(waitUntil([this] { return server.bubbles().size() == 1; }));
 }
 
+TEST_F(ActionsByCommand, turnsToNoWindowThatIsBeingClosedAlsoOnceAnotherHas)
+{
+    LivingWindow first("First", lowerRight), second("Second", {820, 400, 150, 100});
+    int asked = 0;
+    for (LivingWindow *window : {&first, &second})
+        window->whenAskedToClose([&] { ++asked; });
+    ASSERT_NO_FATAL_FAILURE(openWith(first));
+    ASSERT_TRUE(second.show());
+    turnToWindow(first.id());
+    ASSERT_TRUE(waitUntil([&] { return activeWindow() == first.id(); }));
+    EXPECT_TRUE(does({"--move", "right"}));
+    ASSERT_TRUE(says({"began", "moved to Second"}));
+    EXPECT_TRUE(does({"--move", "left"}));
+    AgentProgram closingFirst({"--close"});
+    ASSERT_TRUE(waitUntil([&] { return asked == 1; }));
+    EXPECT_TRUE(does({"--move", "right"}));
+    AgentProgram closingSecond({"--close"});
+    ASSERT_TRUE(waitUntil([&] { return asked == 2; }));
+    first.close();
+    EXPECT_EQ(closingFirst.exitStatus(), 0);
+    refuses({"--accept"}, "the selected window is being closed");
+    EXPECT_EQ(steps().last(), "cancelled");
+    EXPECT_EQ(closingSecond.exitStatus(), 1);
+}
+
 TEST_F(ActionsByCommand, saysThatAWindowAsksBack)
 {
     LivingWindow window("asking", lowerRight);

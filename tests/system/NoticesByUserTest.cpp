@@ -8,6 +8,7 @@
 #include "OtherClient.h"
 #include "Wait.h"
 
+#include <QFileInfo>
 #include <linux/input-event-codes.h>
 
 namespace {
@@ -42,6 +43,28 @@ TEST_F(NoticesByUser, offerOtherModifiersWhereAProgramHoldsAMovementKey)
         EXPECT_TRUE(key.toObject().value("registered").toBool())
             << qPrintable(key.toObject().value("action").toString());
     EXPECT_EQ(server.bubbles().size(), 1);
+}
+
+TEST_F(NoticesByUser, offerThemAgainWhereTheChoiceCannotBeStored)
+{
+    NotificationServer server;
+    ASSERT_TRUE(other.grabKey(KEY_LEFT, controlAndAlt));
+    AgentProgram agent;
+    ASSERT_TRUE(waitForLaunchOf(agent));
+    ASSERT_TRUE(waitUntil([&] { return server.bubbles().size() == 1; }));
+    const QString folder = QFileInfo(settingsPath()).path();
+    const QVariantMap before = stored();
+    ASSERT_TRUE(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
+    server.pressButton();
+    ASSERT_TRUE(waitUntil([&] { return server.bubbles().size() == 2; }));
+    EXPECT_EQ(server.bubbles().last().title, u"The modifier keys stay as they are");
+    EXPECT_EQ(server.bubbles().last().text, u"Your choice could not be stored. The disk may be full.");
+    EXPECT_EQ(server.bubbles().last().actions, QStringList({"button", "Use ⌃⌘"}));
+    ASSERT_TRUE(QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    EXPECT_EQ(stored(), before);
+    server.pressButton();
+    EXPECT_TRUE(announces({changedByAgent()}));
+    EXPECT_EQ(stored().value(KTXModifierMask), QVariant(0x1100));
 }
 
 TEST_F(NoticesByUser, tellOfHeldKeysOnceAndAgainWhenTheyAreOthers)
@@ -79,11 +102,13 @@ TEST_F(NoticesByUser, tellThatTheTutorialIsMissing)
     const AgentBundle bundle(builtVersion()); // the agent alone
     AgentProgram agent({QStringLiteral("--foreground")}, bundle.executable());
     ASSERT_TRUE(waitForLaunchOf(agent));
-    for (int i = 0; i < 2; ++i)
+    for (qsizetype bubbles = 1; bubbles <= 2; ++bubbles) {
         paneAnnounces(KTXLMRunTutorial);
-    ASSERT_TRUE(waitUntil([&] { return server.bubbles().size() == 2; }));
+        ASSERT_TRUE(waitUntil([&] { return server.bubbles().size() == bubbles; }));
+    }
     EXPECT_EQ(server.bubbles().first().title, u"The tutorial cannot be started");
     EXPECT_EQ(server.bubbles().first().text, u"A part of Lumaroo is missing. Install it again.");
+    EXPECT_EQ(server.bubbles().last().replaced, 1U);
     EXPECT_EQ(agent.errors().count(QStringLiteral("LumarooTutorial.app does not start")), 2);
     EXPECT_TRUE(agent.isRunning());
 }

@@ -39,9 +39,9 @@ protected:
     /// Where the rule leads in the world as it is now, while the same keys are pressed.
     quint32 walk()
     {
-        QString failure;
+        WindowFailure failure{};
         const auto world = system_->read({}, &failure);
-        EXPECT_TRUE(world) << qPrintable(failure);
+        EXPECT_TRUE(world) << qPrintable(clause(failure));
         Selection selection{{}};
         EXPECT_TRUE(world && selection.begin(*world));
         holdModifiers();

@@ -80,7 +80,7 @@ void Notices::tell(const Notice &notice)
         const QDBusPendingReply<quint32> shown = *answer;
         if (shown.isError() && limit->isActive())
             log(notice);
-        else if (!shown.isError() && !notice.button.isEmpty())
+        else if (!shown.isError())
             handleShown(notice, shown.value());
     });
 }
@@ -88,7 +88,11 @@ void Notices::tell(const Notice &notice)
 void Notices::handleShown(const Notice &notice, quint32 id)
 {
     shown_.insert(notice.matter, id);
-    listen(true);
+    if (notice.button.isEmpty())
+        pressable_.remove(notice.matter);
+    else
+        pressable_.insert(notice.matter);
+    followShown();
 }
 
 void Notices::handleAction(quint32 id, const QString &action)
@@ -104,16 +108,24 @@ void Notices::handleAction(quint32 id, const QString &action)
 
 void Notices::handleClosing(quint32 id)
 {
-    shown_.remove(shown_.key(id));
-    if (shown_.isEmpty())
-        listen(false);
+    const QString matter = shown_.key(id);
+    shown_.remove(matter);
+    pressable_.remove(matter);
+    followShown();
 }
 
 /// Another server numbers its bubbles anew.
 void Notices::forgetAll()
 {
     shown_.clear();
-    listen(false);
+    pressable_.clear();
+    followShown();
+}
+
+void Notices::followShown()
+{
+    listen(!pressable_.isEmpty());
+    server_->setWatchedServices(shown_.isEmpty() ? QStringList() : QStringList{service});
 }
 
 void Notices::listen(bool listen)
@@ -129,5 +141,4 @@ void Notices::listen(bool listen)
     };
     follow("ActionInvoked", SLOT(handleAction(quint32, QString)));
     follow("NotificationClosed", SLOT(handleClosing(quint32)));
-    server_->setWatchedServices(listen ? QStringList{service} : QStringList());
 }

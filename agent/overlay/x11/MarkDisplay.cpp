@@ -169,6 +169,12 @@ bool MarkDisplay::isComposited()
     return isComposited_;
 }
 
+bool MarkDisplay::hasGone()
+{
+    isComposited(); // reads what has come in, and so its end
+    return isLost();
+}
+
 quint32 MarkDisplay::pixel(quint32 color) const
 {
     return channel(color >> 16 & 0xff, masks_[0]) | channel(color >> 8 & 0xff, masks_[1])

@@ -24,6 +24,8 @@ public:
 
     xcb_connection_t *server() const { return connection_.get(); }
     bool isLost() const { return xcb_connection_has_error(connection_.get()) != 0; }
+    /// The same, where nothing may have come in or gone out for long.
+    bool hasGone();
     void flush() const { xcb_flush(connection_.get()); }
 
     xcb_window_t root() const { return screen_->root; }

@@ -18,6 +18,7 @@ public:
     void showOverlay(const OverlayView &view) override;
     void hideOverlay() override;
     void showBelow(quint32 windowID) override;
+    bool isLost() override { return display_->hasGone(); }
 
 private:
     void useColors();

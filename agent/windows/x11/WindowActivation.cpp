@@ -160,6 +160,13 @@ bool WindowActivation::isActive() const
     return active != XCB_WINDOW_NONE && (active == window_ || isModalChild(active));
 }
 
+bool WindowActivation::hasClosed(xcb_window_t window) const
+{
+    const ReceivedProperty own(
+        server_.connection, askProperty(server_.connection, window, server_.atoms.windowDesktop, 1));
+    return !own.isAnswered() && !xcb_connection_has_error(server_.connection);
+}
+
 /// Of the window itself, or of all windows of its group where it belongs to none of them.
 bool WindowActivation::isModalChild(xcb_window_t window) const
 {
@@ -205,5 +212,5 @@ void WindowActivation::finish(bool isActive)
     if (isActive)
         Q_EMIT activated(window);
     else
-        Q_EMIT notActivated(window);
+        Q_EMIT notActivated(window, hasClosed(window));
 }

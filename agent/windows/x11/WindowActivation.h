@@ -24,7 +24,7 @@ public:
 
 Q_SIGNALS:
     void activated(quint32 windowID);
-    void notActivated(quint32 windowID);
+    void notActivated(quint32 windowID, bool hasClosed);
 
 private:
     bool ask(xcb_timestamp_t time);
@@ -34,6 +34,7 @@ private:
     void look();
     bool hasActiveWindowChanged();
     bool isActive() const;
+    bool hasClosed(xcb_window_t window) const;
     bool isModalChild(xcb_window_t window) const;
     bool isModal(xcb_window_t window) const;
     bool isOfGroup(xcb_window_t window) const;

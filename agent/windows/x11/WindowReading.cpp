@@ -134,7 +134,7 @@ bool isRunning(const WindowServer &server, xcb_window_t manager, xcb_get_propert
 
 } // namespace
 
-std::optional<WindowWorld> readWindows(const WindowServer &server, const WindowChoice &choice, QString *failure)
+std::optional<WindowWorld> readWindows(const WindowServer &server, const WindowChoice &choice, WindowFailure *failure)
 {
     MonitorReading monitors(server.connection, server.screen, server.tellsMonitors);
     const Desktop desktop = readDesktop(server);
@@ -152,12 +152,11 @@ std::optional<WindowWorld> readWindows(const WindowServer &server, const WindowC
     const bool hasManager = isRunning(server, desktop.manager, manager);
     const QList<WindowFacts> facts = takeAll(server, readings);
     if (xcb_connection_has_error(server.connection)) {
-        *failure = QStringLiteral("the X server has gone");
+        *failure = WindowFailure::ServerHasGone;
         return std::nullopt;
     }
     if (!hasManager || !desktop.tellsClients) {
-        *failure = hasManager ? QStringLiteral("the window manager does not tell which windows there are")
-                              : QStringLiteral("no window manager runs that tells which windows there are");
+        *failure = hasManager ? WindowFailure::SilentManager : WindowFailure::NoManager;
         return std::nullopt;
     }
     return WindowWorld{described(facts, surroundings), surroundings.monitors, desktop.activeWindow};

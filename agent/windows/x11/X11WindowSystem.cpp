@@ -4,21 +4,27 @@
 #include "agent/windows/x11/ServerTime.h"
 #include "agent/windows/x11/WindowReading.h"
 
-X11WindowSystem::X11WindowSystem()
+void X11WindowSystem::open()
 {
-    if (!open())
+    // Reads what has come in, and so the server's end.
+    if (activation_)
+        activation_->lookAtWhatCameMeanwhile();
+    if (connection_ && !xcb_connection_has_error(connection_.get()))
+        return;
+    activation_.reset();
+    if (!connectToServer())
         connection_ = nullptr;
 }
 
-bool X11WindowSystem::open()
+bool X11WindowSystem::connectToServer()
 {
     if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
-        failure_ = QStringLiteral("a Wayland session does not let programs see other programs' windows");
+        failure_ = WindowFailure::WaylandSession;
         return false;
     }
     int preferredScreen = 0;
     connection_ = connectToXServer(&preferredScreen);
-    failure_ = QStringLiteral("there is no X server");
+    failure_ = WindowFailure::NoServer;
     if (xcb_connection_has_error(connection_.get()))
         return false;
     auto screen = xcb_setup_roots_iterator(xcb_get_setup(connection_.get()));
@@ -35,7 +41,7 @@ bool X11WindowSystem::open()
     return true;
 }
 
-std::optional<WindowWorld> X11WindowSystem::read(const WindowChoice &choice, QString *failure)
+std::optional<WindowWorld> X11WindowSystem::read(const WindowChoice &choice, WindowFailure *failure)
 {
     if (!connection_) {
         *failure = failure_;
@@ -52,7 +58,7 @@ void X11WindowSystem::activate(quint32 windowID, quint32 time)
         activation_->begin(windowID, time);
     else
         QMetaObject::invokeMethod(
-            this, [this, windowID] { Q_EMIT notActivated(windowID); }, Qt::QueuedConnection);
+            this, [this, windowID] { Q_EMIT notActivated(windowID, false); }, Qt::QueuedConnection);
 }
 
 void X11WindowSystem::expectActivation(bool isExpected)

@@ -115,5 +115,17 @@
         <source>There is no window to show.</source>
         <translation>Es gibt kein Fenster, das sich zeigen lässt.</translation>
     </message>
+    <message>
+        <source>A window may still be open</source>
+        <translation>Ein Fenster ist vielleicht noch offen</translation>
+    </message>
+    <message>
+        <source>The windows cannot be seen any more, so it is not known whether “%1” has closed.</source>
+        <translation>Die Fenster sind nicht mehr zu sehen, daher ist nicht bekannt, ob „%1“ geschlossen wurde.</translation>
+    </message>
+    <message>
+        <source>Untitled window</source>
+        <translation>Fenster ohne Titel</translation>
+    </message>
 </context>
 </TS>

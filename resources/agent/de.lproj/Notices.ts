@@ -75,5 +75,41 @@
         <source>Settings</source>
         <translation>Einstellungen</translation>
     </message>
+    <message>
+        <source>There is no X server.</source>
+        <translation>Es gibt keinen X-Server.</translation>
+    </message>
+    <message>
+        <source>The X server has gone.</source>
+        <translation>Der X-Server ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>A Wayland session does not let programs see other programs' windows. Lumaroo works in an X11 session.</source>
+        <translation>Eine Wayland-Sitzung lässt Programme die Fenster anderer Programme nicht sehen. Lumaroo arbeitet in einer X11-Sitzung.</translation>
+    </message>
+    <message>
+        <source>No window manager runs that tells which windows there are.</source>
+        <translation>Es läuft keine Fensterverwaltung, die sagt, welche Fenster es gibt.</translation>
+    </message>
+    <message>
+        <source>The window manager does not tell which windows there are.</source>
+        <translation>Die Fensterverwaltung sagt nicht, welche Fenster es gibt.</translation>
+    </message>
+    <message>
+        <source>“%1” has been closed.</source>
+        <translation>„%1“ wurde geschlossen.</translation>
+    </message>
+    <message>
+        <source>It has been closed.</source>
+        <translation>Es wurde geschlossen.</translation>
+    </message>
+    <message>
+        <source>The modifier keys stay as they are</source>
+        <translation>Die Zusatztasten bleiben, wie sie sind</translation>
+    </message>
+    <message>
+        <source>Your choice could not be stored. The disk may be full.</source>
+        <translation>Ihre Wahl ließ sich nicht speichern. Vielleicht ist der Datenträger voll.</translation>
+    </message>
 </context>
 </TS>

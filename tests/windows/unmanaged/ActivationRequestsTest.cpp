@@ -18,7 +18,7 @@ const xcb_screen_t *screenOf(const XConnection &connection)
 
 void read(WindowSystem &system)
 {
-    QString failure;
+    WindowFailure failure{};
     system.read({}, &failure);
 }
 

@@ -20,9 +20,9 @@ private:
 
 QString failureOf(WindowSystem &system)
 {
-    QString failure;
+    WindowFailure failure{};
     EXPECT_FALSE(system.read({}, &failure));
-    return failure;
+    return clause(failure);
 }
 
 bool isRefused(WindowSystem &system)
@@ -38,7 +38,7 @@ bool isRefused(WindowSystem &system)
 
 } // namespace
 
-TEST(LostDisplay, endsReadingForGoodWithAReason)
+TEST(LostDisplay, endsReadingUntilTheNextOneWithAReason)
 {
     SecondDisplay display;
     const Variable variable("DISPLAY", display.name());
@@ -48,6 +48,11 @@ TEST(LostDisplay, endsReadingForGoodWithAReason)
     for (int time = 0; time < 2; ++time)
         EXPECT_EQ(failureOf(*system), "the X server has gone");
     EXPECT_TRUE(isRefused(*system));
+    system->open();
+    EXPECT_EQ(failureOf(*system), "there is no X server");
+    display.begin();
+    system->open();
+    EXPECT_EQ(failureOf(*system), "no window manager runs that tells which windows there are");
 }
 
 TEST(LostDisplay, endsAnActivation)

@@ -25,9 +25,9 @@ protected:
     }
     std::string failureOfReading()
     {
-        QString failure;
+        WindowFailure failure{};
         EXPECT_FALSE(system->read({}, &failure));
-        return failure.toStdString();
+        return clause(failure).toStdString();
     }
 
     WindowOfAnotherProgram manager{"Manager", {0, 0, 1, 1}};
