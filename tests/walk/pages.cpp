@@ -1,4 +1,4 @@
-// Leaves a picture of each page of the settings, of the whole screen.
+// Leaves a picture of each page of the settings, of the window without its frame.
 // Usage: pages BUILD-FOLDER PICTURE-FOLDER NAME [--maximised] [ARGUMENT...], inside a session with a bus, a display and
 // a window manager. The arguments are the settings' own: --theme dark, -reverse. tests/walk/every-page does it for all
 // themes, sizes and languages.
@@ -9,7 +9,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QScreen>
 #include <linux/input-event-codes.h>
 
 namespace {
@@ -17,18 +16,12 @@ namespace {
 const QStringList pages = {QStringLiteral("general"), QStringLiteral("keys"), QStringLiteral("behaviour"),
     QStringLiteral("updates"), QStringLiteral("help"), QStringLiteral("about")};
 
-QImage screenPicture()
-{
-    return QGuiApplication::primaryScreen()->grabWindow().toImage();
-}
-
 void showPages(SettingsProgram &settings, const QString &folder, const QString &name)
 {
     for (int page = 0; page < pages.size(); ++page) {
         if (page > 0)
             pressKey(KEY_TAB, {KEY_LEFTCTRL});
-        settings.settledPicture();
-        save(screenPicture(), folder, QStringLiteral("%1-%2-%3").arg(name).arg(page).arg(pages[page]));
+        save(settings.settledPicture(), folder, QStringLiteral("%1-%2-%3").arg(name).arg(page).arg(pages[page]));
     }
 }
 
