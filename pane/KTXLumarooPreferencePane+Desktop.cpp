@@ -2,8 +2,10 @@
 
 #include "KTXConstants.h"
 #include "KTXLoginEntry.h"
+#include "pane/KeySheet.h"
 #include "pane/PaneDesktop.h"
 #include "pane/RepeatTrial.h"
+#include "pane/ThisCopy.h"
 #include "platform/foundation/Boundary.h"
 #include "platform/foundation/notifications/NSNotificationCenter.h"
 #include "platform/foundation/preferences/PreferencesTrouble.h"
@@ -28,6 +30,9 @@ void KTXLumarooPreferencePane::followDesktop()
     NSNotificationCenter::defaultCenter()->addObserverSelectorNameObject(
         this, troubleChanged, PreferencesTroubleDidChangeNotification, KTXLMAppID);
     new RepeatTrial(mainView(), bundle(), this);
+    new KeySheet(mainView(), bundle(), this);
+    showIcon(mainView(), bundle());
+    showWhereUpdatesComeFrom(mainView(), bundle());
 }
 
 /// As toggleAgent, and the line below the switch tells of a start that comes to nothing.

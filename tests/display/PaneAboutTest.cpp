@@ -1,7 +1,9 @@
 #include "PaneOnRealStore.h"
+#include "Wait.h"
 
 #include "platform/foundation/bundles/NSBundle.h"
 
+#include <QLabel>
 #include <QTextBlock>
 
 namespace {
@@ -114,13 +116,20 @@ TEST_F(PaneAbout, theCopyrightLooksAsItsMarkerDid)
     EXPECT_EQ(textsThat(isBold), QStringList{"again: Copyright 2011."});
 }
 
-TEST_F(PaneAbout, theShippedCreditsComeWithBoldTextLinksAndTheirPicture)
+TEST_F(PaneAbout, theShippedCreditsComeWithBoldTextAndLinks)
 {
     changeInfo({{copyright, QStringLiteral("Rights of 1999, reserved")}});
     EXPECT_EQ(textsThat(isBold), (QStringList{"Rights of 1999", "Built with", "And with thanks"}));
     const auto leadsToQt = [](const QTextCharFormat &format) { return format.anchorHref() == "https://www.qt.io/"; };
     EXPECT_EQ(textsThat(leadsToQt), QStringList{"Qt"});
     EXPECT_EQ(textsThat(&QTextCharFormat::isAnchor), (QStringList{"Qt", "XCB", "xkbcommon", "D-Bus"}));
+}
+
+TEST_F(PaneAbout, aPictureInTheCreditsIsShown)
+{
+    bundle().writeFile(QStringLiteral("Contents/Resources/Credits.rtfd/TXT.rtf"),
+        "{\\rtf1\\ansi {{\\NeXTGraphic Lumaroo.png \\width960 \\height960}\\'ac}\\par text}");
+    changeInfo({{copyright, QStringLiteral("C")}});
     ASSERT_EQ(textsThat(&QTextCharFormat::isImageFormat).size(), 1);
     const QTextImageFormat picture = pieces().first().charFormat().toImageFormat();
     EXPECT_FALSE(document()->resource(QTextDocument::ImageResource, QUrl(picture.name())).value<QImage>().isNull());
@@ -165,4 +174,22 @@ TEST_F(PaneAbout, withAnUnreadableInfoDictionaryTheFieldsStayEmpty)
     EXPECT_EQ(text("versionField"), QString());
     EXPECT_EQ(credits(), QString());
     EXPECT_EQ(pane().loadedVersion(), 0);
+}
+
+TEST_F(PaneAbout, theIconStandsOnTop)
+{
+    const auto *icon = control<QLabel>("appIconView");
+    EXPECT_FALSE(icon->pixmap().isNull());
+    showPane();
+    selectTabViewItemAtIndex(control("tabbedView"), 5);
+    EXPECT_TRUE(waitUntil([&] { return icon->isVisible() && icon->y() < control("appNameField")->y(); }));
+    EXPECT_LT(control("versionField")->y(), control("creditsField")->y());
+}
+
+TEST_F(PaneAbout, theCreditsAreAsHighAsTheirText)
+{
+    showPane();
+    selectTabViewItemAtIndex(control("tabbedView"), 5);
+    const auto *view = control<QTextEdit>("creditsField");
+    EXPECT_TRUE(waitUntil([&] { return std::abs(view->viewport()->height() - document()->size().height()) <= 2; }));
 }

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <cmath>
 
 namespace {
 
@@ -17,7 +18,35 @@ bool canBeShown(const QUrl &address)
 
 } // namespace
 
-WebView::WebView(QWidget *parent) : QTextBrowser(parent) { }
+WebView::WebView(QWidget *parent) : QTextBrowser(parent)
+{
+    connect(this, &QTextEdit::textChanged, this, &WebView::fit);
+}
+
+/// The document's height follows its width, which is the view's.
+void WebView::fit()
+{
+    if (!fitsContents_ || !isVisible())
+        return;
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    const int height = int(std::ceil(document()->size().height())) + 2 * frameWidth();
+    if (height != maximumHeight())
+        setFixedHeight(height);
+}
+
+void WebView::resizeEvent(QResizeEvent *event)
+{
+    QTextBrowser::resizeEvent(event);
+    fit();
+}
+
+bool WebView::event(QEvent *event)
+{
+    const bool handled = QTextBrowser::event(event);
+    if (event->type() == QEvent::Show || event->type() == QEvent::LayoutRequest)
+        fit();
+    return handled;
+}
 
 void WebView::doSetSource(const QUrl &address, QTextDocument::ResourceType type)
 {

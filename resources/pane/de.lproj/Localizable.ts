@@ -4,6 +4,18 @@
 <context>
     <name>Localizable</name>
     <message>
+        <source>The system’s updates bring new versions of this copy.</source>
+        <translation>Neue Versionen bringt die Aktualisierung des Systems.</translation>
+    </message>
+    <message>
+        <source>Press:</source>
+        <translation>Drücken Sie:</translation>
+    </message>
+    <message>
+        <source>Hold %1 and press:</source>
+        <translation>Halten Sie %1 und drücken Sie:</translation>
+    </message>
+    <message>
         <source>%1 s</source>
         <translation>%1 s</translation>
     </message>

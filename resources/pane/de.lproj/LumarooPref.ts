@@ -452,6 +452,38 @@
         <translation>&amp;Hilfe</translation>
     </message>
     <message>
+        <source>Without a mou&amp;se</source>
+        <translation>Ohne Mau&amp;s</translation>
+    </message>
+    <message>
+        <source>Al&amp;erts</source>
+        <translation>Wa&amp;rnungen</translation>
+    </message>
+    <message>
+        <source>&amp;Order of windows</source>
+        <translation>Reihenf&amp;olge der Fenster</translation>
+    </message>
+    <message>
+        <source>&amp;Action keys</source>
+        <translation>Aktio&amp;nstasten</translation>
+    </message>
+    <message>
+        <source>&amp;Movement keys</source>
+        <translation>Be&amp;wegungstasten</translation>
+    </message>
+    <message>
+        <source>Turning &amp;Lumaroo on</source>
+        <translation>&amp;Lumaroo einschalten</translation>
+    </message>
+    <message>
+        <source>Read in the help</source>
+        <translation>In der Hilfe lesen</translation>
+    </message>
+    <message>
+        <source>Your keys</source>
+        <translation>Ihre Tasten</translation>
+    </message>
+    <message>
         <source>Help</source>
         <translation>Hilfe</translation>
     </message>
