@@ -9,6 +9,7 @@
 #include "host/PanePage.h"
 #include "host/SearchField.h"
 #include "host/linux/WindowActivation.h"
+#include "platform/appkit/controls/AssistiveTools.h"
 #include "platform/foundation/bundles/NSBundle.h"
 
 #include <QApplication>
@@ -62,6 +63,7 @@ HostWindow::HostWindow(QSize rememberedSize)
     : stack_(new QStackedWidget(this)), header_(new HostHeader(this)), noticeBar_(new NoticeBar(this)),
       sizeChosen_(rememberedSize.isValid())
 {
+    describeControlsToAssistiveTools();
     setObjectName(QStringLiteral("settingsWindow"));
     stack_->setObjectName(QStringLiteral("pages"));
     auto *layout = new QVBoxLayout(this);

@@ -1,5 +1,6 @@
 #include "platform/appkit/interface/InterfaceFile.h"
 
+#include "platform/appkit/controls/AssistiveTools.h"
 #include "platform/appkit/interface/internal/InterfaceConnections.h"
 #include "platform/appkit/interface/internal/InterfaceLoader.h"
 #include "platform/appkit/interface/internal/InterfaceText.h"
@@ -32,6 +33,7 @@ QWidget *loadInterfaceFile(
     if (!file.open(QIODevice::ReadOnly))
         return refuse(file.fileName(), file.errorString(), failure);
     const QByteArray xml = file.readAll();
+    describeControlsToAssistiveTools();
     QString toolkitsReason;
     QWidget *root = InterfaceLoader::loadInterface(
         translatedInterface(xml, bundle, nibName), name, bundle, owner.classes, &toolkitsReason);
@@ -40,5 +42,6 @@ QWidget *loadInterfaceFile(
         return refuse(file.fileName(), problem.isEmpty() ? toolkitsReason : problem, failure);
     }
     InterfaceConnections(name, bundle, owner).connectAll(root);
+    nameControlsForAssistiveTools(root);
     return root;
 }

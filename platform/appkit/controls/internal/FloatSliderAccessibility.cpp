@@ -38,7 +38,11 @@ void *FloatSliderAccessibility::interface_cast(QAccessible::InterfaceType type)
 
 QString FloatSliderAccessibility::text(QAccessible::Text text) const
 {
-    return text == QAccessible::Value ? slider()->spokenValue() : QAccessibleWidget::text(text);
+    const QString own = QAccessibleWidget::text(text);
+    // On the bus a value is a bare number; its unit is heard in the description.
+    if (text == QAccessible::Description)
+        return (slider()->spokenValue() + u' ' + own).trimmed();
+    return text == QAccessible::Value ? slider()->spokenValue() : own;
 }
 
 QVariant FloatSliderAccessibility::currentValue() const
