@@ -23,8 +23,6 @@ Q_SIGNALS:
     void changed();
     /// It is gone without having announced its end, as one that crashed or was killed; within a second.
     void ended();
-    /// It was started and is not there.
-    void startMissed();
 
 private:
     void askForOwner();

@@ -15,11 +15,8 @@
 void KTXLumarooPreferencePane::followDesktop()
 {
     desktop_ = new PaneDesktop(mainView(), bundle(), this);
-    // A switch that stays on where nothing could be started would have to be turned off to try again.
-    for (const auto isGone : {&AgentPresence::ended, &AgentPresence::startMissed}) {
-        connect(&desktop_->presence(), isGone, this,
-            [this] { runAtBoundary("setAgentVisualsOff", [this] { setAgentVisualsOff(); }); });
-    }
+    connect(&desktop_->presence(), &AgentPresence::ended, this,
+        [this] { runAtBoundary("setAgentVisualsOff", [this] { setAgentVisualsOff(); }); });
     // What could not be stored, or read, was announced in vain when it was set; and what is stored may be something
     // else.
     const auto catchUp = [this] { runAtBoundary("readUserPrefs", [this] { readUserPrefs(); }); };

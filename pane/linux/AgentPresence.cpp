@@ -94,10 +94,8 @@ void AgentPresence::expectStart()
 void AgentPresence::missStart()
 {
     start_.stop();
-    if (isOwned_)
-        return;
-    set(CannotStart);
-    Q_EMIT startMissed();
+    if (!isOwned_)
+        set(CannotStart);
 }
 
 void AgentPresence::set(State state)
