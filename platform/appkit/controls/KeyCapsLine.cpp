@@ -31,6 +31,8 @@ void KeyCapsLine::setSentence(const QString &sentence, const QList<QStringList> 
     QString rest = sentence;
     for (qsizetype place = 0; place < caps.size(); ++place) {
         const QString marker = u'%' + QString::number(place + 1);
+        if (!rest.contains(marker))
+            continue;
         addWords(rest.section(marker, 0, 0));
         for (const QString &cap : caps.at(place))
             pieces_.append({cap, true});
