@@ -108,8 +108,24 @@
         <translation>No se muestra ninguna vista previa</translation>
     </message>
     <message>
+        <source>Another program has the keyboard and the mouse, as one that locks the screen.</source>
+        <translation>Otro programa ocupa el teclado y el ratón, por ejemplo uno que bloquea la pantalla.</translation>
+    </message>
+    <message>
         <source>There is no window to show.</source>
         <translation>No hay ninguna ventana que mostrar.</translation>
+    </message>
+    <message>
+        <source>A window may still be open</source>
+        <translation>Puede que una ventana siga abierta</translation>
+    </message>
+    <message>
+        <source>The windows cannot be seen any more, so it is not known whether “%1” has closed.</source>
+        <translation>Lumaroo ya no ve las ventanas, así que no se sabe si la ventana «%1» se ha cerrado.</translation>
+    </message>
+    <message>
+        <source>Untitled window</source>
+        <translation>Sin título</translation>
     </message>
 </context>
 </TS>

@@ -75,5 +75,41 @@
         <source>Settings</source>
         <translation>Configuración</translation>
     </message>
+    <message>
+        <source>There is no X server.</source>
+        <translation>No hay ningún servidor X.</translation>
+    </message>
+    <message>
+        <source>The X server has gone.</source>
+        <translation>El servidor X ya no está.</translation>
+    </message>
+    <message>
+        <source>A Wayland session does not let programs see other programs' windows. Lumaroo works in an X11 session.</source>
+        <translation>Una sesión Wayland no deja que los programas vean las ventanas de otros. Lumaroo funciona en una sesión X11.</translation>
+    </message>
+    <message>
+        <source>No window manager runs that tells which windows there are.</source>
+        <translation>No hay en marcha ningún gestor de ventanas que indique qué ventanas hay.</translation>
+    </message>
+    <message>
+        <source>The window manager does not tell which windows there are.</source>
+        <translation>El gestor de ventanas no indica qué ventanas hay.</translation>
+    </message>
+    <message>
+        <source>“%1” has been closed.</source>
+        <translation>La ventana «%1» se ha cerrado.</translation>
+    </message>
+    <message>
+        <source>It has been closed.</source>
+        <translation>Se ha cerrado.</translation>
+    </message>
+    <message>
+        <source>The modifier keys stay as they are</source>
+        <translation>Las teclas modificadoras siguen igual</translation>
+    </message>
+    <message>
+        <source>Your choice could not be stored. The disk may be full.</source>
+        <translation>No se ha podido guardar la elección. Puede que el disco esté lleno.</translation>
+    </message>
 </context>
 </TS>

@@ -108,8 +108,24 @@
         <translation>Aucun aperçu n’est affiché</translation>
     </message>
     <message>
+        <source>Another program has the keyboard and the mouse, as one that locks the screen.</source>
+        <translation>Un autre programme occupe le clavier et la souris, par exemple un programme qui verrouille l’écran.</translation>
+    </message>
+    <message>
         <source>There is no window to show.</source>
         <translation>Il n’y a aucune fenêtre à afficher.</translation>
+    </message>
+    <message>
+        <source>A window may still be open</source>
+        <translation>Une fenêtre est peut-être encore ouverte</translation>
+    </message>
+    <message>
+        <source>The windows cannot be seen any more, so it is not known whether “%1” has closed.</source>
+        <translation>Lumaroo ne voit plus les fenêtres ; impossible de savoir si la fenêtre « %1 » s’est fermée.</translation>
+    </message>
+    <message>
+        <source>Untitled window</source>
+        <translation>Sans titre</translation>
     </message>
 </context>
 </TS>

@@ -75,5 +75,41 @@
         <source>Settings</source>
         <translation>Paramètres</translation>
     </message>
+    <message>
+        <source>There is no X server.</source>
+        <translation>Il n’y a pas de serveur X.</translation>
+    </message>
+    <message>
+        <source>The X server has gone.</source>
+        <translation>Le serveur X n’est plus là.</translation>
+    </message>
+    <message>
+        <source>A Wayland session does not let programs see other programs' windows. Lumaroo works in an X11 session.</source>
+        <translation>Une session Wayland ne laisse pas les programmes voir les fenêtres des autres. Lumaroo fonctionne dans une session X11.</translation>
+    </message>
+    <message>
+        <source>No window manager runs that tells which windows there are.</source>
+        <translation>Aucun gestionnaire de fenêtres capable d’indiquer les fenêtres ouvertes n’est lancé.</translation>
+    </message>
+    <message>
+        <source>The window manager does not tell which windows there are.</source>
+        <translation>Le gestionnaire de fenêtres n’indique pas les fenêtres ouvertes.</translation>
+    </message>
+    <message>
+        <source>“%1” has been closed.</source>
+        <translation>La fenêtre « %1 » a été fermée.</translation>
+    </message>
+    <message>
+        <source>It has been closed.</source>
+        <translation>Elle a été fermée.</translation>
+    </message>
+    <message>
+        <source>The modifier keys stay as they are</source>
+        <translation>Les touches de modification restent inchangées</translation>
+    </message>
+    <message>
+        <source>Your choice could not be stored. The disk may be full.</source>
+        <translation>Votre choix n’a pas pu être enregistré. Le disque est peut-être plein.</translation>
+    </message>
 </context>
 </TS>

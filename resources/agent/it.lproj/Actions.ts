@@ -108,8 +108,24 @@
         <translation>Nessuna anteprima visualizzata</translation>
     </message>
     <message>
+        <source>Another program has the keyboard and the mouse, as one that locks the screen.</source>
+        <translation>Un altro programma occupa la tastiera e il mouse, per esempio uno che blocca lo schermo.</translation>
+    </message>
+    <message>
         <source>There is no window to show.</source>
         <translation>Non c’è nessuna finestra da mostrare.</translation>
+    </message>
+    <message>
+        <source>A window may still be open</source>
+        <translation>Una finestra potrebbe essere ancora aperta</translation>
+    </message>
+    <message>
+        <source>The windows cannot be seen any more, so it is not known whether “%1” has closed.</source>
+        <translation>Lumaroo non vede più le finestre, quindi non si sa se la finestra «%1» si è chiusa.</translation>
+    </message>
+    <message>
+        <source>Untitled window</source>
+        <translation>Senza titolo</translation>
     </message>
 </context>
 </TS>

@@ -75,5 +75,41 @@
         <source>Settings</source>
         <translation>Impostazioni</translation>
     </message>
+    <message>
+        <source>There is no X server.</source>
+        <translation>Non c’è nessun server X.</translation>
+    </message>
+    <message>
+        <source>The X server has gone.</source>
+        <translation>Il server X non c’è più.</translation>
+    </message>
+    <message>
+        <source>A Wayland session does not let programs see other programs' windows. Lumaroo works in an X11 session.</source>
+        <translation>Una sessione Wayland non lascia vedere ai programmi le finestre degli altri. Lumaroo funziona in una sessione X11.</translation>
+    </message>
+    <message>
+        <source>No window manager runs that tells which windows there are.</source>
+        <translation>Non è in esecuzione nessun gestore delle finestre che dica quali finestre ci sono.</translation>
+    </message>
+    <message>
+        <source>The window manager does not tell which windows there are.</source>
+        <translation>Il gestore delle finestre non dice quali finestre ci sono.</translation>
+    </message>
+    <message>
+        <source>“%1” has been closed.</source>
+        <translation>La finestra «%1» è stata chiusa.</translation>
+    </message>
+    <message>
+        <source>It has been closed.</source>
+        <translation>È stata chiusa.</translation>
+    </message>
+    <message>
+        <source>The modifier keys stay as they are</source>
+        <translation>I tasti modificatori restano invariati</translation>
+    </message>
+    <message>
+        <source>Your choice could not be stored. The disk may be full.</source>
+        <translation>Impossibile salvare la scelta. Il disco potrebbe essere pieno.</translation>
+    </message>
 </context>
 </TS>

@@ -108,8 +108,24 @@
         <translation>プレビューを表示できません</translation>
     </message>
     <message>
+        <source>Another program has the keyboard and the mouse, as one that locks the screen.</source>
+        <translation>画面をロックするプログラムなど、ほかのプログラムがキーボードとマウスを占有しています。</translation>
+    </message>
+    <message>
         <source>There is no window to show.</source>
         <translation>表示するウィンドウがありません。</translation>
+    </message>
+    <message>
+        <source>A window may still be open</source>
+        <translation>まだ開いているウィンドウがあるかもしれません</translation>
+    </message>
+    <message>
+        <source>The windows cannot be seen any more, so it is not known whether “%1” has closed.</source>
+        <translation>ウィンドウを確認できなくなったため、「%1」が閉じたかどうか分かりません。</translation>
+    </message>
+    <message>
+        <source>Untitled window</source>
+        <translation>無題のウィンドウ</translation>
     </message>
 </context>
 </TS>

@@ -75,5 +75,41 @@
         <source>Settings</source>
         <translation>設定</translation>
     </message>
+    <message>
+        <source>There is no X server.</source>
+        <translation>X サーバーがありません。</translation>
+    </message>
+    <message>
+        <source>The X server has gone.</source>
+        <translation>X サーバーがなくなりました。</translation>
+    </message>
+    <message>
+        <source>A Wayland session does not let programs see other programs' windows. Lumaroo works in an X11 session.</source>
+        <translation>Wayland セッションでは、プログラムがほかのプログラムのウィンドウを見ることができません。Lumaroo は X11 セッションで動作します。</translation>
+    </message>
+    <message>
+        <source>No window manager runs that tells which windows there are.</source>
+        <translation>どのウィンドウがあるかを知らせるウィンドウマネージャーが動いていません。</translation>
+    </message>
+    <message>
+        <source>The window manager does not tell which windows there are.</source>
+        <translation>ウィンドウマネージャーが、どのウィンドウがあるかを知らせません。</translation>
+    </message>
+    <message>
+        <source>“%1” has been closed.</source>
+        <translation>「%1」は閉じられました。</translation>
+    </message>
+    <message>
+        <source>It has been closed.</source>
+        <translation>すでに閉じられました。</translation>
+    </message>
+    <message>
+        <source>The modifier keys stay as they are</source>
+        <translation>修飾キーは元のままです</translation>
+    </message>
+    <message>
+        <source>Your choice could not be stored. The disk may be full.</source>
+        <translation>選択を保存できませんでした。ディスクに空きがない可能性があります。</translation>
+    </message>
 </context>
 </TS>

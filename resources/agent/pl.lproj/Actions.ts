@@ -108,8 +108,24 @@
         <translation>Nie wyświetlono podglądu</translation>
     </message>
     <message>
+        <source>Another program has the keyboard and the mouse, as one that locks the screen.</source>
+        <translation>Inny program zajmuje klawiaturę i mysz, na przykład taki, który blokuje ekran.</translation>
+    </message>
+    <message>
         <source>There is no window to show.</source>
         <translation>Nie ma okna do pokazania.</translation>
+    </message>
+    <message>
+        <source>A window may still be open</source>
+        <translation>Okno może być nadal otwarte</translation>
+    </message>
+    <message>
+        <source>The windows cannot be seen any more, so it is not known whether “%1” has closed.</source>
+        <translation>Lumaroo nie widzi już okien, więc nie wiadomo, czy okno „%1” zostało zamknięte.</translation>
+    </message>
+    <message>
+        <source>Untitled window</source>
+        <translation>Bez tytułu</translation>
     </message>
 </context>
 </TS>

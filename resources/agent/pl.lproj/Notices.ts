@@ -75,5 +75,41 @@
         <source>Settings</source>
         <translation>Ustawienia</translation>
     </message>
+    <message>
+        <source>There is no X server.</source>
+        <translation>Nie ma serwera X.</translation>
+    </message>
+    <message>
+        <source>The X server has gone.</source>
+        <translation>Serwera X już nie ma.</translation>
+    </message>
+    <message>
+        <source>A Wayland session does not let programs see other programs' windows. Lumaroo works in an X11 session.</source>
+        <translation>Sesja Wayland nie pozwala programom widzieć okien innych programów. Lumaroo działa w sesji X11.</translation>
+    </message>
+    <message>
+        <source>No window manager runs that tells which windows there are.</source>
+        <translation>Nie działa żaden menedżer okien, który podawałby, jakie okna są otwarte.</translation>
+    </message>
+    <message>
+        <source>The window manager does not tell which windows there are.</source>
+        <translation>Menedżer okien nie podaje, jakie okna są otwarte.</translation>
+    </message>
+    <message>
+        <source>“%1” has been closed.</source>
+        <translation>Okno „%1” zostało zamknięte.</translation>
+    </message>
+    <message>
+        <source>It has been closed.</source>
+        <translation>Zostało zamknięte.</translation>
+    </message>
+    <message>
+        <source>The modifier keys stay as they are</source>
+        <translation>Klawisze modyfikujące pozostają bez zmian</translation>
+    </message>
+    <message>
+        <source>Your choice could not be stored. The disk may be full.</source>
+        <translation>Nie można zapisać wyboru. Być może dysk jest pełny.</translation>
+    </message>
 </context>
 </TS>

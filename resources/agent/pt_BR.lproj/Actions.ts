@@ -108,8 +108,24 @@
         <translation>Nenhuma prévia é mostrada</translation>
     </message>
     <message>
+        <source>Another program has the keyboard and the mouse, as one that locks the screen.</source>
+        <translation>Outro programa ocupa o teclado e o mouse, por exemplo um que bloqueia a tela.</translation>
+    </message>
+    <message>
         <source>There is no window to show.</source>
         <translation>Não há nenhuma janela para mostrar.</translation>
+    </message>
+    <message>
+        <source>A window may still be open</source>
+        <translation>Uma janela talvez ainda esteja aberta</translation>
+    </message>
+    <message>
+        <source>The windows cannot be seen any more, so it is not known whether “%1” has closed.</source>
+        <translation>O Lumaroo não vê mais as janelas e por isso não se sabe se “%1” foi fechada.</translation>
+    </message>
+    <message>
+        <source>Untitled window</source>
+        <translation>Janela sem título</translation>
     </message>
 </context>
 </TS>

@@ -75,5 +75,41 @@
         <source>Settings</source>
         <translation>Configurações</translation>
     </message>
+    <message>
+        <source>There is no X server.</source>
+        <translation>Não há nenhum servidor X.</translation>
+    </message>
+    <message>
+        <source>The X server has gone.</source>
+        <translation>O servidor X não está mais disponível.</translation>
+    </message>
+    <message>
+        <source>A Wayland session does not let programs see other programs' windows. Lumaroo works in an X11 session.</source>
+        <translation>Uma sessão Wayland não deixa que os programas vejam as janelas de outros. O Lumaroo funciona em uma sessão X11.</translation>
+    </message>
+    <message>
+        <source>No window manager runs that tells which windows there are.</source>
+        <translation>Não há em execução nenhum gerenciador de janelas que diga quais janelas existem.</translation>
+    </message>
+    <message>
+        <source>The window manager does not tell which windows there are.</source>
+        <translation>O gerenciador de janelas não diz quais janelas existem.</translation>
+    </message>
+    <message>
+        <source>“%1” has been closed.</source>
+        <translation>“%1” foi fechada.</translation>
+    </message>
+    <message>
+        <source>It has been closed.</source>
+        <translation>Ela foi fechada.</translation>
+    </message>
+    <message>
+        <source>The modifier keys stay as they are</source>
+        <translation>As teclas modificadoras continuam como estão</translation>
+    </message>
+    <message>
+        <source>Your choice could not be stored. The disk may be full.</source>
+        <translation>Não foi possível salvar sua escolha. O disco talvez esteja cheio.</translation>
+    </message>
 </context>
 </TS>

@@ -67,5 +67,69 @@
         <source>Its window content could not be loaded. Install it again.</source>
         <translation>No se ha podido cargar el contenido de la ventana. Vuelva a instalar este módulo.</translation>
     </message>
+    <message>
+        <source>Your changes are not saved</source>
+        <translation>Los cambios no están guardados</translation>
+    </message>
+    <message>
+        <source>Your settings cannot be read</source>
+        <translation>No se puede leer la configuración</translation>
+    </message>
+    <message>
+        <source>Your changes may not last</source>
+        <translation>Los cambios podrían perderse</translation>
+    </message>
+    <message>
+        <source>The disk is full. Make room on it, then try again.</source>
+        <translation>El disco está lleno. Libere espacio e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The disk with the folder “%1” can only be read at the moment.</source>
+        <translation>El disco que contiene la carpeta «%1» es de solo lectura en este momento.</translation>
+    </message>
+    <message>
+        <source>You lack the permission to read the file “%1”.</source>
+        <translation>Falta el permiso para leer el archivo «%1».</translation>
+    </message>
+    <message>
+        <source>You lack the permission to write in the folder “%1”.</source>
+        <translation>Falta el permiso para escribir en la carpeta «%1».</translation>
+    </message>
+    <message>
+        <source>Another program does not let go of the file “%1”.</source>
+        <translation>Otro programa no suelta el archivo «%1».</translation>
+    </message>
+    <message>
+        <source>The file “%1” would become too large.</source>
+        <translation>El archivo «%1» sería demasiado grande.</translation>
+    </message>
+    <message>
+        <source>The file “%1” makes trouble (%2).</source>
+        <translation>Hay un problema con el archivo «%1» (%2).</translation>
+    </message>
+    <message>
+        <source>What you see here is not what is stored.</source>
+        <translation>Lo que se ve aquí no es lo que está guardado.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>A settings file was damaged</source>
+        <translation>Un archivo de configuración estaba dañado</translation>
+    </message>
+    <message>
+        <source>It is kept as “%1”. The settings in it began anew with their defaults.</source>
+        <translation>Se conserva como «%1». Los ajustes que contenía han vuelto a sus valores predeterminados.</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ocultar</translation>
+    </message>
 </context>
 </TS>

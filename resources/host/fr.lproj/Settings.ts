@@ -67,5 +67,69 @@
         <source>Its window content could not be loaded. Install it again.</source>
         <translation>Le contenu de la fenêtre n’a pas pu être chargé. Réinstallez ce module.</translation>
     </message>
+    <message>
+        <source>Your changes are not saved</source>
+        <translation>Vos modifications ne sont pas enregistrées</translation>
+    </message>
+    <message>
+        <source>Your settings cannot be read</source>
+        <translation>Impossible de lire vos paramètres</translation>
+    </message>
+    <message>
+        <source>Your changes may not last</source>
+        <translation>Vos modifications risquent d’être perdues</translation>
+    </message>
+    <message>
+        <source>The disk is full. Make room on it, then try again.</source>
+        <translation>Le disque est plein. Libérez de l’espace, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The disk with the folder “%1” can only be read at the moment.</source>
+        <translation>Le disque qui contient le dossier « %1 » est actuellement en lecture seule.</translation>
+    </message>
+    <message>
+        <source>You lack the permission to read the file “%1”.</source>
+        <translation>Vous n’avez pas le droit de lire le fichier « %1 ».</translation>
+    </message>
+    <message>
+        <source>You lack the permission to write in the folder “%1”.</source>
+        <translation>Vous n’avez pas le droit d’écrire dans le dossier « %1 ».</translation>
+    </message>
+    <message>
+        <source>Another program does not let go of the file “%1”.</source>
+        <translation>Un autre programme ne libère pas le fichier « %1 ».</translation>
+    </message>
+    <message>
+        <source>The file “%1” would become too large.</source>
+        <translation>Le fichier « %1 » deviendrait trop volumineux.</translation>
+    </message>
+    <message>
+        <source>The file “%1” makes trouble (%2).</source>
+        <translation>Le fichier « %1 » pose problème (%2).</translation>
+    </message>
+    <message>
+        <source>What you see here is not what is stored.</source>
+        <translation>Ce que vous voyez ici n’est pas ce qui est enregistré.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>A settings file was damaged</source>
+        <translation>Un fichier de paramètres était endommagé</translation>
+    </message>
+    <message>
+        <source>It is kept as “%1”. The settings in it began anew with their defaults.</source>
+        <translation>Il est conservé sous le nom « %1 ». Les paramètres qu’il contenait sont revenus à leurs valeurs par défaut.</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Afficher</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Masquer</translation>
+    </message>
 </context>
 </TS>

@@ -67,5 +67,69 @@
         <source>Its window content could not be loaded. Install it again.</source>
         <translation>Impossibile caricare il contenuto della finestra. Installare di nuovo il modulo.</translation>
     </message>
+    <message>
+        <source>Your changes are not saved</source>
+        <translation>Le modifiche non sono salvate</translation>
+    </message>
+    <message>
+        <source>Your settings cannot be read</source>
+        <translation>Impossibile leggere le impostazioni</translation>
+    </message>
+    <message>
+        <source>Your changes may not last</source>
+        <translation>Le modifiche potrebbero andare perse</translation>
+    </message>
+    <message>
+        <source>The disk is full. Make room on it, then try again.</source>
+        <translation>Il disco è pieno. Liberare spazio e riprovare.</translation>
+    </message>
+    <message>
+        <source>The disk with the folder “%1” can only be read at the moment.</source>
+        <translation>Il disco che contiene la cartella «%1» è al momento di sola lettura.</translation>
+    </message>
+    <message>
+        <source>You lack the permission to read the file “%1”.</source>
+        <translation>Manca il permesso di leggere il file «%1».</translation>
+    </message>
+    <message>
+        <source>You lack the permission to write in the folder “%1”.</source>
+        <translation>Manca il permesso di scrivere nella cartella «%1».</translation>
+    </message>
+    <message>
+        <source>Another program does not let go of the file “%1”.</source>
+        <translation>Un altro programma non rilascia il file «%1».</translation>
+    </message>
+    <message>
+        <source>The file “%1” would become too large.</source>
+        <translation>Il file «%1» diventerebbe troppo grande.</translation>
+    </message>
+    <message>
+        <source>The file “%1” makes trouble (%2).</source>
+        <translation>C’è un problema con il file «%1» (%2).</translation>
+    </message>
+    <message>
+        <source>What you see here is not what is stored.</source>
+        <translation>Ciò che si vede qui non è ciò che è salvato.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Riprova</translation>
+    </message>
+    <message>
+        <source>A settings file was damaged</source>
+        <translation>Un file delle impostazioni era danneggiato</translation>
+    </message>
+    <message>
+        <source>It is kept as “%1”. The settings in it began anew with their defaults.</source>
+        <translation>È conservato come «%1». Le impostazioni che conteneva sono tornate ai valori predefiniti.</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostra</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Nascondi</translation>
+    </message>
 </context>
 </TS>

@@ -67,5 +67,69 @@
         <source>Its window content could not be loaded. Install it again.</source>
         <translation>Nie można wczytać zawartości okna. Proszę zainstalować panel ponownie.</translation>
     </message>
+    <message>
+        <source>Your changes are not saved</source>
+        <translation>Zmiany nie są zapisane</translation>
+    </message>
+    <message>
+        <source>Your settings cannot be read</source>
+        <translation>Nie można odczytać ustawień</translation>
+    </message>
+    <message>
+        <source>Your changes may not last</source>
+        <translation>Zmiany mogą zostać utracone</translation>
+    </message>
+    <message>
+        <source>The disk is full. Make room on it, then try again.</source>
+        <translation>Dysk jest pełny. Proszę zwolnić na nim miejsce i spróbować ponownie.</translation>
+    </message>
+    <message>
+        <source>The disk with the folder “%1” can only be read at the moment.</source>
+        <translation>Dysk z katalogiem „%1” jest obecnie tylko do odczytu.</translation>
+    </message>
+    <message>
+        <source>You lack the permission to read the file “%1”.</source>
+        <translation>Brak uprawnień do odczytu pliku „%1”.</translation>
+    </message>
+    <message>
+        <source>You lack the permission to write in the folder “%1”.</source>
+        <translation>Brak uprawnień do zapisu w katalogu „%1”.</translation>
+    </message>
+    <message>
+        <source>Another program does not let go of the file “%1”.</source>
+        <translation>Inny program nie zwalnia pliku „%1”.</translation>
+    </message>
+    <message>
+        <source>The file “%1” would become too large.</source>
+        <translation>Plik „%1” stałby się zbyt duży.</translation>
+    </message>
+    <message>
+        <source>The file “%1” makes trouble (%2).</source>
+        <translation>Wystąpił problem z plikiem „%1” (%2).</translation>
+    </message>
+    <message>
+        <source>What you see here is not what is stored.</source>
+        <translation>To, co tu widać, nie jest tym, co jest zapisane.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Spróbuj ponownie</translation>
+    </message>
+    <message>
+        <source>A settings file was damaged</source>
+        <translation>Plik ustawień był uszkodzony</translation>
+    </message>
+    <message>
+        <source>It is kept as “%1”. The settings in it began anew with their defaults.</source>
+        <translation>Zachowano go jako „%1”. Zawarte w nim ustawienia wróciły do wartości domyślnych.</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Pokaż</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ukryj</translation>
+    </message>
 </context>
 </TS>

@@ -67,5 +67,69 @@
         <source>Its window content could not be loaded. Install it again.</source>
         <translation>Não foi possível carregar o conteúdo da janela. Instale o painel novamente.</translation>
     </message>
+    <message>
+        <source>Your changes are not saved</source>
+        <translation>Suas alterações não estão salvas</translation>
+    </message>
+    <message>
+        <source>Your settings cannot be read</source>
+        <translation>Não é possível ler suas configurações</translation>
+    </message>
+    <message>
+        <source>Your changes may not last</source>
+        <translation>Suas alterações podem se perder</translation>
+    </message>
+    <message>
+        <source>The disk is full. Make room on it, then try again.</source>
+        <translation>O disco está cheio. Libere espaço e tente novamente.</translation>
+    </message>
+    <message>
+        <source>The disk with the folder “%1” can only be read at the moment.</source>
+        <translation>O disco com a pasta “%1” está somente para leitura no momento.</translation>
+    </message>
+    <message>
+        <source>You lack the permission to read the file “%1”.</source>
+        <translation>Você não tem permissão para ler o arquivo “%1”.</translation>
+    </message>
+    <message>
+        <source>You lack the permission to write in the folder “%1”.</source>
+        <translation>Você não tem permissão para gravar na pasta “%1”.</translation>
+    </message>
+    <message>
+        <source>Another program does not let go of the file “%1”.</source>
+        <translation>Outro programa não libera o arquivo “%1”.</translation>
+    </message>
+    <message>
+        <source>The file “%1” would become too large.</source>
+        <translation>O arquivo “%1” ficaria grande demais.</translation>
+    </message>
+    <message>
+        <source>The file “%1” makes trouble (%2).</source>
+        <translation>Há um problema com o arquivo “%1” (%2).</translation>
+    </message>
+    <message>
+        <source>What you see here is not what is stored.</source>
+        <translation>O que você vê aqui não é o que está salvo.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Tentar novamente</translation>
+    </message>
+    <message>
+        <source>A settings file was damaged</source>
+        <translation>Um arquivo de configurações estava danificado</translation>
+    </message>
+    <message>
+        <source>It is kept as “%1”. The settings in it began anew with their defaults.</source>
+        <translation>Ele foi guardado como “%1”. As configurações que continha voltaram aos valores padrão.</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ocultar</translation>
+    </message>
 </context>
 </TS>

@@ -4,6 +4,14 @@
 <context>
     <name>Localizable</name>
     <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 per second</source>
+        <translation>%1 por segundo</translation>
+    </message>
+    <message>
         <source>Lumaroo Enabled</source>
         <translation>Lumaroo está activado</translation>
     </message>
@@ -128,6 +136,10 @@
         <translation>Esta sesión no permite que los programas tengan sus propias teclas. Lumaroo necesita una sesión X11.</translation>
     </message>
     <message>
+        <source>This session runs on Wayland. There no program may take keys or see the windows of others, so Lumaroo’s keys do nothing here. Your settings are kept. To use Lumaroo, log out and choose “X11” or “Xorg” on the login screen.</source>
+        <translation>Esta sesión funciona con Wayland. En ella ningún programa puede tomar teclas ni ver las ventanas de otros, por lo que las teclas de Lumaroo no hacen nada aquí. La configuración se conserva. Para usar Lumaroo, cierre la sesión y elija «X11» o «Xorg» en la pantalla de inicio de sesión.</translation>
+    </message>
+    <message>
         <source>%1 is used by another program. Lumaroo cannot take it.</source>
         <translation>Otro programa usa %1. Lumaroo no puede obtener esa tecla.</translation>
     </message>
@@ -150,6 +162,18 @@
     <message>
         <source>Lumaroo cannot write the file “%1”. Check that you may change it, and try again.</source>
         <translation>Lumaroo no puede escribir el archivo «%1». Compruebe que tiene permiso para cambiarlo e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>Some keys do not work, since Shift alone would take the capital letters you type.</source>
+        <translation>Algunas teclas no funcionan porque Mayús por sí sola se llevaría las mayúsculas que se escriben.</translation>
+    </message>
+    <message>
+        <source>Choose one at least: without a modifier key, no key works.</source>
+        <translation>Elija al menos una: sin tecla modificadora no funciona ninguna tecla.</translation>
+    </message>
+    <message>
+        <source>Shift alone would take the capital letters you type. Choose another modifier key with it.</source>
+        <translation>Mayús por sí sola se llevaría las mayúsculas que se escriben. Elija además otra tecla modificadora.</translation>
     </message>
 </context>
 </TS>

@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>First selected window</source>
-        <translation>Primera ventana elegida</translation>
+        <translation>Ventana de partida</translation>
     </message>
     <message>
         <source>Left edge</source>
@@ -346,6 +346,22 @@
     <message>
         <source>Fast</source>
         <translation>Rápida</translation>
+    </message>
+    <message>
+        <source>Hold an arrow key here.</source>
+        <translation>Mantenga pulsada aquí una flecha.</translation>
+    </message>
+    <message>
+        <source>Try the key repeat</source>
+        <translation>Probar la repetición de teclas</translation>
+    </message>
+    <message>
+        <source>Click the windows, then hold an arrow key.</source>
+        <translation>Haga clic en las ventanas y mantenga pulsada una flecha.</translation>
+    </message>
+    <message>
+        <source>Try &amp;it:</source>
+        <translation>Probar a&amp;quí:</translation>
     </message>
     <message>
         <source>Overlay</source>

@@ -4,6 +4,14 @@
 <context>
     <name>Localizable</name>
     <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 per second</source>
+        <translation>%1 par seconde</translation>
+    </message>
+    <message>
         <source>Lumaroo Enabled</source>
         <translation>Lumaroo est activé</translation>
     </message>
@@ -128,6 +136,10 @@
         <translation>Cette session ne permet pas aux programmes d’avoir leurs propres touches. Lumaroo nécessite une session X11.</translation>
     </message>
     <message>
+        <source>This session runs on Wayland. There no program may take keys or see the windows of others, so Lumaroo’s keys do nothing here. Your settings are kept. To use Lumaroo, log out and choose “X11” or “Xorg” on the login screen.</source>
+        <translation>Cette session fonctionne avec Wayland. Aucun programme ne peut y prendre de touches ni voir les fenêtres des autres ; les touches de Lumaroo n’y ont donc aucun effet. Vos paramètres sont conservés. Pour utiliser Lumaroo, fermez la session et choisissez « X11 » ou « Xorg » sur l’écran de connexion.</translation>
+    </message>
+    <message>
         <source>%1 is used by another program. Lumaroo cannot take it.</source>
         <translation>%1 est utilisée par un autre programme. Lumaroo ne peut pas l’obtenir.</translation>
     </message>
@@ -150,6 +162,18 @@
     <message>
         <source>Lumaroo cannot write the file “%1”. Check that you may change it, and try again.</source>
         <translation>Lumaroo ne peut pas écrire le fichier « %1 ». Vérifiez que vous avez le droit de le modifier, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>Some keys do not work, since Shift alone would take the capital letters you type.</source>
+        <translation>Certaines touches ne fonctionnent pas, car Maj seule prendrait les majuscules que vous tapez.</translation>
+    </message>
+    <message>
+        <source>Choose one at least: without a modifier key, no key works.</source>
+        <translation>Choisissez-en au moins une : sans touche de modification, aucune touche ne fonctionne.</translation>
+    </message>
+    <message>
+        <source>Shift alone would take the capital letters you type. Choose another modifier key with it.</source>
+        <translation>Maj seule prendrait les majuscules que vous tapez. Choisissez une autre touche de modification en plus.</translation>
     </message>
 </context>
 </TS>

@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>First selected window</source>
-        <translation>Première fenêtre choisie</translation>
+        <translation>Fenêtre de départ</translation>
     </message>
     <message>
         <source>Left edge</source>
@@ -346,6 +346,22 @@
     <message>
         <source>Fast</source>
         <translation>Rapide</translation>
+    </message>
+    <message>
+        <source>Hold an arrow key here.</source>
+        <translation>Maintenez ici une touche fléchée.</translation>
+    </message>
+    <message>
+        <source>Try the key repeat</source>
+        <translation>Essayer la répétition des touches</translation>
+    </message>
+    <message>
+        <source>Click the windows, then hold an arrow key.</source>
+        <translation>Cliquez sur les fenêtres, puis maintenez une touche fléchée.</translation>
+    </message>
+    <message>
+        <source>Try &amp;it:</source>
+        <translation>Essa&amp;yer :</translation>
     </message>
     <message>
         <source>Overlay</source>

@@ -4,6 +4,14 @@
 <context>
     <name>Localizable</name>
     <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 per second</source>
+        <translation>%1 al secondo</translation>
+    </message>
+    <message>
         <source>Lumaroo Enabled</source>
         <translation>Lumaroo è attivato</translation>
     </message>
@@ -128,6 +136,10 @@
         <translation>Questa sessione non consente ai programmi di avere tasti propri. Lumaroo richiede una sessione X11.</translation>
     </message>
     <message>
+        <source>This session runs on Wayland. There no program may take keys or see the windows of others, so Lumaroo’s keys do nothing here. Your settings are kept. To use Lumaroo, log out and choose “X11” or “Xorg” on the login screen.</source>
+        <translation>Questa sessione usa Wayland. Qui nessun programma può prendere tasti o vedere le finestre degli altri, perciò i tasti di Lumaroo non hanno effetto. Le impostazioni vengono conservate. Per usare Lumaroo, terminare la sessione e scegliere «X11» o «Xorg» nella schermata di accesso.</translation>
+    </message>
+    <message>
         <source>%1 is used by another program. Lumaroo cannot take it.</source>
         <translation>%1 è usato da un altro programma. Lumaroo non può ottenerlo.</translation>
     </message>
@@ -150,6 +162,18 @@
     <message>
         <source>Lumaroo cannot write the file “%1”. Check that you may change it, and try again.</source>
         <translation>Lumaroo non può scrivere il file «%1». Verificare di avere il permesso di modificarlo e riprovare.</translation>
+    </message>
+    <message>
+        <source>Some keys do not work, since Shift alone would take the capital letters you type.</source>
+        <translation>Alcuni tasti non funzionano perché Maiusc da solo prenderebbe le maiuscole che si digitano.</translation>
+    </message>
+    <message>
+        <source>Choose one at least: without a modifier key, no key works.</source>
+        <translation>Sceglierne almeno uno: senza tasto modificatore non funziona nessun tasto.</translation>
+    </message>
+    <message>
+        <source>Shift alone would take the capital letters you type. Choose another modifier key with it.</source>
+        <translation>Maiusc da solo prenderebbe le maiuscole che si digitano. Scegliere in più un altro tasto modificatore.</translation>
     </message>
 </context>
 </TS>

@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>First selected window</source>
-        <translation>Prima finestra scelta</translation>
+        <translation>Finestra di partenza</translation>
     </message>
     <message>
         <source>Left edge</source>
@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>M&amp;odifier keys pressed once</source>
-        <translation>Tasti modificatori &amp;premuti una volta</translation>
+        <translation>Tasti mo&amp;dificatori premuti una volta</translation>
     </message>
     <message>
         <source>An active Lumaroo waits until you choose a window or cancel.</source>
@@ -348,6 +348,22 @@
         <translation>Rapida</translation>
     </message>
     <message>
+        <source>Hold an arrow key here.</source>
+        <translation>Tenere premuto qui un tasto freccia.</translation>
+    </message>
+    <message>
+        <source>Try the key repeat</source>
+        <translation>Prova la ripetizione dei tasti</translation>
+    </message>
+    <message>
+        <source>Click the windows, then hold an arrow key.</source>
+        <translation>Fare clic sulle finestre, poi tenere premuto un tasto freccia.</translation>
+    </message>
+    <message>
+        <source>Try &amp;it:</source>
+        <translation>&amp;Prova:</translation>
+    </message>
+    <message>
         <source>Overlay</source>
         <translation>Sovrapposizione</translation>
     </message>
@@ -365,7 +381,7 @@
     </message>
     <message>
         <source>Use s&amp;ystem color</source>
-        <translation>Usa il colore &amp;di sistema</translation>
+        <translation>Usa il colore del des&amp;ktop</translation>
     </message>
     <message>
         <source>A&amp;nimate the overlay</source>

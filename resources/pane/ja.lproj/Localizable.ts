@@ -4,6 +4,14 @@
 <context>
     <name>Localizable</name>
     <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>%1 per second</source>
+        <translation>毎秒 %1 回</translation>
+    </message>
+    <message>
         <source>Lumaroo Enabled</source>
         <translation>Lumaroo はオンです</translation>
     </message>
@@ -128,6 +136,10 @@
         <translation>このセッションでは、プログラムがホットキーを使えません。Lumaroo には X11 セッションが必要です。</translation>
     </message>
     <message>
+        <source>This session runs on Wayland. There no program may take keys or see the windows of others, so Lumaroo’s keys do nothing here. Your settings are kept. To use Lumaroo, log out and choose “X11” or “Xorg” on the login screen.</source>
+        <translation>このセッションは Wayland で動作しています。Wayland では、どのプログラムもキーを受け取ったり、ほかのプログラムのウィンドウを見たりできないため、ここでは Lumaroo のキーは機能しません。設定はそのまま残ります。Lumaroo を使うには、ログアウトし、ログイン画面で「X11」または「Xorg」を選んでください。</translation>
+    </message>
+    <message>
         <source>%1 is used by another program. Lumaroo cannot take it.</source>
         <translation>%1 はほかのプログラムが使っています。Lumaroo はこのキーを使えません。</translation>
     </message>
@@ -150,6 +162,18 @@
     <message>
         <source>Lumaroo cannot write the file “%1”. Check that you may change it, and try again.</source>
         <translation>Lumaroo はファイル「%1」に書き込めません。変更する権限があるか確認し、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Some keys do not work, since Shift alone would take the capital letters you type.</source>
+        <translation>Shift だけでは入力する大文字を奪ってしまうため、一部のキーが使えません。</translation>
+    </message>
+    <message>
+        <source>Choose one at least: without a modifier key, no key works.</source>
+        <translation>1 つ以上選んでください。修飾キーがないと、どのキーも使えません。</translation>
+    </message>
+    <message>
+        <source>Shift alone would take the capital letters you type. Choose another modifier key with it.</source>
+        <translation>Shift だけでは入力する大文字を奪ってしまいます。ほかの修飾キーも選んでください。</translation>
     </message>
 </context>
 </TS>

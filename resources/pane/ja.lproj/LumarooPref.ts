@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>First selected window</source>
-        <translation>最初に選択したウィンドウ</translation>
+        <translation>開始時のウィンドウ</translation>
     </message>
     <message>
         <source>Left edge</source>
@@ -346,6 +346,22 @@
     <message>
         <source>Fast</source>
         <translation>速い</translation>
+    </message>
+    <message>
+        <source>Hold an arrow key here.</source>
+        <translation>ここで矢印キーを押し続けます。</translation>
+    </message>
+    <message>
+        <source>Try the key repeat</source>
+        <translation>キーリピートを試す</translation>
+    </message>
+    <message>
+        <source>Click the windows, then hold an arrow key.</source>
+        <translation>ウィンドウをクリックし、矢印キーを押し続けます。</translation>
+    </message>
+    <message>
+        <source>Try &amp;it:</source>
+        <translation>試してみる(&amp;I):</translation>
     </message>
     <message>
         <source>Overlay</source>

@@ -4,6 +4,14 @@
 <context>
     <name>Localizable</name>
     <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 per second</source>
+        <translation>%1 na sekundę</translation>
+    </message>
+    <message>
         <source>Lumaroo Enabled</source>
         <translation>Lumaroo jest włączone</translation>
     </message>
@@ -128,6 +136,10 @@
         <translation>Ta sesja nie udostępnia programom klawiszy skrótu. Lumaroo wymaga sesji X11.</translation>
     </message>
     <message>
+        <source>This session runs on Wayland. There no program may take keys or see the windows of others, so Lumaroo’s keys do nothing here. Your settings are kept. To use Lumaroo, log out and choose “X11” or “Xorg” on the login screen.</source>
+        <translation>Ta sesja korzysta z Waylanda. Żaden program nie może w niej przejmować klawiszy ani widzieć okien innych programów, dlatego klawisze Lumaroo nic tu nie robią. Ustawienia zostają zachowane. Aby używać Lumaroo, proszę się wylogować i wybrać „X11” lub „Xorg” na ekranie logowania.</translation>
+    </message>
+    <message>
         <source>%1 is used by another program. Lumaroo cannot take it.</source>
         <translation>%1 jest w użyciu przez inny program. Lumaroo nie otrzymuje tego klawisza.</translation>
     </message>
@@ -150,6 +162,18 @@
     <message>
         <source>Lumaroo cannot write the file “%1”. Check that you may change it, and try again.</source>
         <translation>Lumaroo nie może zapisać pliku „%1”. Proszę sprawdzić, czy wolno go zmieniać, i spróbować ponownie.</translation>
+    </message>
+    <message>
+        <source>Some keys do not work, since Shift alone would take the capital letters you type.</source>
+        <translation>Niektóre klawisze nie działają, ponieważ sam Shift zabierałby wpisywane wielkie litery.</translation>
+    </message>
+    <message>
+        <source>Choose one at least: without a modifier key, no key works.</source>
+        <translation>Proszę wybrać co najmniej jeden: bez klawisza modyfikującego nie działa żaden klawisz.</translation>
+    </message>
+    <message>
+        <source>Shift alone would take the capital letters you type. Choose another modifier key with it.</source>
+        <translation>Sam Shift zabierałby wpisywane wielkie litery. Proszę wybrać do niego jeszcze jeden klawisz modyfikujący.</translation>
     </message>
 </context>
 </TS>

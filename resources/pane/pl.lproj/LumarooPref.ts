@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>First selected window</source>
-        <translation>Pierwsze wybrane okno</translation>
+        <translation>Okno początkowe</translation>
     </message>
     <message>
         <source>Left edge</source>
@@ -293,7 +293,7 @@
     </message>
     <message>
         <source>Modi&amp;fier keys pressed twice</source>
-        <translation>Po dwóch &amp;naciśnięciach modyfikatorów</translation>
+        <translation>Po dwóc&amp;h naciśnięciach modyfikatorów</translation>
     </message>
     <message>
         <source>M&amp;odifier keys pressed once</source>
@@ -346,6 +346,22 @@
     <message>
         <source>Fast</source>
         <translation>Duża</translation>
+    </message>
+    <message>
+        <source>Hold an arrow key here.</source>
+        <translation>Proszę przytrzymać tu klawisz strzałki.</translation>
+    </message>
+    <message>
+        <source>Try the key repeat</source>
+        <translation>Wypróbowanie powtarzania klawiszy</translation>
+    </message>
+    <message>
+        <source>Click the windows, then hold an arrow key.</source>
+        <translation>Proszę kliknąć okna i przytrzymać klawisz strzałki.</translation>
+    </message>
+    <message>
+        <source>Try &amp;it:</source>
+        <translation>Wypróbowa&amp;nie:</translation>
     </message>
     <message>
         <source>Overlay</source>

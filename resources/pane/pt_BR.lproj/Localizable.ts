@@ -4,6 +4,14 @@
 <context>
     <name>Localizable</name>
     <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 per second</source>
+        <translation>%1 por segundo</translation>
+    </message>
+    <message>
         <source>Lumaroo Enabled</source>
         <translation>O Lumaroo está ligado</translation>
     </message>
@@ -128,6 +136,10 @@
         <translation>Esta sessão não oferece teclas de atalho aos programas. O Lumaroo precisa de uma sessão X11.</translation>
     </message>
     <message>
+        <source>This session runs on Wayland. There no program may take keys or see the windows of others, so Lumaroo’s keys do nothing here. Your settings are kept. To use Lumaroo, log out and choose “X11” or “Xorg” on the login screen.</source>
+        <translation>Esta sessão usa o Wayland. Nela, nenhum programa pode capturar teclas nem ver as janelas de outros; por isso as teclas do Lumaroo não fazem nada aqui. Suas configurações são mantidas. Para usar o Lumaroo, encerre a sessão e escolha “X11” ou “Xorg” na tela de início de sessão.</translation>
+    </message>
+    <message>
         <source>%1 is used by another program. Lumaroo cannot take it.</source>
         <translation>%1: em uso por outro programa. O Lumaroo não pode obter essa tecla.</translation>
     </message>
@@ -150,6 +162,18 @@
     <message>
         <source>Lumaroo cannot write the file “%1”. Check that you may change it, and try again.</source>
         <translation>O Lumaroo não consegue gravar o arquivo “%1”. Verifique se você tem permissão para alterá-lo e tente novamente.</translation>
+    </message>
+    <message>
+        <source>Some keys do not work, since Shift alone would take the capital letters you type.</source>
+        <translation>Algumas teclas não funcionam porque Shift sozinha tomaria as letras maiúsculas que você digita.</translation>
+    </message>
+    <message>
+        <source>Choose one at least: without a modifier key, no key works.</source>
+        <translation>Escolha pelo menos uma: sem tecla modificadora, nenhuma tecla funciona.</translation>
+    </message>
+    <message>
+        <source>Shift alone would take the capital letters you type. Choose another modifier key with it.</source>
+        <translation>Shift sozinha tomaria as letras maiúsculas que você digita. Escolha também outra tecla modificadora.</translation>
     </message>
 </context>
 </TS>

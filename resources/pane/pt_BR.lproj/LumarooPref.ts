@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>First selected window</source>
-        <translation>Primeira janela selecionada</translation>
+        <translation>Janela de partida</translation>
     </message>
     <message>
         <source>Left edge</source>
@@ -346,6 +346,22 @@
     <message>
         <source>Fast</source>
         <translation>Rápida</translation>
+    </message>
+    <message>
+        <source>Hold an arrow key here.</source>
+        <translation>Mantenha aqui uma seta pressionada.</translation>
+    </message>
+    <message>
+        <source>Try the key repeat</source>
+        <translation>Testar a repetição de teclas</translation>
+    </message>
+    <message>
+        <source>Click the windows, then hold an arrow key.</source>
+        <translation>Clique nas janelas e mantenha uma seta pressionada.</translation>
+    </message>
+    <message>
+        <source>Try &amp;it:</source>
+        <translation>Teste a&amp;qui:</translation>
     </message>
     <message>
         <source>Overlay</source>
