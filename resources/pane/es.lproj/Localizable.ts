@@ -4,6 +4,18 @@
 <context>
     <name>Localizable</name>
     <message>
+        <source>The system’s updates bring new versions of this copy.</source>
+        <translation>Las nuevas versiones de esta copia llegan con las actualizaciones del sistema.</translation>
+    </message>
+    <message>
+        <source>Press:</source>
+        <translation>Pulse:</translation>
+    </message>
+    <message>
+        <source>Hold %1 and press:</source>
+        <translation>Mantenga pulsado %1 y pulse:</translation>
+    </message>
+    <message>
         <source>%1 s</source>
         <translation>%1 s</translation>
     </message>

@@ -452,6 +452,38 @@
         <translation>A&amp;yuda</translation>
     </message>
     <message>
+        <source>Without a mou&amp;se</source>
+        <translation>&amp;Sin ratón</translation>
+    </message>
+    <message>
+        <source>Al&amp;erts</source>
+        <translation>A&amp;dvertencias</translation>
+    </message>
+    <message>
+        <source>&amp;Order of windows</source>
+        <translation>&amp;Orden de las ventanas</translation>
+    </message>
+    <message>
+        <source>&amp;Action keys</source>
+        <translation>Teclas de &amp;acción</translation>
+    </message>
+    <message>
+        <source>&amp;Movement keys</source>
+        <translation>Teclas de &amp;movimiento</translation>
+    </message>
+    <message>
+        <source>Turning &amp;Lumaroo on</source>
+        <translation>Activar &amp;Lumaroo</translation>
+    </message>
+    <message>
+        <source>Read in the help</source>
+        <translation>Leer en la ayuda</translation>
+    </message>
+    <message>
+        <source>Your keys</source>
+        <translation>Teclas en uso</translation>
+    </message>
+    <message>
         <source>Help</source>
         <translation>Ayuda</translation>
     </message>

@@ -4,6 +4,18 @@
 <context>
     <name>Localizable</name>
     <message>
+        <source>The system’s updates bring new versions of this copy.</source>
+        <translation>Les nouvelles versions de cette copie arrivent avec les mises à jour du système.</translation>
+    </message>
+    <message>
+        <source>Press:</source>
+        <translation>Appuyez sur :</translation>
+    </message>
+    <message>
+        <source>Hold %1 and press:</source>
+        <translation>Maintenez %1 et appuyez sur :</translation>
+    </message>
+    <message>
         <source>%1 s</source>
         <translation>%1 s</translation>
     </message>

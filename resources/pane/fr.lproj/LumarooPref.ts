@@ -452,6 +452,38 @@
         <translation>A&amp;ide</translation>
     </message>
     <message>
+        <source>Without a mou&amp;se</source>
+        <translation>&amp;Sans souris</translation>
+    </message>
+    <message>
+        <source>Al&amp;erts</source>
+        <translation>Av&amp;ertissements</translation>
+    </message>
+    <message>
+        <source>&amp;Order of windows</source>
+        <translation>O&amp;rdre des fenêtres</translation>
+    </message>
+    <message>
+        <source>&amp;Action keys</source>
+        <translation>Touches d’&amp;action</translation>
+    </message>
+    <message>
+        <source>&amp;Movement keys</source>
+        <translation>Touches de déplace&amp;ment</translation>
+    </message>
+    <message>
+        <source>Turning &amp;Lumaroo on</source>
+        <translation>Activer &amp;Lumaroo</translation>
+    </message>
+    <message>
+        <source>Read in the help</source>
+        <translation>À lire dans l’aide</translation>
+    </message>
+    <message>
+        <source>Your keys</source>
+        <translation>Vos touches</translation>
+    </message>
+    <message>
         <source>Help</source>
         <translation>Aide</translation>
     </message>

@@ -4,6 +4,18 @@
 <context>
     <name>Localizable</name>
     <message>
+        <source>The system’s updates bring new versions of this copy.</source>
+        <translation>Le nuove versioni di questa copia arrivano con gli aggiornamenti del sistema.</translation>
+    </message>
+    <message>
+        <source>Press:</source>
+        <translation>Premere:</translation>
+    </message>
+    <message>
+        <source>Hold %1 and press:</source>
+        <translation>Tenere premuto %1 e premere:</translation>
+    </message>
+    <message>
         <source>%1 s</source>
         <translation>%1 s</translation>
     </message>

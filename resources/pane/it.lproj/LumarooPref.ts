@@ -452,6 +452,38 @@
         <translation>Ai&amp;uto</translation>
     </message>
     <message>
+        <source>Without a mou&amp;se</source>
+        <translation>Se&amp;nza mouse</translation>
+    </message>
+    <message>
+        <source>Al&amp;erts</source>
+        <translation>Avv&amp;isi</translation>
+    </message>
+    <message>
+        <source>&amp;Order of windows</source>
+        <translation>&amp;Ordine delle finestre</translation>
+    </message>
+    <message>
+        <source>&amp;Action keys</source>
+        <translation>Tasti di &amp;azione</translation>
+    </message>
+    <message>
+        <source>&amp;Movement keys</source>
+        <translation>Tasti di &amp;movimento</translation>
+    </message>
+    <message>
+        <source>Turning &amp;Lumaroo on</source>
+        <translation>Attivare &amp;Lumaroo</translation>
+    </message>
+    <message>
+        <source>Read in the help</source>
+        <translation>Da leggere nell’aiuto</translation>
+    </message>
+    <message>
+        <source>Your keys</source>
+        <translation>Tasti in uso</translation>
+    </message>
+    <message>
         <source>Help</source>
         <translation>Aiuto</translation>
     </message>

@@ -4,6 +4,18 @@
 <context>
     <name>Localizable</name>
     <message>
+        <source>The system’s updates bring new versions of this copy.</source>
+        <translation>この Lumaroo の新しいバージョンは、システムのアップデートで届きます。</translation>
+    </message>
+    <message>
+        <source>Press:</source>
+        <translation>次のキーを押します:</translation>
+    </message>
+    <message>
+        <source>Hold %1 and press:</source>
+        <translation>%1 を押したまま次のキーを押します:</translation>
+    </message>
+    <message>
         <source>%1 s</source>
         <translation>%1 秒</translation>
     </message>

@@ -452,6 +452,38 @@
         <translation>ヘルプ(&amp;H)</translation>
     </message>
     <message>
+        <source>Without a mou&amp;se</source>
+        <translation>マウスを使わない操作(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Al&amp;erts</source>
+        <translation>警告(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Order of windows</source>
+        <translation>ウィンドウの順序(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Action keys</source>
+        <translation>操作キー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Movement keys</source>
+        <translation>移動キー(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Turning &amp;Lumaroo on</source>
+        <translation>&amp;Lumaroo をオンにする</translation>
+    </message>
+    <message>
+        <source>Read in the help</source>
+        <translation>ヘルプで読む</translation>
+    </message>
+    <message>
+        <source>Your keys</source>
+        <translation>お使いのキー</translation>
+    </message>
+    <message>
         <source>Help</source>
         <translation>ヘルプ</translation>
     </message>

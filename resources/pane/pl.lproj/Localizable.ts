@@ -4,6 +4,18 @@
 <context>
     <name>Localizable</name>
     <message>
+        <source>The system’s updates bring new versions of this copy.</source>
+        <translation>Nowe wersje tej kopii pojawiają się wraz z aktualizacjami systemu.</translation>
+    </message>
+    <message>
+        <source>Press:</source>
+        <translation>Proszę nacisnąć:</translation>
+    </message>
+    <message>
+        <source>Hold %1 and press:</source>
+        <translation>Proszę przytrzymać %1 i nacisnąć:</translation>
+    </message>
+    <message>
         <source>%1 s</source>
         <translation>%1 s</translation>
     </message>

@@ -452,6 +452,38 @@
         <translation>Pomo&amp;c</translation>
     </message>
     <message>
+        <source>Without a mou&amp;se</source>
+        <translation>&amp;Bez myszy</translation>
+    </message>
+    <message>
+        <source>Al&amp;erts</source>
+        <translation>Ostrzeż&amp;enia</translation>
+    </message>
+    <message>
+        <source>&amp;Order of windows</source>
+        <translation>K&amp;olejność okien</translation>
+    </message>
+    <message>
+        <source>&amp;Action keys</source>
+        <translation>Klawisze &amp;działań</translation>
+    </message>
+    <message>
+        <source>&amp;Movement keys</source>
+        <translation>Klawisze ruc&amp;hu</translation>
+    </message>
+    <message>
+        <source>Turning &amp;Lumaroo on</source>
+        <translation>Włączanie &amp;Lumaroo</translation>
+    </message>
+    <message>
+        <source>Read in the help</source>
+        <translation>Do przeczytania w pomocy</translation>
+    </message>
+    <message>
+        <source>Your keys</source>
+        <translation>Używane klawisze</translation>
+    </message>
+    <message>
         <source>Help</source>
         <translation>Pomoc</translation>
     </message>

@@ -4,6 +4,18 @@
 <context>
     <name>Localizable</name>
     <message>
+        <source>The system’s updates bring new versions of this copy.</source>
+        <translation>As novas versões desta cópia chegam com as atualizações do sistema.</translation>
+    </message>
+    <message>
+        <source>Press:</source>
+        <translation>Pressione:</translation>
+    </message>
+    <message>
+        <source>Hold %1 and press:</source>
+        <translation>Segure %1 e pressione:</translation>
+    </message>
+    <message>
         <source>%1 s</source>
         <translation>%1 s</translation>
     </message>

@@ -452,6 +452,38 @@
         <translation>A&amp;juda</translation>
     </message>
     <message>
+        <source>Without a mou&amp;se</source>
+        <translation>S&amp;em mouse</translation>
+    </message>
+    <message>
+        <source>Al&amp;erts</source>
+        <translation>A&amp;visos</translation>
+    </message>
+    <message>
+        <source>&amp;Order of windows</source>
+        <translation>&amp;Ordem das janelas</translation>
+    </message>
+    <message>
+        <source>&amp;Action keys</source>
+        <translation>Teclas &amp;de ação</translation>
+    </message>
+    <message>
+        <source>&amp;Movement keys</source>
+        <translation>Teclas de &amp;movimento</translation>
+    </message>
+    <message>
+        <source>Turning &amp;Lumaroo on</source>
+        <translation>Ligar o &amp;Lumaroo</translation>
+    </message>
+    <message>
+        <source>Read in the help</source>
+        <translation>Leia na ajuda</translation>
+    </message>
+    <message>
+        <source>Your keys</source>
+        <translation>Suas teclas</translation>
+    </message>
+    <message>
         <source>Help</source>
         <translation>Ajuda</translation>
     </message>
