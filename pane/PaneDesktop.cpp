@@ -95,17 +95,6 @@ void PaneDesktop::showPresence()
     setStringValue(control("stateHint"),
         localized(isRemoved && !runs ? "&Lumaroo was removed from this computer. Install it again to turn it on."
                                      : sentences.value(presence_.state())));
-    hideEmptyRow();
-}
-
-/// The row of the keys keeps its room until it is known that no agent will tell of them.
-void PaneDesktop::hideEmptyRow()
-{
-    const bool isEmpty =
-        stringValue(control("pressNowField")).isEmpty() && stringValue(control("keysStateField")).isEmpty();
-    const bool isAwaited = presence_.state() == AgentPresence::Unknown || presence_.state() == AgentPresence::Runs;
-    for (const char *name : {"pressNowField", "keysStateField"})
-        setHidden(control(name), isEmpty && !isAwaited);
 }
 
 void PaneDesktop::showKeys(const AgentKeys &keys)
@@ -116,7 +105,6 @@ void PaneDesktop::showKeys(const AgentKeys &keys)
     setStringValue(control("keysStateField"), isKeptAwayByWayland(keys) ? localized(onWayland) : text.state);
     setStringValue(control("modifierHint"), text.modifiers.isEmpty() ? modifierHint_ : text.modifiers);
     setStringValue(control("heldKeysField"), text.held);
-    hideEmptyRow();
     // An assistive tool reads a text that is not there as well.
     setStringValue(control("freeModifiersButton"), text.offer);
     setHidden(control("freeModifiersButton"), text.offer.isEmpty());

@@ -33,7 +33,6 @@ private:
     void showStartAtLogin();
     void showPress(const AgentKeysText &text);
     void showPresence();
-    void hideEmptyRow();
     void followFrameColor();
     QString localized(const char *text) const;
     bool eventFilter(QObject *object, QEvent *event) override;

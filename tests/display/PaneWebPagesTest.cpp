@@ -11,6 +11,7 @@
 #include "platform/foundation/bundles/NSBundle.h"
 
 #include <QPushButton>
+#include <QScrollArea>
 #include <linux/input-event-codes.h>
 
 namespace {
@@ -41,6 +42,13 @@ protected:
         auto *page = control<QTextBrowser>(viewName);
         const QPoint place = placeOfText(page, text);
         ASSERT_FALSE(place.isNull());
+        // The page around it is the one that scrolls.
+        for (QWidget *around = page->parentWidget(); around; around = around->parentWidget()) {
+            if (auto *column = qobject_cast<QScrollArea *>(around)) {
+                const QPoint inColumn = page->viewport()->mapTo(column->widget(), place);
+                column->ensureVisible(inColumn.x(), inColumn.y());
+            }
+        }
         clickAt(page->viewport()->mapToGlobal(place));
     }
     void expectOpened(const QUrl &page)

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
+#include <QScrollArea>
 #include <QStyle>
 #include <QWindow>
 #include <gtest/gtest.h>
@@ -64,6 +65,10 @@ void tickAlert()
 
 void clickOn(const QWidget *view)
 {
+    for (QWidget *around = view->parentWidget(); around; around = around->parentWidget()) {
+        if (auto *page = qobject_cast<QScrollArea *>(around))
+            page->ensureWidgetVisible(const_cast<QWidget *>(view));
+    }
     // A check box wider than its title takes clicks on its start only.
     constexpr int fromStart = 8;
     const QPoint place(qMin(fromStart, view->width() / 2), view->height() / 2);

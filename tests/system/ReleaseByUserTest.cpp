@@ -136,7 +136,9 @@ protected:
     }
     void expectToRead(const QString &text)
     {
-        ASSERT_TRUE(reader.waitForText(settings->processId(), text)) << text.toStdString();
+        ASSERT_TRUE(reader.waitForText(settings->processId(), text))
+            << text.toStdString() << " is not among\n"
+            << reader.textsOf(settings->processId()).join('\n').toStdString();
     }
 
     /// Whether all that the agents announced last is this version, and the one that runs is the installed program.

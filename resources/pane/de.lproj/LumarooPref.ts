@@ -464,12 +464,12 @@
         <translation>Reihenf&amp;olge der Fenster</translation>
     </message>
     <message>
-        <source>&amp;Action keys</source>
+        <source>A&amp;ction keys</source>
         <translation>Aktio&amp;nstasten</translation>
     </message>
     <message>
         <source>&amp;Movement keys</source>
-        <translation>Be&amp;wegungstasten</translation>
+        <translation>B&amp;ewegungstasten</translation>
     </message>
     <message>
         <source>Turning &amp;Lumaroo on</source>
@@ -493,7 +493,7 @@
     </message>
     <message>
         <source>&amp;Feedback on the web</source>
-        <translation>&amp;Rückmeldung im Web</translation>
+        <translation>Rück&amp;meldung im Web</translation>
     </message>
     <message>
         <source>Send &amp;feedback…</source>

@@ -464,7 +464,7 @@
         <translation>&amp;Orden de las ventanas</translation>
     </message>
     <message>
-        <source>&amp;Action keys</source>
+        <source>A&amp;ction keys</source>
         <translation>Teclas de &amp;acción</translation>
     </message>
     <message>

@@ -464,7 +464,7 @@
         <translation>O&amp;rdre des fenêtres</translation>
     </message>
     <message>
-        <source>&amp;Action keys</source>
+        <source>A&amp;ction keys</source>
         <translation>Touches d’&amp;action</translation>
     </message>
     <message>

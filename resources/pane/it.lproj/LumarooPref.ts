@@ -464,7 +464,7 @@
         <translation>&amp;Ordine delle finestre</translation>
     </message>
     <message>
-        <source>&amp;Action keys</source>
+        <source>A&amp;ction keys</source>
         <translation>Tasti di &amp;azione</translation>
     </message>
     <message>

@@ -464,7 +464,7 @@
         <translation>ウィンドウの順序(&amp;O)</translation>
     </message>
     <message>
-        <source>&amp;Action keys</source>
+        <source>A&amp;ction keys</source>
         <translation>操作キー(&amp;C)</translation>
     </message>
     <message>

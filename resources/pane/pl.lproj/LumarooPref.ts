@@ -464,7 +464,7 @@
         <translation>K&amp;olejność okien</translation>
     </message>
     <message>
-        <source>&amp;Action keys</source>
+        <source>A&amp;ction keys</source>
         <translation>Klawisze &amp;działań</translation>
     </message>
     <message>

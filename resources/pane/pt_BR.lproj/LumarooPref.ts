@@ -464,7 +464,7 @@
         <translation>&amp;Ordem das janelas</translation>
     </message>
     <message>
-        <source>&amp;Action keys</source>
+        <source>A&amp;ction keys</source>
         <translation>Teclas &amp;de ação</translation>
     </message>
     <message>

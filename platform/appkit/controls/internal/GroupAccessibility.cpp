@@ -34,9 +34,10 @@ QString headingBefore(const QWidget *view, QLayout *layout)
     return {};
 }
 
+/// A control that has no parent yet is a window too, but holds nothing.
 bool isPlainWindow(const QWidget *view)
 {
-    return view->isWindow() && view->windowType() == Qt::Window;
+    return view->isWindow() && view->windowType() == Qt::Window && view->layout();
 }
 
 QString headingOf(const QWidget *view)

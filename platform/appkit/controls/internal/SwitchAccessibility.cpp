@@ -1,5 +1,12 @@
 #include "platform/appkit/controls/internal/SwitchAccessibility.h"
 
+QString SwitchAccessibility::text(QAccessible::Text kind) const
+{
+    const QString own = QAccessibleWidget::text(kind);
+    // One that is a row has its own text beside it.
+    return kind == QAccessible::Name && own.isEmpty() ? control()->text().remove(u'&') : own;
+}
+
 QAccessible::State SwitchAccessibility::state() const
 {
     QAccessible::State state = QAccessibleWidget::state();

@@ -10,6 +10,7 @@ class SwitchAccessibility : public QAccessibleWidget
 public:
     explicit SwitchAccessibility(NSSwitch *control) : QAccessibleWidget(control, QAccessible::CheckBox) { }
 
+    QString text(QAccessible::Text kind) const override;
     QAccessible::State state() const override;
     QStringList actionNames() const override;
     void doAction(const QString &action) override;
