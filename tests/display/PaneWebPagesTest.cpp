@@ -37,18 +37,23 @@ protected:
     {
         bundle().writeFile(QStringLiteral("Contents/Resources/Pages/AtAGlance.html"), body);
     }
-    void clickOnLink(const char *viewName, const QString &text)
+    /// The column around it is what scrolls, once it knows how high the page is.
+    static bool comesIntoSight(QTextBrowser *page, QPoint place)
     {
-        auto *page = control<QTextBrowser>(viewName);
-        const QPoint place = placeOfText(page, text);
-        ASSERT_FALSE(place.isNull());
-        // The page around it is the one that scrolls.
         for (QWidget *around = page->parentWidget(); around; around = around->parentWidget()) {
             if (auto *column = qobject_cast<QScrollArea *>(around)) {
                 const QPoint inColumn = page->viewport()->mapTo(column->widget(), place);
                 column->ensureVisible(inColumn.x(), inColumn.y());
             }
         }
+        return page->viewport()->visibleRegion().contains(place);
+    }
+    void clickOnLink(const char *viewName, const QString &text)
+    {
+        auto *page = control<QTextBrowser>(viewName);
+        const QPoint place = placeOfText(page, text);
+        ASSERT_FALSE(place.isNull());
+        ASSERT_TRUE(waitUntil([&] { return comesIntoSight(page, place); }));
         clickAt(page->viewport()->mapToGlobal(place));
     }
     void expectOpened(const QUrl &page)

@@ -19,6 +19,8 @@ protected:
     UpdaterOfAnotherVersion()
     {
         storeOutside(KTXFirstLaunch, true);
+        // A copy without a key offers no checks.
+        changeInfo(pane(), {{"SUPublicEDKey", QString::fromLatin1(QByteArray(32, 'k').toBase64())}});
         // What the settings inherit, and write their log to.
         testing::internal::CaptureStderr();
         settings = std::make_unique<SettingsProgram>(QStringList{pane()});
