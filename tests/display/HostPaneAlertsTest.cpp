@@ -5,6 +5,7 @@
 #include "OpenAlert.h"
 #include "PaneBundle.h"
 #include "Wait.h"
+#include "host/HostState.h"
 #include "host/SettingsApplication.h"
 #include "platform/appkit/controls/Controls.h"
 
@@ -38,6 +39,7 @@ protected:
         // As settings that were open before, with right and down on one key.
         const QVariantMap down{{KTXKeycode, QStringLiteral("125")}};
         store({{KTXFirstLaunch, true}, {KTXModifierMask, qlonglong(onlyAlt)}, {KTXRightPref, down}});
+        NSUserDefaults::standardUserDefaults()->setPersistentDomainForName({}, HostState::domain);
     }
     ~WarningsInTheHost() override { store({}); }
 

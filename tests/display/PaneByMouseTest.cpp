@@ -2,6 +2,7 @@
 // and a colour is dragged onto the colour well.
 
 #include "KeyPress.h"
+#include "OpenAlert.h"
 #include "PaneOnRealStore.h"
 #include "Wait.h"
 
@@ -67,6 +68,7 @@ protected:
     /// Drags a slider's knob by so many pixels, in two moves; what is stored and announced on the way is nothing.
     void drag(FloatSlider *slider, int pixels)
     {
+        bringIntoSight(slider);
         const QPoint start = knob(slider);
         movePointerTo(start);
         mouseDown();
@@ -85,6 +87,7 @@ protected:
     void choose(const char *name, int itemTag)
     {
         auto *popUp = control<QComboBox>(name);
+        bringIntoSight(popUp);
         clickAt(popUp->mapToGlobal(popUp->rect().center()));
         QAbstractItemView *list = popUp->view();
         ASSERT_TRUE(waitUntil([&] { return list->isVisible() && list->window()->windowHandle()->isExposed(); }));
@@ -175,6 +178,7 @@ TEST_F(PaneByMouse, aSliderTurnedWithTheWheelIsStoredAtEachNotchAndAnnouncesNoth
         {"repeatDelaySlider", KTXInitialDelay, Wheel::Up}, {"repeatRateSlider", KTXRepeatRate, Wheel::Down}};
     for (const auto &[name, key, direction] : turns) {
         FloatSlider *turned = slider(name);
+        bringIntoSight(turned);
         movePointerTo(turned->mapToGlobal(turned->rect().center()));
         for (int notch = 0; notch < 2; ++notch) {
             const double last = turned->value();
@@ -205,6 +209,7 @@ TEST_F(PaneByMouse, aColourDroppedOnTheWellIsStoredAndAnnounced)
     patch.show();
     ASSERT_TRUE(waitUntil([&] { return patch.windowHandle()->isExposed() && !patch.pos().isNull(); }));
     LettingGo lettingGo(well());
+    bringIntoSight(well());
     const QPoint start = patch.mapToGlobal(patch.rect().center());
     const QPoint end = well()->mapToGlobal(well()->rect().center());
     movePointerTo(start);

@@ -30,6 +30,8 @@ protected:
         store().set(KTXFirstLaunch, QVariant(true));
         NSUserDefaults::standardUserDefaults()->setPersistentDomainForName({}, updaterDomain);
         UpdateRecord().noteBuildOfNotes(1000000);
+        // A copy without a key tells nothing of checks.
+        changeInfo({{"SUPublicEDKey", "any"}});
     }
     ~UpdateStatus() override { systemCalls() = original_; }
 

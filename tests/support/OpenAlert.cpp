@@ -63,12 +63,17 @@ void tickAlert()
     ASSERT_TRUE(waitUntil([box] { return box->isChecked(); }));
 }
 
-void clickOn(const QWidget *view)
+void bringIntoSight(const QWidget *view)
 {
     for (QWidget *around = view->parentWidget(); around; around = around->parentWidget()) {
         if (auto *page = qobject_cast<QScrollArea *>(around))
             page->ensureWidgetVisible(const_cast<QWidget *>(view));
     }
+}
+
+void clickOn(const QWidget *view)
+{
+    bringIntoSight(view);
     // A check box wider than its title takes clicks on its start only.
     constexpr int fromStart = 8;
     const QPoint place(qMin(fromStart, view->width() / 2), view->height() / 2);

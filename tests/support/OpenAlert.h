@@ -36,5 +36,7 @@ Part *partOfAlert(const char *name)
 }
 /// Clicks on the suppression check box and waits until it is ticked.
 void tickAlert();
-/// Clicks on a view, really, at the start of its text.
+/// Scrolls the pages around a view until it shows.
+void bringIntoSight(const QWidget *view);
+/// Clicks on a view, which is brought into sight, really, at the start of its text.
 void clickOn(const QWidget *view);

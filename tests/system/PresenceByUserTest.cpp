@@ -144,7 +144,9 @@ TEST_P(PresenceByUser, anAgentThatIsThereAgainAfterItCouldNotBeStartedRuns)
     ASSERT_TRUE(tells(says().cannotStart));
     ASSERT_TRUE(QFile::setPermissions(agentProgram(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     // It stays as its user left it: off, and on again.
+    const QImage whileOn = settings->settledPicture();
     pressSwitch();
+    ASSERT_FALSE(settings->pictureAfterChangeFrom(whileOn).isNull());
     pressSwitch();
     EXPECT_TRUE(tells(says().runs));
 }

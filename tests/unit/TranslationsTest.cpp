@@ -31,7 +31,8 @@ const SpokenIn sources[]{
         "^(KTX "
         "classes/KeyCodeTranslator|platform/appkit/(alerts/.*|web/internal/URLErrors|colors/NSColorWell))\\.cpp$"},
     {"host", "Settings", "^host/[^/]*\\.cpp$",
-        {"The pane to open, by its path or identifier.", "Use this colour scheme: light or dark."}},
+        {"The pane to open, by its path or identifier.", "Use this colour scheme: light or dark.", "noticeHeading",
+            "noticeText"}},
     {"pane", "Localizable", "^pane/[^/]*\\.cpp$",
         {"Can't Launch Lumaroo.agent", "Lumaroo prefPane: ", "No path found for Lumaroo.agent"}},
     {"pane", "Updates", "^updater/(windows/)?[^/]*\\.cpp$",

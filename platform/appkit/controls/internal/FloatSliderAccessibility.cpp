@@ -39,9 +39,9 @@ void *FloatSliderAccessibility::interface_cast(QAccessible::InterfaceType type)
 QString FloatSliderAccessibility::text(QAccessible::Text text) const
 {
     const QString own = QAccessibleWidget::text(text);
-    // On the bus a value is a bare number; its unit is heard in the description.
-    if (text == QAccessible::Description)
-        return (slider()->spokenValue() + u' ' + own).trimmed();
+    // On the bus a value is a bare number; its unit is heard in the description, unless that says what the value means.
+    if (text == QAccessible::Description && own.isEmpty())
+        return slider()->spokenValue();
     return text == QAccessible::Value ? slider()->spokenValue() : own;
 }
 
