@@ -1,6 +1,7 @@
 #include "platform/appkit/controls/KeyCapsLine.h"
 
 #include "platform/appkit/colors/ColorMixing.h"
+#include "platform/appkit/controls/KeyCapField.h"
 
 #include <QPainter>
 #include <QStyle>
@@ -12,8 +13,6 @@ constexpr int gap = 6;
 constexpr int lineGap = 6;
 constexpr int capPadding = 8;
 constexpr int capRim = 4; // above and below the letters
-constexpr int edge = 2; // of the cap's front edge
-constexpr qreal radius = 5;
 
 } // namespace
 
@@ -53,7 +52,7 @@ void KeyCapsLine::addWords(const QString &words)
 
 int KeyCapsLine::lineHeight() const
 {
-    return fontMetrics().height() + 2 * capRim + edge;
+    return fontMetrics().height() + 2 * capRim + keyCapEdge;
 }
 
 QSize KeyCapsLine::sizeOf(const Piece &piece) const
@@ -106,18 +105,9 @@ void KeyCapsLine::paintEvent(QPaintEvent *)
     const QList<QRect> all = places(width());
     for (qsizetype index = 0; index < all.size(); ++index) {
         const QRect place = QStyle::visualRect(layoutDirection(), rect(), all.at(index));
-        QRect face = place;
-        if (pieces_.at(index).isCap) {
-            face.adjust(0, 0, 0, -edge);
-            painter.setPen(Qt::NoPen);
-            painter.setBrush(mixed(window, letters, 0.45f));
-            painter.drawRoundedRect(QRectF(place), radius, radius);
-            painter.setPen(QPen(mixed(window, letters, 0.3f), 1));
-            painter.setBrush(mixed(window, letters, 0.05f));
-            painter.drawRoundedRect(QRectF(face).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
-        }
+        if (pieces_.at(index).isCap)
+            drawKeyCap(painter, place, palette(), mixed(window, letters, 0.05f), mixed(window, letters, 0.3f), 1);
         painter.setPen(letters);
-        painter.drawText(
-            face.adjusted(0, 0, 0, pieces_.at(index).isCap ? 0 : -edge), Qt::AlignCenter, pieces_.at(index).text);
+        painter.drawText(place.adjusted(0, 0, 0, -keyCapEdge), Qt::AlignCenter, pieces_.at(index).text);
     }
 }
