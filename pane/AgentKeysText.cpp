@@ -66,8 +66,8 @@ QStringList Words::modifierNames() const
         quint32 mask;
         const char *name;
     };
-    const Modifier modifiers[] = {{KTXShiftModifier, "⇧ Sh&ift"}, {KTXControlModifier, "⌃ &Control"},
-        {KTXOptionModifier, "⌥ A&lt"}, {KTXCommandModifier, "⌘ Sup&er"}};
+    const Modifier modifiers[] = {{KTXShiftModifier, "Sh&ift ⇧"}, {KTXControlModifier, "&Control ⌃"},
+        {KTXOptionModifier, "A&lt ⌥"}, {KTXCommandModifier, "Sup&er ⌘"}};
     QStringList names;
     for (const auto &[mask, name] : modifiers) {
         const QString text = QString::fromUtf8(name);

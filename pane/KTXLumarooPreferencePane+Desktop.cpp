@@ -4,6 +4,7 @@
 #include "KTXLoginEntry.h"
 #include "pane/KeySheet.h"
 #include "pane/PaneDesktop.h"
+#include "pane/PaneKeys.h"
 #include "pane/RepeatTrial.h"
 #include "pane/ThisCopy.h"
 #include "platform/foundation/Boundary.h"
@@ -15,6 +16,12 @@
 void KTXLumarooPreferencePane::followDesktop()
 {
     desktop_ = new PaneDesktop(mainView(), bundle(), this);
+    const auto showWhatIsStored = [this] {
+        syncPrefsAndNotifyAgent();
+        readUserPrefs();
+        refreshConflictMarkers();
+    };
+    keys_ = new PaneKeys(mainView(), bundle(), {[this] { return keyCodes_; }, showWhatIsStored}, this);
     connect(&desktop_->presence(), &AgentPresence::ended, this,
         [this] { runAtBoundary("setAgentVisualsOff", [this] { setAgentVisualsOff(); }); });
     // What could not be stored, or read, was announced in vain when it was set; and what is stored may be something

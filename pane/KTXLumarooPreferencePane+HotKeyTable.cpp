@@ -5,6 +5,7 @@
 #include "KTXHotKeyEntry.h"
 #include "KeyCodeTranslator.h"
 #include "pane/AlertOverEditor.h"
+#include "pane/PaneKeys.h"
 #include "pane/SuppressedAlerts.h"
 #include "platform/appkit/NSApplication.h"
 #include "platform/appkit/NSBeep.h"
@@ -57,6 +58,8 @@ bool KTXLumarooPreferencePane::controlTextShouldBeginEditing(QWidget *control, F
     const int row = tag(control);
     const bool isHotKeyField = keyCodes_ && row >= 0 && row < keyCodes_->size();
     if (isHotKeyField && event.type == NSEventType::KeyDown) {
+        if (keys_)
+            keys_->tellOfPress(row, event.keyCode);
         if (keyCodes_->at(row) == event.keyCode)
             return false;
         if (keyCodes_->contains(event.keyCode))

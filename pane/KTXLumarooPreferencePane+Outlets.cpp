@@ -1,5 +1,6 @@
 #include "pane/KTXLumarooPreferencePane.h"
 
+#include "pane/PaneKeys.h"
 #include "updater/InterfaceClasses.h"
 
 InterfaceOwner KTXLumarooPreferencePane::interfaceOwner()
@@ -74,6 +75,8 @@ QList<ActionEntry> KTXLumarooPreferencePane::actions()
         {QStringLiteral("feedback:"), [this](QObject *sender) { feedback(sender); }},
         {QStringLiteral("orderFrontFeedbackWindow:"), [this](QObject *sender) { orderFrontFeedbackWindow(sender); }},
         {QStringLiteral("useFreeModifiers:"), [this](QObject *) { useFreeModifiers(); }},
+        {QStringLiteral("restoreAllKeys:"), [this](QObject *) { keys_->restoreAll(); }},
+        {QStringLiteral("undoRestoringKeys:"), [this](QObject *) { keys_->undo(); }},
         {QStringLiteral("toggleStartAtLogin:"), [this](QObject *sender) { toggleStartAtLogin(sender); }},
     };
 }

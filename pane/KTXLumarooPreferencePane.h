@@ -141,10 +141,10 @@ private:
 
     quint32 modifierStateMask_ = 0, toggleStateMask_ = 0;
     int loadedVersion_ = 0;
-    QStringList helpAnchors_;
+    QStringList helpAnchors_, keyCodePrefNames_;
     QVariantMap infoDictionary_;
-    QStringList keyCodePrefNames_;
     KeyCodeTable defaultKeyCodes_, keyCodes_;
     ProcessSerialNumber agentPSN_;
     class PaneDesktop *desktop_ = nullptr;
+    class PaneKeys *keys_ = nullptr;
 };

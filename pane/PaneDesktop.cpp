@@ -66,7 +66,7 @@ void PaneDesktop::showPress(const AgentKeysText &text)
     setStringValue(control("pressNowField"), text.press);
     QStringList spoken = text.modifierNames;
     for (QString &name : spoken)
-        name = name.section(u' ', 1);
+        name = name.section(u' ', 0, -2);
     if (auto *line = qobject_cast<KeyCapsLine *>(control("pressNowField"))) {
         line->setSentence(text.pressSentence, {text.modifierNames, text.keyNames},
             text.pressSentence.isEmpty() ? QString()

@@ -142,7 +142,7 @@ TEST_F(HotKeyFieldColor, aScreenReaderIsToldWhatToDo)
     showPage();
     for (int row = 0; row < RowCount; ++row) {
         const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(field(row));
-        EXPECT_EQ(interface->text(QAccessible::Description), "Press a key") << row;
+        EXPECT_TRUE(interface->text(QAccessible::Description).endsWith(". Press a key")) << row;
         EXPECT_TRUE(interface->text(QAccessible::Name).startsWith("Key to ")) << row;
     }
 }

@@ -23,7 +23,7 @@ protected:
     {
         QList<int> rows;
         for (int row = Up; row < RowCount; ++row) {
-            EXPECT_TRUE(told(row) == usual || told(row) == usedTwice + ' ' + usual) << told(row).toStdString();
+            EXPECT_TRUE(told(row).endsWith(usual) && told(row).count(usedTwice) <= 1) << told(row).toStdString();
             if (told(row).contains(usedTwice))
                 rows += row;
         }

@@ -39,6 +39,8 @@ const ExpectedControl controls[] = {
     {0, "tutorialButton", "QPushButton", noTag, "runTutorial:"},
     {0, "startAtLoginButton", "QCheckBox", noTag, "toggleStartAtLogin:"},
     {1, "freeModifiersButton", "QPushButton", noTag, "useFreeModifiers:"},
+    {1, "undoRestoringButton", "QPushButton", noTag, "undoRestoringKeys:"},
+    {1, "restoreAllKeysButton", "QPushButton", noTag, "restoreAllKeys:"},
     {1, "shiftCheckBox", "QCheckBox", 0x200, "updateModifierStates:"},
     {1, "controlCheckBox", "QCheckBox", 0x1000, "updateModifierStates:"},
     {1, "optionCheckBox", "QCheckBox", 0x800, "updateModifierStates:"},

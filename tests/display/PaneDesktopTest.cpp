@@ -85,14 +85,14 @@ TEST_F(KeysInPane, namesTheKeyThatAnotherProgramHolds)
     showPage();
     EXPECT_TRUE(shows("heldKeysField", oneIsHeld));
     EXPECT_EQ(heldRows(), QList<int>{Left});
-    EXPECT_EQ(told(Left), "Another program uses this key with the modifier keys. Press a key");
-    EXPECT_EQ(told(Right), "Press a key");
+    EXPECT_EQ(told(Left), "Another program uses this key with the modifier keys. Control Alt ←. Press a key");
+    EXPECT_EQ(told(Right), "Control Alt →. Press a key");
     EXPECT_TRUE(text("keysStateField").startsWith("Some keys do not work, since other programs use them."));
     EXPECT_TRUE(isHidden(control("freeModifiersButton"))) << "no modifiers are known that are free";
     agent->answers(AgentStandIn::answerWith({}));
     EXPECT_TRUE(shows("heldKeysField", {}));
     EXPECT_EQ(heldRows(), QList<int>());
-    EXPECT_EQ(told(Left), "Press a key");
+    EXPECT_EQ(told(Left), "Control Alt ←. Press a key");
 }
 
 TEST_F(KeysInPane, namesAllThatOthersHold)
@@ -116,7 +116,7 @@ TEST_F(KeysInPane, aFieldTellsOfBothItsMarks)
     EXPECT_TRUE(both.contains("Another program uses this key"));
     agent.reset();
     ASSERT_TRUE(tellsNothing());
-    EXPECT_EQ(told(Left), "This key is used more than once. Press a key");
+    EXPECT_EQ(told(Left), "This key is used more than once. Control Alt ←. Press a key");
 }
 
 TEST_F(KeysInPane, takesFreeModifiersAsIfTheyHadBeenTicked)

@@ -38,7 +38,7 @@ TEST_F(PaneModifierEditing, bitsThatDoNotExistAreCleanedAway)
 
 TEST_F(PaneModifierEditing, theBoxesAreCalledAsOnThisDesktop)
 {
-    const QStringList titles{"⇧ Shift", "⌃ Control", "⌥ Alt", "⌘ Super"};
+    const QStringList titles{"Shift ⇧", "Control ⌃", "Alt ⌥", "Super ⌘"};
     for (int index = 0; index < titles.size(); ++index)
         EXPECT_EQ(box(modifiers[index].box)->text().remove('&'), titles[index]);
 }
@@ -235,7 +235,7 @@ TEST_F(PaneModifierEditing, theSheetsAreGermanForAGermanUser)
 {
     QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
     showModifiers(0x800);
-    EXPECT_EQ(box("optionCheckBox")->text().remove('&'), QStringLiteral("⌥ Alt"));
+    EXPECT_EQ(box("optionCheckBox")->text().remove('&'), QStringLiteral("Alt ⌥"));
     performClick(box("optionCheckBox"));
     ASSERT_TRUE(alertComesUp());
     EXPECT_EQ(textsOfAlert(),

@@ -187,5 +187,29 @@
         <source>Shift alone would take the capital letters you type. Choose another modifier key with it.</source>
         <translation>Die Umschalttaste allein nähme die Großbuchstaben, die Sie tippen. Wählen Sie eine weitere Zusatztaste dazu.</translation>
     </message>
+    <message>
+        <source>Restore this key</source>
+        <translation>Diese Taste zurücksetzen</translation>
+    </message>
+    <message>
+        <source>%1 is used for “%2”.</source>
+        <translation>%1 ist schon für „%2“ belegt.</translation>
+    </message>
+    <message>
+        <source>%1 is used for “%2”. Change that key first.</source>
+        <translation>%1 ist schon für „%2“ belegt. Ändern Sie zuerst diese Taste.</translation>
+    </message>
+    <message>
+        <source>The key for “%1” is restored.</source>
+        <translation>Die Taste für „%1“ ist zurückgesetzt.</translation>
+    </message>
+    <message>
+        <source>All keys are restored.</source>
+        <translation>Alle Tasten sind zurückgesetzt.</translation>
+    </message>
+    <message>
+        <source>The keys are as they were before.</source>
+        <translation>Die Tasten sind wieder wie zuvor.</translation>
+    </message>
 </context>
 </TS>

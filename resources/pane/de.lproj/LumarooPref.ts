@@ -56,20 +56,20 @@
         <translation>Zusatztasten</translation>
     </message>
     <message>
-        <source>⇧ Sh&amp;ift</source>
-        <translation>⇧ U&amp;mschalt</translation>
+        <source>Sh&amp;ift ⇧</source>
+        <translation>U&amp;mschalt ⇧</translation>
     </message>
     <message>
-        <source>⌃ &amp;Control</source>
-        <translation>⌃ &amp;Strg</translation>
+        <source>&amp;Control ⌃</source>
+        <translation>&amp;Strg ⌃</translation>
     </message>
     <message>
-        <source>⌥ A&amp;lt</source>
-        <translation>⌥ A&amp;lt</translation>
+        <source>A&amp;lt ⌥</source>
+        <translation>A&amp;lt ⌥</translation>
     </message>
     <message>
-        <source>⌘ Sup&amp;er</source>
-        <translation>⌘ Su&amp;per</translation>
+        <source>Sup&amp;er ⌘</source>
+        <translation>Su&amp;per ⌘</translation>
     </message>
     <message>
         <source>The modifier keys in use</source>
@@ -542,6 +542,14 @@
     <message>
         <source>Start Lumaroo at l&amp;ogin</source>
         <translation>Lumaroo beim Anmelden &amp;starten</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Restore all keys</source>
+        <translation>Alle Tasten zurücksetzen</translation>
     </message>
 </context>
 </TS>

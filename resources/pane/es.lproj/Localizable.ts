@@ -187,5 +187,29 @@
         <source>Shift alone would take the capital letters you type. Choose another modifier key with it.</source>
         <translation>Mayús por sí sola se llevaría las mayúsculas que se escriben. Elija además otra tecla modificadora.</translation>
     </message>
+    <message>
+        <source>Restore this key</source>
+        <translation>Restablecer esta tecla</translation>
+    </message>
+    <message>
+        <source>%1 is used for “%2”.</source>
+        <translation>%1 ya se usa para «%2».</translation>
+    </message>
+    <message>
+        <source>%1 is used for “%2”. Change that key first.</source>
+        <translation>%1 ya se usa para «%2». Cambie primero esa tecla.</translation>
+    </message>
+    <message>
+        <source>The key for “%1” is restored.</source>
+        <translation>La tecla de «%1» se ha restablecido.</translation>
+    </message>
+    <message>
+        <source>All keys are restored.</source>
+        <translation>Se han restablecido todas las teclas.</translation>
+    </message>
+    <message>
+        <source>The keys are as they were before.</source>
+        <translation>Las teclas vuelven a estar como antes.</translation>
+    </message>
 </context>
 </TS>

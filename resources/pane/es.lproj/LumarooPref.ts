@@ -56,20 +56,20 @@
         <translation>Teclas modificadoras</translation>
     </message>
     <message>
-        <source>⇧ Sh&amp;ift</source>
-        <translation>⇧ &amp;Mayús</translation>
+        <source>Sh&amp;ift ⇧</source>
+        <translation>&amp;Mayús ⇧</translation>
     </message>
     <message>
-        <source>⌃ &amp;Control</source>
-        <translation>⌃ &amp;Ctrl</translation>
+        <source>&amp;Control ⌃</source>
+        <translation>&amp;Ctrl ⌃</translation>
     </message>
     <message>
-        <source>⌥ A&amp;lt</source>
-        <translation>⌥ &amp;Alt</translation>
+        <source>A&amp;lt ⌥</source>
+        <translation>&amp;Alt ⌥</translation>
     </message>
     <message>
-        <source>⌘ Sup&amp;er</source>
-        <translation>⌘ S&amp;uper</translation>
+        <source>Sup&amp;er ⌘</source>
+        <translation>S&amp;uper ⌘</translation>
     </message>
     <message>
         <source>The modifier keys in use</source>
@@ -542,6 +542,14 @@
     <message>
         <source>Start Lumaroo at l&amp;ogin</source>
         <translation>Iniciar Lumaroo &amp;al iniciar sesión</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Restore all keys</source>
+        <translation>Restablecer todas las teclas</translation>
     </message>
 </context>
 </TS>

@@ -187,5 +187,29 @@
         <source>Shift alone would take the capital letters you type. Choose another modifier key with it.</source>
         <translation>Maj seule prendrait les majuscules que vous tapez. Choisissez une autre touche de modification en plus.</translation>
     </message>
+    <message>
+        <source>Restore this key</source>
+        <translation>Rétablir cette touche</translation>
+    </message>
+    <message>
+        <source>%1 is used for “%2”.</source>
+        <translation>%1 sert déjà pour « %2 ».</translation>
+    </message>
+    <message>
+        <source>%1 is used for “%2”. Change that key first.</source>
+        <translation>%1 sert déjà pour « %2 ». Changez d’abord cette touche.</translation>
+    </message>
+    <message>
+        <source>The key for “%1” is restored.</source>
+        <translation>La touche de « %1 » est rétablie.</translation>
+    </message>
+    <message>
+        <source>All keys are restored.</source>
+        <translation>Toutes les touches sont rétablies.</translation>
+    </message>
+    <message>
+        <source>The keys are as they were before.</source>
+        <translation>Les touches sont à nouveau comme avant.</translation>
+    </message>
 </context>
 </TS>

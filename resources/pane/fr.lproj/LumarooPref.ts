@@ -56,20 +56,20 @@
         <translation>Touches de modification</translation>
     </message>
     <message>
-        <source>⇧ Sh&amp;ift</source>
-        <translation>⇧ &amp;Maj</translation>
+        <source>Sh&amp;ift ⇧</source>
+        <translation>&amp;Maj ⇧</translation>
     </message>
     <message>
-        <source>⌃ &amp;Control</source>
-        <translation>⌃ &amp;Ctrl</translation>
+        <source>&amp;Control ⌃</source>
+        <translation>&amp;Ctrl ⌃</translation>
     </message>
     <message>
-        <source>⌥ A&amp;lt</source>
-        <translation>⌥ &amp;Alt</translation>
+        <source>A&amp;lt ⌥</source>
+        <translation>&amp;Alt ⌥</translation>
     </message>
     <message>
-        <source>⌘ Sup&amp;er</source>
-        <translation>⌘ &amp;Super</translation>
+        <source>Sup&amp;er ⌘</source>
+        <translation>&amp;Super ⌘</translation>
     </message>
     <message>
         <source>The modifier keys in use</source>
@@ -542,6 +542,14 @@
     <message>
         <source>Start Lumaroo at l&amp;ogin</source>
         <translation>Lancer Lumaroo à l’ouverture &amp;de session</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Restore all keys</source>
+        <translation>Rétablir toutes les touches</translation>
     </message>
 </context>
 </TS>

@@ -187,5 +187,29 @@
         <source>Shift alone would take the capital letters you type. Choose another modifier key with it.</source>
         <translation>Maiusc da solo prenderebbe le maiuscole che si digitano. Scegliere in più un altro tasto modificatore.</translation>
     </message>
+    <message>
+        <source>Restore this key</source>
+        <translation>Ripristina questo tasto</translation>
+    </message>
+    <message>
+        <source>%1 is used for “%2”.</source>
+        <translation>%1 è già usato per «%2».</translation>
+    </message>
+    <message>
+        <source>%1 is used for “%2”. Change that key first.</source>
+        <translation>%1 è già usato per «%2». Cambiare prima quel tasto.</translation>
+    </message>
+    <message>
+        <source>The key for “%1” is restored.</source>
+        <translation>Il tasto di «%1» è ripristinato.</translation>
+    </message>
+    <message>
+        <source>All keys are restored.</source>
+        <translation>Tutti i tasti sono ripristinati.</translation>
+    </message>
+    <message>
+        <source>The keys are as they were before.</source>
+        <translation>I tasti sono di nuovo come prima.</translation>
+    </message>
 </context>
 </TS>

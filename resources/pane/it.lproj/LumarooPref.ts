@@ -56,20 +56,20 @@
         <translation>Tasti modificatori</translation>
     </message>
     <message>
-        <source>⇧ Sh&amp;ift</source>
-        <translation>⇧ &amp;Maiusc</translation>
+        <source>Sh&amp;ift ⇧</source>
+        <translation>&amp;Maiusc ⇧</translation>
     </message>
     <message>
-        <source>⌃ &amp;Control</source>
-        <translation>⌃ Ct&amp;rl</translation>
+        <source>&amp;Control ⌃</source>
+        <translation>Ct&amp;rl ⌃</translation>
     </message>
     <message>
-        <source>⌥ A&amp;lt</source>
-        <translation>⌥ &amp;Alt</translation>
+        <source>A&amp;lt ⌥</source>
+        <translation>&amp;Alt ⌥</translation>
     </message>
     <message>
-        <source>⌘ Sup&amp;er</source>
-        <translation>⌘ Su&amp;per</translation>
+        <source>Sup&amp;er ⌘</source>
+        <translation>Su&amp;per ⌘</translation>
     </message>
     <message>
         <source>The modifier keys in use</source>
@@ -542,6 +542,14 @@
     <message>
         <source>Start Lumaroo at l&amp;ogin</source>
         <translation>&amp;Avvia Lumaroo all’accesso</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Restore all keys</source>
+        <translation>Ripristina tutti i tasti</translation>
     </message>
 </context>
 </TS>

@@ -187,5 +187,29 @@
         <source>Shift alone would take the capital letters you type. Choose another modifier key with it.</source>
         <translation>Shift だけでは入力する大文字を奪ってしまいます。ほかの修飾キーも選んでください。</translation>
     </message>
+    <message>
+        <source>Restore this key</source>
+        <translation>このキーを元に戻す</translation>
+    </message>
+    <message>
+        <source>%1 is used for “%2”.</source>
+        <translation>%1 は「%2」に使われています。</translation>
+    </message>
+    <message>
+        <source>%1 is used for “%2”. Change that key first.</source>
+        <translation>%1 は「%2」に使われています。先にそのキーを変更してください。</translation>
+    </message>
+    <message>
+        <source>The key for “%1” is restored.</source>
+        <translation>「%1」のキーを元に戻しました。</translation>
+    </message>
+    <message>
+        <source>All keys are restored.</source>
+        <translation>すべてのキーを元に戻しました。</translation>
+    </message>
+    <message>
+        <source>The keys are as they were before.</source>
+        <translation>キーは前の状態に戻りました。</translation>
+    </message>
 </context>
 </TS>

@@ -56,20 +56,20 @@
         <translation>修飾キー</translation>
     </message>
     <message>
-        <source>⇧ Sh&amp;ift</source>
-        <translation>⇧ Sh&amp;ift</translation>
+        <source>Sh&amp;ift ⇧</source>
+        <translation>Sh&amp;ift ⇧</translation>
     </message>
     <message>
-        <source>⌃ &amp;Control</source>
-        <translation>⌃ &amp;Ctrl</translation>
+        <source>&amp;Control ⌃</source>
+        <translation>&amp;Ctrl ⌃</translation>
     </message>
     <message>
-        <source>⌥ A&amp;lt</source>
-        <translation>⌥ A&amp;lt</translation>
+        <source>A&amp;lt ⌥</source>
+        <translation>A&amp;lt ⌥</translation>
     </message>
     <message>
-        <source>⌘ Sup&amp;er</source>
-        <translation>⌘ Sup&amp;er</translation>
+        <source>Sup&amp;er ⌘</source>
+        <translation>Sup&amp;er ⌘</translation>
     </message>
     <message>
         <source>The modifier keys in use</source>
@@ -542,6 +542,14 @@
     <message>
         <source>Start Lumaroo at l&amp;ogin</source>
         <translation>ログイン時に Lumaroo を起動する(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>取り消す</translation>
+    </message>
+    <message>
+        <source>Restore all keys</source>
+        <translation>すべてのキーを元に戻す</translation>
     </message>
 </context>
 </TS>

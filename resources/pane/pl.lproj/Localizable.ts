@@ -187,5 +187,29 @@
         <source>Shift alone would take the capital letters you type. Choose another modifier key with it.</source>
         <translation>Sam Shift zabierałby wpisywane wielkie litery. Proszę wybrać do niego jeszcze jeden klawisz modyfikujący.</translation>
     </message>
+    <message>
+        <source>Restore this key</source>
+        <translation>Przywróć ten klawisz</translation>
+    </message>
+    <message>
+        <source>%1 is used for “%2”.</source>
+        <translation>%1 jest już używany przez „%2”.</translation>
+    </message>
+    <message>
+        <source>%1 is used for “%2”. Change that key first.</source>
+        <translation>%1 jest już używany przez „%2”. Najpierw należy zmienić tamten klawisz.</translation>
+    </message>
+    <message>
+        <source>The key for “%1” is restored.</source>
+        <translation>Klawisz działania „%1” został przywrócony.</translation>
+    </message>
+    <message>
+        <source>All keys are restored.</source>
+        <translation>Przywrócono wszystkie klawisze.</translation>
+    </message>
+    <message>
+        <source>The keys are as they were before.</source>
+        <translation>Klawisze są znów takie jak wcześniej.</translation>
+    </message>
 </context>
 </TS>

@@ -187,5 +187,29 @@
         <source>Shift alone would take the capital letters you type. Choose another modifier key with it.</source>
         <translation>Shift sozinha tomaria as letras maiúsculas que você digita. Escolha também outra tecla modificadora.</translation>
     </message>
+    <message>
+        <source>Restore this key</source>
+        <translation>Restaurar esta tecla</translation>
+    </message>
+    <message>
+        <source>%1 is used for “%2”.</source>
+        <translation>%1 já é usada para “%2”.</translation>
+    </message>
+    <message>
+        <source>%1 is used for “%2”. Change that key first.</source>
+        <translation>%1 já é usada para “%2”. Altere essa tecla primeiro.</translation>
+    </message>
+    <message>
+        <source>The key for “%1” is restored.</source>
+        <translation>A tecla de “%1” foi restaurada.</translation>
+    </message>
+    <message>
+        <source>All keys are restored.</source>
+        <translation>Todas as teclas foram restauradas.</translation>
+    </message>
+    <message>
+        <source>The keys are as they were before.</source>
+        <translation>As teclas voltaram a ser como antes.</translation>
+    </message>
 </context>
 </TS>

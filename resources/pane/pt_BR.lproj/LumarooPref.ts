@@ -56,20 +56,20 @@
         <translation>Teclas modificadoras</translation>
     </message>
     <message>
-        <source>⇧ Sh&amp;ift</source>
-        <translation>⇧ S&amp;hift</translation>
+        <source>Sh&amp;ift ⇧</source>
+        <translation>S&amp;hift ⇧</translation>
     </message>
     <message>
-        <source>⌃ &amp;Control</source>
-        <translation>⌃ Ct&amp;rl</translation>
+        <source>&amp;Control ⌃</source>
+        <translation>Ct&amp;rl ⌃</translation>
     </message>
     <message>
-        <source>⌥ A&amp;lt</source>
-        <translation>⌥ A&amp;lt</translation>
+        <source>A&amp;lt ⌥</source>
+        <translation>A&amp;lt ⌥</translation>
     </message>
     <message>
-        <source>⌘ Sup&amp;er</source>
-        <translation>⌘ Sup&amp;er</translation>
+        <source>Sup&amp;er ⌘</source>
+        <translation>Sup&amp;er ⌘</translation>
     </message>
     <message>
         <source>The modifier keys in use</source>
@@ -542,6 +542,14 @@
     <message>
         <source>Start Lumaroo at l&amp;ogin</source>
         <translation>&amp;Iniciar o Lumaroo com a sessão</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Desfazer</translation>
+    </message>
+    <message>
+        <source>Restore all keys</source>
+        <translation>Restaurar todas as teclas</translation>
     </message>
 </context>
 </TS>
