@@ -57,7 +57,7 @@ QStringList actionsOfThePane()
         QStringLiteral("updateColorInfo:"), QStringLiteral("useSystemColor:"), QStringLiteral("checkForUpdates:"),
         QStringLiteral("autoUpdateChecked:"), QStringLiteral("hideBetaNotes:"), QStringLiteral("visit:"),
         QStringLiteral("feedback:"), QStringLiteral("orderFrontFeedbackWindow:"), QStringLiteral("useFreeModifiers:"),
-        QStringLiteral("toggleStartAtLogin:")};
+        QStringLiteral("restoreAllKeys:"), QStringLiteral("undoRestoringKeys:"), QStringLiteral("toggleStartAtLogin:")};
 }
 
 LoadedWindow::LoadedWindow(const QString &language) : bundle_(QStringLiteral("Window.prefPane"))
