@@ -14,7 +14,7 @@
 namespace {
 
 constexpr quint16 controlAndAlt = XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1;
-constexpr int tabsToTheOffer = 18, newVersion = 200;
+constexpr int tabsToTheOffer = 19, newVersion = 200;
 const QString whatToPress = QStringLiteral("Hold Control Alt and press ← → ↑ ↓");
 const QString leftIsHeld = QStringLiteral("⌃⌥← is used by another program. Lumaroo cannot take it.");
 
