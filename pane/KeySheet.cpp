@@ -83,7 +83,7 @@ void KeySheet::showModifiers()
             continue;
         held.append(withoutMnemonic(box->text()));
         // The sign comes first, which nobody can say.
-        spoken.append(held.last().section(u' ', 1));
+        spoken.append(held.last().section(u' ', 0, -2));
     }
     auto *line = view_->findChild<KeyCapsLine *>(QStringLiteral("keySheetModifiers"));
     if (!line)
