@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>&amp;Skip this version</source>
-        <translation>このバージョンをスキップ(&amp;S)</translation>
+        <translation>今回はスキップ(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Later</source>
