@@ -8,6 +8,8 @@ inline const QString KTXLMAgentPath = QStringLiteral("/com/quorvane/LumarooAgent
 inline const QString KTXAskSettings = QStringLiteral("Settings");
 /// The signal that says that the answer may be another one now.
 inline const QString KTXHotKeysChanged = QStringLiteral("HotKeysChanged");
+/// The signal of a press, with the name under which the action's key is stored.
+inline const QString KTXActionKeyPressed = QStringLiteral("ActionKeyPressed");
 
 // The answer's entries, and those of each of its hot keys.
 

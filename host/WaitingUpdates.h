@@ -9,4 +9,4 @@
 /// Called before anything of the bundles is read. Blocks until each installer has ended; one that takes longer than
 /// `longest` is killed, which leaves the old bundle or the new one, whole. Whatever comes of it, the bundle can be used
 /// afterwards.
-void finishUpdates(const QStringList &bundles, std::chrono::milliseconds longest = std::chrono::seconds(15));
+void finishUpdates(const QStringList &bundles, std::chrono::milliseconds longest = std::chrono::seconds(40));

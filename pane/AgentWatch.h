@@ -18,9 +18,12 @@ Q_SIGNALS:
     /// At the beginning, and each time that it may be otherwise. Nothing is known where no agent runs, or where it does
     /// not answer within 2 s or says nothing of this.
     void told(const AgentKeys &keys);
+    /// The agent has heard a key of its own: that of the action in this row.
+    void heardKey(int row);
 
 private Q_SLOTS:
     void ask();
+    void hearKey(const QString &action);
 
 private:
     void hear(quint64 question, const QByteArray &answer);

@@ -22,6 +22,7 @@ void KTXLumarooPreferencePane::followDesktop()
         refreshConflictMarkers();
     };
     keys_ = new PaneKeys(mainView(), bundle(), {[this] { return keyCodes_; }, showWhatIsStored}, this);
+    connect(&desktop_->agent(), &AgentWatch::heardKey, keys_, &PaneKeys::tellOfTrial);
     connect(&desktop_->presence(), &AgentPresence::ended, this,
         [this] { runAtBoundary("setAgentVisualsOff", [this] { setAgentVisualsOff(); }); });
     // What could not be stored, or read, was announced in vain when it was set; and what is stored may be something

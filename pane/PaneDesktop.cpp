@@ -3,6 +3,7 @@
 #include "KTXAgentAnswer.h"
 #include "KTXLoginEntry.h"
 #include "pane/Controls.h"
+#include "platform/appkit/controls/AssistiveTools.h"
 #include "platform/appkit/controls/HeldKeyMarker.h"
 #include "platform/appkit/controls/KeyCapsLine.h"
 #include "platform/foundation/bundles/NSBundle.h"
@@ -92,9 +93,14 @@ void PaneDesktop::showPresence()
     const bool isRemoved =
         bundle_->pathForResourceOfType(QStringLiteral("LumarooAgent"), QStringLiteral("app")).isEmpty();
     const bool runs = presence_.state() == AgentPresence::Runs;
-    setStringValue(control("stateHint"),
+    const QString text =
         localized(isRemoved && !runs ? "&Lumaroo was removed from this computer. Install it again to turn it on."
-                                     : sentences.value(presence_.state())));
+                                     : sentences.value(presence_.state()));
+    QWidget *line = control("stateHint");
+    if (!line || stringValue(line) == text)
+        return;
+    setStringValue(line, text);
+    alertAssistiveTools(line);
 }
 
 void PaneDesktop::showKeys(const AgentKeys &keys)

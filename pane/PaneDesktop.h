@@ -24,6 +24,8 @@ public:
     /// Has the desktop start the agent of the bundle at login, or not. False where that failed, which is logged; the
     /// check box shows what holds then.
     bool setStartsAtLogin(bool on);
+    /// What the agent says of its keys.
+    const AgentWatch &agent() const { return agent_; }
     /// Whether the agent is there, to be told of its start.
     AgentPresence &presence() { return presence_; }
 

@@ -80,15 +80,23 @@ void PaneKeyCaps::tellCombination(int row)
     QLineEdit *field = fields_.at(row);
     if (!field)
         return;
-    QString signs;
-    QStringList names;
-    for (const auto &modifier : std::as_const(modifiers_)) {
-        if (!modifier || !modifier->isChecked())
-            continue;
-        signs += signOf(modifier);
-        names += nameOf(modifier);
+    field->setToolTip(modifiers(signOf).join(QString()) + field->text() + u'\n' + hint_);
+    told_[row].set(field, combination(row) + u'.');
+}
+
+QString PaneKeyCaps::combination(int row) const
+{
+    const QLineEdit *field = fields_.at(row);
+    return field ? (modifiers(nameOf) << field->text()).join(u' ') : QString();
+}
+
+/// The name or the sign of each that is chosen.
+QStringList PaneKeyCaps::modifiers(QString (*part)(const QAbstractButton *)) const
+{
+    QStringList chosen;
+    for (const auto &modifier : modifiers_) {
+        if (modifier && modifier->isChecked())
+            chosen += part(modifier);
     }
-    names += field->text();
-    field->setToolTip(signs + field->text() + u'\n' + hint_);
-    told_[row].set(field, names.join(u' ') + u'.');
+    return chosen;
 }

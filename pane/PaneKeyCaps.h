@@ -22,6 +22,8 @@ public:
 
     /// The fields by row; null for one that the view does not have.
     const QList<QPointer<QLineEdit>> &fields() const { return fields_; }
+    /// What is to be pressed for a row's action, in names; empty where the view has no field for it.
+    QString combination(int row) const;
     /// The field of a row has its key, and says no longer that it waits for one.
     void showKey(int row);
 
@@ -30,6 +32,7 @@ private:
     void findModifiers(QWidget *view);
     void tellCombinations();
     void tellCombination(int row);
+    QStringList modifiers(QString (*part)(const QAbstractButton *)) const;
 
     QList<QPointer<QLineEdit>> fields_;
     QList<QPointer<KeyCapField>> caps_;

@@ -5,11 +5,11 @@
 #include "KTXSettings.h"
 #include "KeyCodeTranslator.h"
 #include "pane/Controls.h"
+#include "platform/appkit/controls/AssistiveTools.h"
 #include "platform/foundation/Boundary.h"
 #include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/preferences/CFPreferences.h"
 
-#include <QAccessible>
 #include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenu>
@@ -86,6 +86,13 @@ void PaneKeys::tellOfPress(int row, VirtualKeyCode keyCode)
         offerUndo(false);
 }
 
+void PaneKeys::tellOfTrial(int row)
+{
+    const QWidget *line = control("keyUseField");
+    if (line && line->isVisible())
+        tell(localized("You pressed %1: %2.").arg(caps_.combination(row), actionName(row)));
+}
+
 void PaneKeys::restore(int row)
 {
     const VirtualKeyCode keyCode = KTXActionKeys().at(size_t(row)).defaultKeyCode;
@@ -148,10 +155,8 @@ void PaneKeys::tell(const QString &text, QWidget *field)
     if (!line || stringValue(line) == text)
         return;
     setStringValue(line, text);
-    if (text.isEmpty())
-        return;
-    QAccessibleEvent alert(line, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    if (!text.isEmpty())
+        alertAssistiveTools(line);
 }
 
 int PaneKeys::otherRowWith(VirtualKeyCode keyCode, int row) const

@@ -31,6 +31,8 @@ public:
     /// A key was pressed in the field of a row, before anything comes of it. A line tells which other row has it; the
     /// line goes with the next press, and so does the way back once a key is to be taken.
     void tellOfPress(int row, VirtualKeyCode keyCode);
+    /// The agent heard the key of a row. The same line tells it who looks at the page, which makes that a trial.
+    void tellOfTrial(int row);
     /// Stores the first keys of all actions.
     void restoreAll();
     /// The same for one action; where another one has that key, a line says so and nothing changes.

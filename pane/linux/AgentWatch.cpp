@@ -1,5 +1,6 @@
 #include "pane/AgentWatch.h"
 
+#include "KTXActionKeys.h"
 #include "KTXAgentAnswer.h"
 #include "KTXConstants.h"
 
@@ -8,6 +9,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
+#include <algorithm>
 
 namespace {
 
@@ -22,13 +24,16 @@ AgentWatch::AgentWatch()
     connect(owner, &QDBusServiceWatcher::serviceOwnerChanged, this, &AgentWatch::ask);
     // From anybody: by its sender's name the toolkit would wait for the bus.
     bus.connect({}, KTXLMAgentPath, KTXLMAgentID, KTXHotKeysChanged, this, SLOT(ask()));
+    bus.connect({}, KTXLMAgentPath, KTXLMAgentID, KTXActionKeyPressed, this, SLOT(hearKey(QString)));
     // Once who is to hear of it has connected.
     QMetaObject::invokeMethod(this, &AgentWatch::ask, Qt::QueuedConnection);
 }
 
 AgentWatch::~AgentWatch()
 {
-    QDBusConnection::sessionBus().disconnect({}, KTXLMAgentPath, KTXLMAgentID, KTXHotKeysChanged, this, SLOT(ask()));
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    bus.disconnect({}, KTXLMAgentPath, KTXLMAgentID, KTXHotKeysChanged, this, SLOT(ask()));
+    bus.disconnect({}, KTXLMAgentPath, KTXLMAgentID, KTXActionKeyPressed, this, SLOT(hearKey(QString)));
 }
 
 void AgentWatch::ask()
@@ -47,4 +52,13 @@ void AgentWatch::hear(quint64 question, const QByteArray &answer)
 {
     if (question == question_)
         Q_EMIT told(agentKeys(answer));
+}
+
+void AgentWatch::hearKey(const QString &action)
+{
+    const auto &all = KTXActionKeys();
+    const auto place = std::find_if(
+        all.cbegin(), all.cend(), [&action](const KTXActionKey &one) { return one.preferenceName == action; });
+    if (place != all.cend())
+        Q_EMIT heardKey(int(place - all.cbegin()));
 }

@@ -18,6 +18,7 @@ namespace {
 
 const QString whatToPress = QStringLiteral("Hold ⌃⌥ and press ← → ↑ ↓");
 const QString oneIsHeld = QStringLiteral("⌃⌥← is used by another program. Lumaroo cannot take it.");
+constexpr int codeOfB = 11;
 const QMap<QString, QString> leftIsHeld{{KTXLeftPref, KTXCauseOtherProgram}};
 
 class KeysInPane : public PaneOnHotKeyPage
@@ -77,6 +78,29 @@ TEST_F(KeysInPane, tellsWhatToPressAndThatAllKeysWork)
     EXPECT_TRUE(shows("keysStateField", "All keys work."));
     EXPECT_EQ(text("heldKeysField"), "");
     EXPECT_EQ(heldRows(), QList<int>());
+}
+
+TEST_F(KeysInPane, tellsWhichKeyTheAgentHears)
+{
+    storeKey(Down, codeOfB);
+    showPage();
+    EXPECT_TRUE(shows("keysStateField", "All keys work."));
+    agent->hearsKeyOf(KTXUpPref);
+    EXPECT_TRUE(shows("keyUseField", "You pressed Control Alt ↑: Up."));
+    agent->hearsKeyOf("unknown");
+    agent->hearsKeyOf(KTXDownPref);
+    EXPECT_TRUE(shows("keyUseField", "You pressed Control Alt B: Down."));
+}
+
+TEST_F(KeysInPane, tellsNoKeyThatWasPressedWhileAnotherPageWasShown)
+{
+    showPage();
+    EXPECT_TRUE(shows("keysStateField", "All keys work."));
+    selectTabViewItemAtIndex(control("tabbedView"), 0);
+    agent->hearsKeyOf(KTXUpPref);
+    agent->answers(AgentStandIn::answerWith(leftIsHeld)); // which comes after it
+    EXPECT_TRUE(shows("heldKeysField", oneIsHeld));
+    EXPECT_EQ(text("keyUseField"), "");
 }
 
 TEST_F(KeysInPane, namesTheKeyThatAnotherProgramHolds)

@@ -6,13 +6,30 @@
 
 #include "platform/appkit/controls/KeyCapsLine.h"
 
+#include <QAccessible>
 #include <optional>
 
 namespace {
 
+QStringList alerts;
+
+void hear(QAccessibleEvent *event)
+{
+    if (event->type() == QAccessible::Alert)
+        alerts += event->accessibleInterface()->text(QAccessible::Name);
+}
+
 class AgentSeenInPane : public PaneWithAgent
 {
 protected:
+    ~AgentSeenInPane() override { QAccessible::installUpdateHandler(nullptr); }
+
+    void listenAsAssistiveTool()
+    {
+        alerts.clear();
+        QAccessible::setActive(true);
+        QAccessible::installUpdateHandler(&hear);
+    }
     void showWithAgent()
     {
         putAgent();
@@ -39,6 +56,14 @@ TEST_F(AgentSeenInPane, whichIsKilledCountsAsEnded)
     EXPECT_TRUE(waitUntil([this] { return switchState() == NSOffState; }));
     EXPECT_EQ(text("enabledState"), "Lumaroo Disabled");
     EXPECT_TRUE(tells("has ended by itself"));
+}
+
+TEST_F(AgentSeenInPane, isToldToAssistiveToolsWhenItEnds)
+{
+    showWithAgent();
+    listenAsAssistiveTool();
+    agent.reset();
+    EXPECT_TRUE(waitUntil([] { return alerts.filter("has ended by itself").size() == 1; }));
 }
 
 TEST_F(AgentSeenInPane, whichAnnouncesItsEndIsOffAndNoMore)

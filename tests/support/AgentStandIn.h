@@ -59,6 +59,7 @@ public:
         isSilent_ = true;
         Q_EMIT HotKeysChanged();
     }
+    void hearsKeyOf(const QString &action) { Q_EMIT ActionKeyPressed(action); }
     int questions() const { return questions_; }
 
 public Q_SLOTS:
@@ -72,6 +73,7 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     Q_SCRIPTABLE void HotKeysChanged();
+    Q_SCRIPTABLE void ActionKeyPressed(const QString &action); // NOLINT(readability-identifier-naming): as above
 
 private:
     QDBusConnection bus_ = QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("agent stand-in"));

@@ -59,6 +59,18 @@ TEST_F(PaneTellsByUser, namesAHeldKeyAndTakesTheModifiersThatItOffers)
     quit();
 }
 
+TEST_F(PaneTellsByUser, tellsTheCombinationThatIsTried)
+{
+    open();
+    turnToKeys();
+    ASSERT_TRUE(tells("All keys work."));
+    pressKey(KEY_UP, {KEY_LEFTCTRL, KEY_LEFTALT});
+    EXPECT_TRUE(tells("You pressed Control Alt ↑: Up."));
+    pressKey(KEY_SLASH, {KEY_LEFTCTRL, KEY_LEFTALT});
+    EXPECT_TRUE(tells("You pressed Control Alt /: Under."));
+    quit();
+}
+
 TEST_F(PaneTellsByUser, tellsWhenAHeldKeyIsFree)
 {
     ASSERT_TRUE(other.grabKey(KEY_LEFT, controlAndAlt));

@@ -222,7 +222,8 @@ TEST_F(ReleaseByUser, leavesTheOldVersionToAPaneThatDoesNotLetItselfBeLeft)
     EXPECT_EQ(settings->exitStatus(), 0);
     const pid_t restarted = waitForSettingsOtherThan(old);
     ASSERT_NE(restarted, 0);
-    EXPECT_TRUE(reader.waitForText(restarted, "Version 1.1 (101)"));
+    EXPECT_TRUE(reader.waitForText(restarted, "Version 1.1 (101)"))
+        << reader.textsOf(restarted).join('\n').toStdString();
     EXPECT_EQ(installedVersion(), 101);
 }
 

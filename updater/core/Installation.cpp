@@ -57,13 +57,16 @@ UpdateProblem busy(const QString &bundle)
 Installation installWaitingUpdate(const QString &bundlePath)
 {
     const UpdatePlaces places(InstalledBundle(bundlePath).path);
+    if (places.bundle().isEmpty())
+        return {};
+    // Whoever had the lock before may have installed what waited until then.
+    const FolderLock lock(places.folder());
     const std::optional<ExpectedUpdate> expected = waitingUpdate(places);
-    if (places.bundle().isEmpty() || !expected)
+    if (!expected)
         return {};
     const UpdateProblem refusal = problemOfUpdating(bundlePath);
     if (!refusal.isNone())
         return {InstalledBundle(bundlePath).version, *expected, refusal};
-    const FolderLock lock(places.folder());
     const UpdateProblem problem = lock ? install(places, *expected) : busy(places.bundle());
     if (problem.isNone() || isForGood(problem.kind))
         removeWaitingUpdate(places);
@@ -75,13 +78,13 @@ Installation installWaitingUpdate(const QString &bundlePath)
 UpdateProblem verifyWaitingUpdate(const QString &bundlePath)
 {
     const UpdatePlaces places(InstalledBundle(bundlePath).path);
+    const FolderLock lock(places.folder());
     const std::optional<ExpectedUpdate> expected = waitingUpdate(places);
     if (!expected)
         return {Kind::Archive, QStringLiteral("the update does not wait any more")};
     const UpdateProblem refusal = problemOfUpdating(bundlePath);
     if (!refusal.isNone())
         return refusal;
-    const FolderLock lock(places.folder());
     const UpdateProblem problem = lock ? problemOfArchive(places, *expected) : busy(places.bundle());
     if (isForGood(problem.kind))
         removeWaitingUpdate(places);

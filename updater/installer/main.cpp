@@ -36,7 +36,7 @@ Installation installInTurn(const QString &bundle)
     if (installation.problem.kind != UpdateProblem::Kind::Busy)
         return installation;
     NSLog(QStringLiteral("lumaroo: installer: another process is updating %1; waiting").arg(bundle));
-    waitForOtherUpdates(bundle, std::chrono::seconds(10));
+    waitForOtherUpdates(bundle, std::chrono::seconds(30));
     return installWaitingUpdate(bundle);
 }
 

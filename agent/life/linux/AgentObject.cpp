@@ -22,6 +22,7 @@ AgentObject::AgentObject(Agent &agent) : agent_(agent)
     connect(gestures, &Gestures::cancelled, this, &AgentObject::SelectionCancelled);
     connect(gestures, &Gestures::refused, this, &AgentObject::SelectionRefused);
     connect(&agent.hotKeys(), &AgentHotKeys::changed, this, &AgentObject::HotKeysChanged);
+    connect(&agent.hotKeys(), &AgentHotKeys::pressed, this, &AgentObject::ActionKeyPressed);
     QDBusConnection::sessionBus().registerObject(
         agentPath(), this, QDBusConnection::ExportScriptableSlots | QDBusConnection::ExportScriptableSignals);
 }

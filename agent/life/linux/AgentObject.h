@@ -26,6 +26,7 @@ Q_SIGNALS:
     Q_SCRIPTABLE void SelectionCancelled();
     Q_SCRIPTABLE void SelectionRefused();
     Q_SCRIPTABLE void HotKeysChanged();
+    Q_SCRIPTABLE void ActionKeyPressed(const QString &action);
 
 public Q_SLOTS:
     // The interface on the bus.

@@ -43,3 +43,11 @@ void nameControlsForAssistiveTools(QWidget *view)
             button->setAccessibleName(QString(text).remove(signBeforeName));
     }
 }
+
+void alertAssistiveTools(QWidget *widget)
+{
+    if (!widget->isVisible())
+        return;
+    QAccessibleEvent alert(widget, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}

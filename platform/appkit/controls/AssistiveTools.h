@@ -11,3 +11,7 @@ LM_APPKIT void describeControlsToAssistiveTools();
 /// Buttons of a view with a sign before their name are called by the name alone. Called once the view is loaded; names
 /// that it brings stay.
 LM_APPKIT void nameControlsForAssistiveTools(QWidget *view);
+
+/// Has assistive tools tell at once what a widget now says, since it is not where the keyboard is. Nothing comes of it
+/// while the widget is not on screen.
+LM_APPKIT void alertAssistiveTools(QWidget *widget);

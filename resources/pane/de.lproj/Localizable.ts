@@ -204,6 +204,10 @@
         <translation>Die Taste für „%1“ ist zurückgesetzt.</translation>
     </message>
     <message>
+        <source>You pressed %1: %2.</source>
+        <translation>Sie haben %1 gedrückt: %2.</translation>
+    </message>
+    <message>
         <source>All keys are restored.</source>
         <translation>Alle Tasten sind zurückgesetzt.</translation>
     </message>

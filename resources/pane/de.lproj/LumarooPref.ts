@@ -196,8 +196,8 @@
         <translation>&amp;Zur Auswahl springen</translation>
     </message>
     <message>
-        <source>To change a key, click it and press the new one. A warning sign stands beside a key that is used twice.</source>
-        <translation>Zum Ändern eine Taste anklicken und die neue drücken. Ein Warnzeichen steht neben mehrfach belegten Tasten.</translation>
+        <source>To change a key, click it and press the new one. To try a key, press it with the modifier keys. A warning sign stands beside a key that is used twice.</source>
+        <translation>Zum Ändern eine Taste anklicken und die neue drücken. Zum Ausprobieren eine Taste mit den Zusatztasten drücken. Ein Warnzeichen steht neben mehrfach belegten Tasten.</translation>
     </message>
     <message>
         <source>&amp;Behavior</source>

@@ -204,6 +204,10 @@
         <translation>La tecla de «%1» se ha restablecido.</translation>
     </message>
     <message>
+        <source>You pressed %1: %2.</source>
+        <translation>Ha pulsado %1: %2.</translation>
+    </message>
+    <message>
         <source>All keys are restored.</source>
         <translation>Se han restablecido todas las teclas.</translation>
     </message>

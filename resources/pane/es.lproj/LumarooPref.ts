@@ -196,8 +196,8 @@
         <translation>&amp;Saltar a la selección</translation>
     </message>
     <message>
-        <source>To change a key, click it and press the new one. A warning sign stands beside a key that is used twice.</source>
-        <translation>Para cambiar una tecla, haga clic en ella y pulse la nueva. Un signo de advertencia aparece junto a las teclas que se usan más de una vez.</translation>
+        <source>To change a key, click it and press the new one. To try a key, press it with the modifier keys. A warning sign stands beside a key that is used twice.</source>
+        <translation>Para cambiar una tecla, haga clic en ella y pulse la nueva. Para probar una tecla, púlsela con las teclas modificadoras. Un signo de advertencia aparece junto a las teclas que se usan más de una vez.</translation>
     </message>
     <message>
         <source>&amp;Behavior</source>

@@ -204,6 +204,10 @@
         <translation>La touche de « %1 » est rétablie.</translation>
     </message>
     <message>
+        <source>You pressed %1: %2.</source>
+        <translation>Vous avez appuyé sur %1 : %2.</translation>
+    </message>
+    <message>
         <source>All keys are restored.</source>
         <translation>Toutes les touches sont rétablies.</translation>
     </message>

@@ -196,8 +196,8 @@
         <translation>Aller à la fenêtre mar&amp;quée</translation>
     </message>
     <message>
-        <source>To change a key, click it and press the new one. A warning sign stands beside a key that is used twice.</source>
-        <translation>Pour changer une touche, cliquez dessus et appuyez sur la nouvelle. Un signe d’avertissement figure à côté d’une touche utilisée plusieurs fois.</translation>
+        <source>To change a key, click it and press the new one. To try a key, press it with the modifier keys. A warning sign stands beside a key that is used twice.</source>
+        <translation>Pour changer une touche, cliquez dessus et appuyez sur la nouvelle. Pour essayer une touche, appuyez dessus avec les touches de modification. Un signe d’avertissement figure à côté d’une touche utilisée plusieurs fois.</translation>
     </message>
     <message>
         <source>&amp;Behavior</source>

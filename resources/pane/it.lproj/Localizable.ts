@@ -204,6 +204,10 @@
         <translation>Il tasto di «%1» è ripristinato.</translation>
     </message>
     <message>
+        <source>You pressed %1: %2.</source>
+        <translation>È stato premuto %1: %2.</translation>
+    </message>
+    <message>
         <source>All keys are restored.</source>
         <translation>Tutti i tasti sono ripristinati.</translation>
     </message>

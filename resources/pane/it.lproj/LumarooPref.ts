@@ -196,8 +196,8 @@
         <translation>Vai su&amp;bito alla selezione</translation>
     </message>
     <message>
-        <source>To change a key, click it and press the new one. A warning sign stands beside a key that is used twice.</source>
-        <translation>Per cambiare un tasto, fare clic su di esso e premere quello nuovo. Un segnale di avviso compare accanto ai tasti usati più di una volta.</translation>
+        <source>To change a key, click it and press the new one. To try a key, press it with the modifier keys. A warning sign stands beside a key that is used twice.</source>
+        <translation>Per cambiare un tasto, fare clic su di esso e premere quello nuovo. Per provare un tasto, premerlo con i tasti modificatori. Un segnale di avviso compare accanto ai tasti usati più di una volta.</translation>
     </message>
     <message>
         <source>&amp;Behavior</source>

@@ -204,6 +204,10 @@
         <translation>「%1」のキーを元に戻しました。</translation>
     </message>
     <message>
+        <source>You pressed %1: %2.</source>
+        <translation>%1 を押しました: %2。</translation>
+    </message>
+    <message>
         <source>All keys are restored.</source>
         <translation>すべてのキーを元に戻しました。</translation>
     </message>

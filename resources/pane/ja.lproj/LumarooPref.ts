@@ -196,8 +196,8 @@
         <translation>選択したウィンドウに移る(&amp;J)</translation>
     </message>
     <message>
-        <source>To change a key, click it and press the new one. A warning sign stands beside a key that is used twice.</source>
-        <translation>キーを変更するには、クリックしてから新しいキーを押します。複数の操作に使われているキーの横には警告の印が付きます。</translation>
+        <source>To change a key, click it and press the new one. To try a key, press it with the modifier keys. A warning sign stands beside a key that is used twice.</source>
+        <translation>キーを変更するには、クリックしてから新しいキーを押します。キーを試すには、修飾キーと一緒に押します。複数の操作に使われているキーの横には警告の印が付きます。</translation>
     </message>
     <message>
         <source>&amp;Behavior</source>

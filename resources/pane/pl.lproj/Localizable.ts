@@ -204,6 +204,10 @@
         <translation>Klawisz działania „%1” został przywrócony.</translation>
     </message>
     <message>
+        <source>You pressed %1: %2.</source>
+        <translation>Naciśnięto %1: %2.</translation>
+    </message>
+    <message>
         <source>All keys are restored.</source>
         <translation>Przywrócono wszystkie klawisze.</translation>
     </message>

@@ -196,8 +196,8 @@
         <translation>Prze&amp;jdź do wyboru</translation>
     </message>
     <message>
-        <source>To change a key, click it and press the new one. A warning sign stands beside a key that is used twice.</source>
-        <translation>Aby zmienić klawisz, należy go kliknąć i nacisnąć nowy. Obok klawisza użytego więcej niż raz widać znak ostrzegawczy.</translation>
+        <source>To change a key, click it and press the new one. To try a key, press it with the modifier keys. A warning sign stands beside a key that is used twice.</source>
+        <translation>Aby zmienić klawisz, należy go kliknąć i nacisnąć nowy. Aby wypróbować klawisz, należy nacisnąć go z klawiszami modyfikującymi. Obok klawisza użytego więcej niż raz widać znak ostrzegawczy.</translation>
     </message>
     <message>
         <source>&amp;Behavior</source>

@@ -204,6 +204,10 @@
         <translation>A tecla de “%1” foi restaurada.</translation>
     </message>
     <message>
+        <source>You pressed %1: %2.</source>
+        <translation>Você pressionou %1: %2.</translation>
+    </message>
+    <message>
         <source>All keys are restored.</source>
         <translation>Todas as teclas foram restauradas.</translation>
     </message>

@@ -196,8 +196,8 @@
         <translation>&amp;Ir para a seleção</translation>
     </message>
     <message>
-        <source>To change a key, click it and press the new one. A warning sign stands beside a key that is used twice.</source>
-        <translation>Para alterar uma tecla, clique nela e pressione a nova. Um sinal de aviso aparece ao lado de teclas usadas mais de uma vez.</translation>
+        <source>To change a key, click it and press the new one. To try a key, press it with the modifier keys. A warning sign stands beside a key that is used twice.</source>
+        <translation>Para alterar uma tecla, clique nela e pressione a nova. Para testar uma tecla, pressione-a com as teclas modificadoras. Um sinal de aviso aparece ao lado de teclas usadas mais de uma vez.</translation>
     </message>
     <message>
         <source>&amp;Behavior</source>
