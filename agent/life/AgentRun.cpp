@@ -127,13 +127,14 @@ int runAgent(bool foreground)
     Agent agent(name);
     const AgentObject object(agent);
     const AgentTray tray(agent);
+    // Whoever sees the name may ask for the end.
+    const EndingSignals endingSignals;
+    QObject::connect(&endingSignals, &EndingSignals::received, &agent, &Agent::terminate);
     if (!takeName(name))
         return 0;
     trimCrashLogs();
     if (foreground)
         printEvents(agent);
-    const EndingSignals endingSignals;
-    QObject::connect(&endingSignals, &EndingSignals::received, &agent, &Agent::terminate);
     QObject::connect(&name, &AgentName::busHasGone, qApp, endWithBus);
     const BundleWatch bundle(NSBundle::mainBundle()->bundlePath(), QCoreApplication::applicationFilePath());
     QObject::connect(&bundle, &BundleWatch::removed, &agent, [&agent] { endWithBundle(&agent); });

@@ -32,9 +32,10 @@ protected:
 };
 
 /// Each method of an interface with its arguments and their types, in order.
-QStringList methodsOf(const QByteArray &description, const QString &interface)
+/// Methods and signals with their arguments.
+QStringList membersOf(const QByteArray &description, const QString &interface)
 {
-    QStringList methods;
+    QStringList members;
     QXmlStreamReader reader(description);
     bool isInside = false;
     while (!reader.atEnd()) {
@@ -45,13 +46,13 @@ QStringList methodsOf(const QByteArray &description, const QString &interface)
         };
         if (reader.name() == u"interface")
             isInside = attribute("name") == interface;
-        else if (isInside && reader.name() == u"method")
-            methods += attribute("name");
+        else if (isInside && (reader.name() == u"method" || reader.name() == u"signal"))
+            members += attribute("name");
         else if (isInside && reader.name() == u"arg")
-            methods.last() += " " + attribute("direction") + " " + attribute("type");
+            members.last() += " " + attribute("direction") + " " + attribute("type");
     }
     EXPECT_FALSE(reader.hasError());
-    return methods;
+    return members;
 }
 
 } // namespace
@@ -284,9 +285,12 @@ TEST_F(TheCommandLine, findsTheAgentThroughTheCheckedInInterface)
         KTXLMAgentID, "/com/quorvane/LumarooAgent", "org.freedesktop.DBus.Introspectable", "Introspect"));
     QFile file(qEnvironmentVariable("LUMAROO_SOURCE") + "/agent/life/com.quorvane.LumarooAgent.xml");
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QStringList described = methodsOf(file.readAll(), KTXLMAgentID);
+    const QStringList described = membersOf(file.readAll(), KTXLMAgentID);
     EXPECT_EQ(described,
         QStringList({"Version out i", "Settings out s", "ReadSettings", "Quit", "Move in s", "Accept", "Cancel",
-            "TakeScreenshot out s", "CloseWindow", "ShowPreview"}));
-    EXPECT_EQ(methodsOf(answer.arguments().value(0).toString().toUtf8(), KTXLMAgentID), described);
+            "TakeScreenshot out s", "CloseWindow", "ShowPreview", "SelectionBegan", "SelectionMoved",
+            "SelectionAccepted", "SelectionCancelled", "SelectionRefused", "HotKeysChanged",
+            "ActionKeyPressed out s"}));
+    const QStringList answered = membersOf(answer.arguments().value(0).toString().toUtf8(), KTXLMAgentID);
+    EXPECT_EQ(QSet<QString>(answered.cbegin(), answered.cend()), QSet<QString>(described.cbegin(), described.cend()));
 }

@@ -38,17 +38,24 @@ protected:
             return Outcome::Nothing;
         return pane().commands.isEmpty() ? Outcome::TakenAsTyped : Outcome::TakenAsCommand;
     }
-    /// Presses a key, and undoes what it does beside the field: a lock is taken off, the help is closed.
+    /// Presses a key, and undoes what it does beside the field: a lock is taken off, the help or the menu is closed.
     void pressAndUndo(int evdevCode)
     {
         press(evdevCode);
         if (isLock(evdevCode))
             press(evdevCode);
-        if (evdevCode != KEY_F1)
-            return;
-        EXPECT_TRUE(helpComesUp());
-        closeHelp();
+        if (evdevCode == KEY_COMPOSE)
+            closeMenu();
+        if (evdevCode == KEY_F1) {
+            EXPECT_TRUE(helpComesUp());
+            closeHelp();
+        }
         EXPECT_TRUE(waitUntil([this] { return hasKeyboard(window()); }));
+    }
+    static void closeMenu()
+    {
+        ASSERT_TRUE(waitUntil([] { return QApplication::activePopupWidget() != nullptr; }));
+        QApplication::activePopupWidget()->close();
     }
     void giveItNoKey()
     {
