@@ -31,13 +31,20 @@ Course::Course()
     agentsStart_.setInterval(mostTimeToStart);
     connect(&agentsStart_, &QTimer::timeout, this, [this] { prepareFor(Obstacle::AgentDoesNotStart); });
     connect(&agent_, &RunningAgent::told, this, &Course::hearReport);
-    connect(&agent_, &RunningAgent::wentOff, this, [this] { prepareFor(Obstacle::AgentOff); });
-    connect(&agent_, &RunningAgent::saidNothing, this, [this] { prepareFor(Obstacle::AgentSilent); });
+    connect(&agent_, &RunningAgent::wentOff, this, [this] { loseAgent(Obstacle::AgentOff); });
+    connect(&agent_, &RunningAgent::saidNothing, this, [this] { loseAgent(Obstacle::AgentSilent); });
     connect(&agent_, &RunningAgent::selectionBegan, this, &Course::hearBeginning);
     connect(&agent_, &RunningAgent::selectionMoved, this, &Course::hearMove);
     connect(&agent_, &RunningAgent::selectionAccepted, this, &Course::hearAcceptance);
     connect(&agent_, &RunningAgent::selectionCancelled, this, &Course::hearCancellation);
     connect(&agent_, &RunningAgent::selectionRefused, this, &Course::settle);
+}
+
+/// Who has done all steps needs none any more.
+void Course::loseAgent(Obstacle obstacle)
+{
+    if (!isAtEnd())
+        prepareFor(obstacle);
 }
 
 void Course::begin()
@@ -50,7 +57,7 @@ void Course::begin()
 
 GuidePage Course::page() const
 {
-    if (!run_ && preparation_.obstacle == Obstacle::None)
+    if (isAtEnd())
         return pageOfEnd(*report_);
     GuidePage page = run_ ? pageOfStep(*run_, *report_) : pageOfPreparation(preparation_);
     if (run_) {
@@ -114,18 +121,18 @@ void Course::hearReport(const AgentReport &report)
 {
     agentsStart_.stop();
     const std::optional<Step> shown = run_ ? std::optional(run_->step()) : std::nullopt;
-    const bool isAtEnd = !run_ && preparation_.obstacle == Obstacle::None;
+    const bool wasAtEnd = isAtEnd();
     report_ = report;
     steps_ = possibleSteps(report);
     const Preparation preparation = preparationFor(report);
     const bool isHeld = preparation.obstacle == Obstacle::KeysHeld;
-    if (isAtEnd || (isHeld && goesOnWithout_ && !steps_.isEmpty()))
+    if (wasAtEnd || (isHeld && goesOnWithout_ && !steps_.isEmpty()))
         preparation_ = {};
     else
         meet(preparation);
     if (preparation_.obstacle != Obstacle::None)
         return;
-    if (!isAtEnd && !(shown && run_ && steps_.value(index_) == *shown))
+    if (!wasAtEnd && !(shown && run_ && steps_.value(index_) == *shown))
         goTo(shown ? std::max<qsizetype>(steps_.indexOf(*shown), 0) : std::min(index_, steps_.size() - 1));
     else
         Q_EMIT pageChanged();
@@ -185,6 +192,7 @@ void Course::useOfferedModifiers()
     CFPreferencesSetAppValue(KTXModifierMask, qlonglong(preparation_.offered), KTXLMAppID);
     isNotStored_ = !CFPreferencesAppSynchronize(KTXLMAppID);
     if (isNotStored_) {
+        LMPreferencesTakeBackAppValue(KTXModifierMask, KTXLMAppID);
         Q_EMIT pageChanged();
         return;
     }

@@ -39,7 +39,9 @@ Q_SIGNALS:
 private:
     void hearReport(const AgentReport &report);
     void meet(const Preparation &preparation);
+    bool isAtEnd() const { return !run_ && preparation_.obstacle == Obstacle::None; }
     void prepareFor(Obstacle obstacle) { meet({obstacle}); }
+    void loseAgent(Obstacle obstacle);
     void goTo(qsizetype index);
     void goToEnd();
     void useOfferedModifiers();

@@ -45,6 +45,7 @@ Actions::Actions(WindowSystem &windows, Gestures &gestures) : windows_(windows),
     connect(&gestures, &Gestures::moved, this, &Actions::followWithPreview);
     connect(&gestures, &Gestures::over, this, &Actions::endPreview);
     connect(&notices_, &Notices::pressed, this, &Actions::hearButton);
+    connect(&notices_, &Notices::clicked, this, &Actions::hearClick);
     connect(&session_, &SessionWatch::userIsLeaving, this, &Actions::endPreview);
 }
 
@@ -107,7 +108,7 @@ void Actions::tellOfPicture(const WindowDescription &window, const QString &path
     picture_ = path;
     notices_.tell({pictureMatter, actionText("Picture of “%1” taken").arg(shownTitle(window)),
         actionText("It is stored as “%1” in %2.").arg(QFileInfo(path).fileName(), shownFolder(path)),
-        actionText("Show"), path});
+        actionText("Show"), path, {}, actionText("Show")});
     Q_EMIT screenshotTaken(path);
     answer(told, {{}, path});
 }
@@ -176,6 +177,12 @@ void Actions::hearButton(const QString &matter)
         showFile(picture_);
 }
 
+void Actions::hearClick(const QString &matter)
+{
+    if (matter == pictureMatter)
+        showFile(picture_);
+}
+
 /// Meanwhile the window may have gone, and its number may be another's.
 void Actions::endUnansweringProgram()
 {
@@ -190,6 +197,7 @@ void Actions::openPrefPane(quint32 time)
 {
     // Its end would turn to another window.
     gestures_.cancel();
+    endPreview();
     const QString reason = openSettings(time != 0 ? time : ActionConnection().time());
     if (reason.isEmpty())
         Q_EMIT settingsOpened();
@@ -206,7 +214,11 @@ void Actions::showPreview(const ActionTold &told)
         answer(told);
         return;
     }
-    const QString reason = begunPreview();
+    // A key comes from nobody while the screen is locked.
+    const bool isCommand = bool(told);
+    const QString reason = isCommand && gestures_.isScreenTaken()
+        ? actionText("Another program has the keyboard and the mouse, as one that locks the screen.")
+        : begunPreview();
     if (!reason.isEmpty()) {
         refuse({previewMatter, actionText("No preview is shown"), reason, {}}, told);
         return;
@@ -219,8 +231,6 @@ void Actions::showPreview(const ActionTold &told)
 /// Why there is none.
 QString Actions::begunPreview()
 {
-    if (gestures_.isScreenTaken())
-        return actionText("Another program has the keyboard and the mouse, as one that locks the screen.");
     QString reason;
     const auto found = target("There is no window to show.", &reason);
     if (found)
@@ -236,7 +246,14 @@ void Actions::preview(const Target &target)
 {
     auto shown = ::showPreview(target.window, monitorOf(target.window, target.world.monitors));
     if (shown) {
-        connect(shown.get(), &Preview::ended, this, &Actions::hearPreviewsEnd, Qt::QueuedConnection);
+        // Queued, so another one may be shown by then.
+        const auto hearEndOf = [this](const Preview *ended) {
+            if (preview_.get() == ended)
+                hearPreviewsEnd();
+        };
+        connect(
+            shown.get(), &Preview::ended, this, [hearEndOf, ended = shown.get()] { hearEndOf(ended); },
+            Qt::QueuedConnection);
         isPreviewing_ = true;
     }
     preview_ = std::move(shown);

@@ -44,6 +44,8 @@ public:
     /// Shows the window enlarged, or ends that. During a gesture it follows the selection, and ends with it; it ends
     /// when its user leaves the session.
     void showPreview(const ActionTold &told = {});
+    /// Ends it where there is one.
+    void endPreview();
     /// Opens the settings at Lumaroo's pane, or brings them to the front as they are.
     void openPrefPane(quint32 time = 0);
 
@@ -67,6 +69,7 @@ private:
     std::optional<Target> target(const char *noWindow, QString *reason);
     void hearEnd(const WindowDescription &window, Closing::Outcome outcome, quint32 dialog, const ActionTold &told);
     void hearButton(const QString &matter);
+    void hearClick(const QString &matter);
     void endUnansweringProgram();
     void tellOfPicture(const WindowDescription &window, const QString &path, const ActionTold &told);
     QString begunPreview();
@@ -74,7 +77,6 @@ private:
     void followWithPreview();
     void hearPreviewsEnd();
     void hidePreview();
-    void endPreview();
     void refuse(const Notice &notice, const ActionTold &told = {});
 
     WindowSystem &windows_;

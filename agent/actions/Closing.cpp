@@ -33,9 +33,14 @@ void Closing::begin(quint32 time)
         closer_->ask(window_.windowID, time);
         limit_.start(patience);
     } else {
-        QMetaObject::invokeMethod(
-            this, [this] { end(Outcome::CannotBeAsked); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &Closing::tellThatItCannotBeAsked, Qt::QueuedConnection);
     }
+}
+
+/// Unless it has just gone.
+void Closing::tellThatItCannotBeAsked()
+{
+    end(closer_->isLost() || !look() ? Outcome::Unknown : Outcome::CannotBeAsked);
 }
 
 /// False where nobody tells windows; another manager may.

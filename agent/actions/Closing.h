@@ -33,6 +33,7 @@ Q_SIGNALS:
     void ended(Outcome outcome, quint32 dialog);
 
 private:
+    void tellThatItCannotBeAsked();
     bool look();
     void giveUp();
     quint32 dialogIn(const WindowWorld &world) const;

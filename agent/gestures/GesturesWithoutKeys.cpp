@@ -10,6 +10,12 @@ void Gestures::cancel()
 
 void Gestures::command(GestureEvent event)
 {
+    // The screen may have been locked since it began.
+    if (isOn() && !run_->takesKeys && event.kind != GestureEvent::Kind::Cancel && isScreenTaken()) {
+        cancel();
+        Q_EMIT refused({GestureRefusal::Kind::ScreenTaken});
+        return;
+    }
     event.time = windows_.time();
     take(event);
 }

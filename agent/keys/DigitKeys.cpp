@@ -1,6 +1,7 @@
 #include "agent/keys/DigitKeys.h"
 
 #include "KTXHotKey.h"
+#include "KTXModifiers.h"
 #include "agent/keys/ActionKeyTable.h"
 #include "platform/foundation/notifications/NSNotificationCenter.h"
 
@@ -22,9 +23,10 @@ void DigitKeys::take(const QSet<int> &digits, const ActionKeyTable &keys)
         if (!digits.contains(entry.key()))
             entry.value()->unregisterAsHotKey();
     }
-    for (const int digit : digits) {
+    const bool wouldType = keys.modifiers() == 0 || keys.modifiers() == KTXShiftModifier;
+    for (const int digit : wouldType ? QSet<int>() : digits) {
         const VirtualKeyCode keyCode = ActionKeyTable::keyOfDigit(digit);
-        if (keys.modifiers() == 0 || keys.isActionsKey(keyCode))
+        if (keys.isActionsKey(keyCode))
             continue;
         std::shared_ptr<KTXHotKey> &hotKey = hotKeys_[digit];
         // Never removed again: the numbers of hot keys are their places.

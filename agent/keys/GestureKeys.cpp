@@ -93,7 +93,8 @@ void GestureKeys::letKeyboardGo()
 void GestureKeys::takeDigits(const QSet<int> &digits)
 {
     digits_ = digits;
-    digitKeys_.take(digits, keys_);
+    // With the keyboard come all keys.
+    digitKeys_.take(isGrabbed_ ? QSet<int>() : digits, keys_);
 }
 
 QSet<int> GestureKeys::takenDigits() const

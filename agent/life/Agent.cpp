@@ -89,6 +89,8 @@ void Agent::followSettings()
     isBehind_ = gestures_.isOn();
     if (isBehind_)
         return;
+    windows_->open();
+    overlay_.open();
     const QStringList changes = std::exchange(changes_, {});
     if (isOn_ && (hotKeys_.isAnyRefused() || std::any_of(changes.cbegin(), changes.cend(), isSettingOfKeys)))
         takeKeys();
@@ -106,8 +108,8 @@ void Agent::takeKeys()
 {
     hotKeys_.apply(settings());
     gestureKeys_.apply(settings());
-    windows_->open();
-    overlay_.open();
+    // What would end it may be another key now, or none.
+    actions_.endPreview();
     notices_.lookAtKeys();
 }
 
@@ -124,6 +126,7 @@ void Agent::setOn(bool on)
     if (hasEnded_ || std::exchange(isOn_, on) == on)
         return;
     gestures_.cancel();
+    actions_.endPreview();
     // Nothing but its own switch gives keys back, so each of them is refused now.
     if (on)
         followSettings();
@@ -143,11 +146,10 @@ void Agent::readChange()
 /// As the pane stores them.
 void Agent::takeModifiers(quint32 modifiers)
 {
-    const QVariant before = CFPreferencesCopyAppValue(KTXModifierMask, KTXLMAppID);
     CFPreferencesSetAppValue(KTXModifierMask, qlonglong(modifiers), KTXLMAppID);
     if (!CFPreferencesAppSynchronize(KTXLMAppID)) {
         // It would be stored with whatever is stored next, when nobody thinks of it any more.
-        CFPreferencesSetAppValue(KTXModifierMask, before, KTXLMAppID);
+        LMPreferencesTakeBackAppValue(KTXModifierMask, KTXLMAppID);
         notices_.tellOfUnstoredModifiers();
         return;
     }

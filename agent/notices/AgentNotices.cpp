@@ -55,6 +55,13 @@ AgentNotices::AgentNotices(const AgentHotKeys &hotKeys, const Gestures &gestures
     connect(&notices_, &Notices::pressed, this, &AgentNotices::handlePress);
     // Only the welcome has two buttons.
     connect(&notices_, &Notices::secondPressed, this, &AgentNotices::settingsChosen);
+    connect(&notices_, &Notices::clicked, this, &AgentNotices::settingsChosen);
+}
+
+void AgentNotices::tell(Notice notice)
+{
+    notice.opening = noticeText("Settings");
+    notices_.tell(notice);
 }
 
 void AgentNotices::handlePress(const QString &matter)
@@ -67,7 +74,7 @@ void AgentNotices::handlePress(const QString &matter)
 
 void AgentNotices::tellOfUnstoredModifiers()
 {
-    notices_.tell({keysMatter, noticeText("The modifier keys stay as they are"),
+    tell({keysMatter, noticeText("The modifier keys stay as they are"),
         noticeText("Your choice could not be stored. The disk may be full."), offerText(offered_)});
 }
 
@@ -86,12 +93,12 @@ void AgentNotices::lookAtKeys()
             u' ' + noticeText("With %1 held instead, all movement keys are free.").arg(modifierGlyphs(offered_));
         notice.button = offerText(offered_);
     }
-    notices_.tell(notice);
+    tell(notice);
 }
 
 void AgentNotices::tellOfMissingTutorial()
 {
-    notices_.tell({QStringLiteral("tutorial"), noticeText("The tutorial cannot be started"),
+    tell({QStringLiteral("tutorial"), noticeText("The tutorial cannot be started"),
         noticeText("A part of Lumaroo is missing. Install it again."), {}});
 }
 
@@ -101,15 +108,17 @@ void AgentNotices::welcome(const QString &keysToPress)
         keysToPress.isEmpty() ? noticeText("Its keys do not work yet. The settings tell why.") : keysToPress;
     Notice notice{welcomeMatter, noticeText("Lumaroo is on"), text, noticeText("Show me")};
     notice.secondButton = noticeText("Settings");
-    notices_.tell(notice);
+    tell(notice);
 }
 
 void AgentNotices::handleRefusal(const GestureRefusal &refusal)
 {
+    if (refusal.kind == GestureRefusal::Kind::NoWindow)
+        unreadable_.reset();
     // Each key would tell it anew until windows can be read again.
     if (refusal.kind == GestureRefusal::Kind::Unreadable
         && std::exchange(unreadable_, refusal.failure) == refusal.failure)
         return;
     if (const Notice notice = noticeOf(refusal); !notice.matter.isEmpty())
-        notices_.tell(notice);
+        tell(notice);
 }

@@ -33,6 +33,7 @@ Q_SIGNALS:
     void settingsChosen();
 
 private:
+    void tell(Notice notice);
     void handlePress(const QString &matter);
     void handleRefusal(const GestureRefusal &refusal);
 

@@ -148,6 +148,16 @@ TEST_F(AgentInTray, comesUpAgainWithATrayThatWasRestarted)
     EXPECT_TRUE(agent.waitForLine("on again"));
 }
 
+TEST_F(AgentInTray, comesUpWithATrayThatTakesTheNameOver)
+{
+    std::optional<TrayHost> host(std::in_place);
+    const TrayHost next("next tray");
+    AgentProgram agent;
+    ASSERT_TRUE(host->hasIcon());
+    host.reset();
+    EXPECT_TRUE(next.hasIcon());
+}
+
 TEST_F(AgentInTray, waitsForNoTrayThatDoesNotAnswer)
 {
     const SilentTrayHost silent;

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "Wait.h"
+
 #include <QDBusConnection>
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QObject>
 #include <QStringList>
@@ -23,11 +26,13 @@ public:
         QString picture; ///< its address
     };
 
-    NotificationServer()
+    /// One that waits has the name as soon as nobody else has it.
+    explicit NotificationServer(const QDBusConnection &bus = QDBusConnection::sessionBus()) : bus_(bus)
     {
         bus_.registerObject(QStringLiteral("/org/freedesktop/Notifications"), this,
             QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
-        bus_.registerService(QStringLiteral("org.freedesktop.Notifications"));
+        bus_.interface()->registerService(
+            QStringLiteral("org.freedesktop.Notifications"), QDBusConnectionInterface::QueueService);
     }
     ~NotificationServer() override
     {
@@ -35,6 +40,14 @@ public:
         bus_.unregisterObject(QStringLiteral("/org/freedesktop/Notifications"));
     }
 
+    /// Waits until it has the name; false when that does not come about.
+    bool isInCharge() const
+    {
+        return waitUntil([this] {
+            return bus_.interface()->serviceOwner(QStringLiteral("org.freedesktop.Notifications"))
+                == bus_.baseService();
+        });
+    }
     const QList<Bubble> &bubbles() const { return bubbles_; }
     /// As its user presses the button of the newest bubble, or another one, counted from 0.
     void pressButton(int button = 0)
@@ -56,6 +69,6 @@ Q_SIGNALS:
     void NotificationClosed(quint32 id, quint32 reason);
 
 private:
-    QDBusConnection bus_ = QDBusConnection::sessionBus();
+    QDBusConnection bus_;
     QList<Bubble> bubbles_;
 };

@@ -3,6 +3,7 @@
 #include "Wait.h"
 
 #include <QDBusArgument>
+#include <QDBusConnectionInterface>
 #include <QDBusObjectPath>
 #include <QDBusPendingCall>
 #include <QDBusPendingCallWatcher>
@@ -10,7 +11,6 @@
 
 namespace {
 
-const QString connectionName = QStringLiteral("tray-host");
 const QString watcher = QStringLiteral("org.kde.StatusNotifierWatcher");
 const QString iconPath = QStringLiteral("/StatusNotifierItem");
 const QString iconInterface = QStringLiteral("org.kde.StatusNotifierItem");
@@ -34,7 +34,8 @@ QMap<int, QVariantMap> linesIn(const QDBusArgument &node)
 
 } // namespace
 
-TrayHost::TrayHost() : bus_(QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName))
+TrayHost::TrayHost(const QString &connection)
+    : bus_(QDBusConnection::connectToBus(QDBusConnection::SessionBus, connection))
 {
     living_.setConnection(bus_);
     living_.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
@@ -43,12 +44,12 @@ TrayHost::TrayHost() : bus_(QDBusConnection::connectToBus(QDBusConnection::Sessi
         bus_.connect({}, {}, interface, {}, this, SLOT(hear(QDBusMessage)));
     bus_.registerObject(QStringLiteral("/StatusNotifierWatcher"), this,
         QDBusConnection::ExportScriptableSlots | QDBusConnection::ExportScriptableProperties);
-    bus_.registerService(watcher);
+    bus_.interface()->registerService(watcher, QDBusConnectionInterface::QueueService);
 }
 
 TrayHost::~TrayHost()
 {
-    QDBusConnection::disconnectFromBus(connectionName);
+    QDBusConnection::disconnectFromBus(bus_.name());
 }
 
 bool TrayHost::hasIcon() const

@@ -19,7 +19,8 @@ class TrayHost : public QObject
     Q_PROPERTY(int ProtocolVersion READ protocolVersion)
 
 public:
-    TrayHost();
+    /// On a connection of this name. One that waits is the place as soon as nobody else is.
+    explicit TrayHost(const QString &connection = QStringLiteral("tray-host"));
     /// Goes from the bus as a process does that is killed.
     ~TrayHost() override;
 

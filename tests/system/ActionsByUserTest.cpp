@@ -69,7 +69,7 @@ TEST_F(ActionsByUser, sTakesAPictureOfTheActiveWindowAndShowsIt)
     const NotificationServer::Bubble bubble = server.bubbles().last();
     EXPECT_EQ(bubble.title, u"Picture of “Painter” taken");
     EXPECT_EQ(bubble.text, "It is stored as “" + QFileInfo(path).fileName() + "” in ~/Pictures/Lumaroo.");
-    EXPECT_EQ(bubble.actions, QStringList({"button", "Show"}));
+    EXPECT_EQ(bubble.actions, QStringList({"button", "Show", "default", "Show"}));
     EXPECT_EQ(bubble.picture, QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded));
     ASSERT_TRUE(waitUntil([&] {
         if (fileManager.shown().isEmpty())

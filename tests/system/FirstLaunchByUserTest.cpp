@@ -93,7 +93,8 @@ TEST_F(FirstLaunch, tellsThatItIsOnAndWhatToPress)
     ASSERT_TRUE(waitUntil([&] { return server.bubbles().size() == 1; }));
     EXPECT_EQ(server.bubbles().first().title, title);
     EXPECT_EQ(server.bubbles().first().text, keys);
-    EXPECT_THAT(server.bubbles().first().actions, ElementsAre(u"button", u"Show me", u"second", u"Settings"));
+    EXPECT_THAT(server.bubbles().first().actions,
+        ElementsAre(u"button", u"Show me", u"second", u"Settings", u"default", u"Settings"));
     EXPECT_EQ(stored(), QVariantMap({{KTXFirstLaunch, true}, {KTXWelcomeShown, true}}));
 }
 

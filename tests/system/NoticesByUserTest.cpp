@@ -10,6 +10,7 @@
 
 #include <QFileInfo>
 #include <linux/input-event-codes.h>
+#include <optional>
 
 namespace {
 
@@ -33,7 +34,7 @@ TEST_F(NoticesByUser, offerOtherModifiersWhereAProgramHoldsAMovementKey)
     const NotificationServer::Bubble bubble = server.bubbles().first();
     EXPECT_EQ(bubble.title, u"Another program holds Lumaroo's keys");
     EXPECT_EQ(bubble.text, u"Lumaroo does not get ⌃⌥←. With ⌃⌘ held instead, all movement keys are free.");
-    EXPECT_EQ(bubble.actions, QStringList({"button", "Use ⌃⌘"}));
+    EXPECT_EQ(bubble.actions, QStringList({"button", "Use ⌃⌘", "default", "Settings"}));
 
     server.pressButton();
     EXPECT_TRUE(announces({changedByAgent()}));
@@ -59,12 +60,79 @@ TEST_F(NoticesByUser, offerThemAgainWhereTheChoiceCannotBeStored)
     ASSERT_TRUE(waitUntil([&] { return server.bubbles().size() == 2; }));
     EXPECT_EQ(server.bubbles().last().title, u"The modifier keys stay as they are");
     EXPECT_EQ(server.bubbles().last().text, u"Your choice could not be stored. The disk may be full.");
-    EXPECT_EQ(server.bubbles().last().actions, QStringList({"button", "Use ⌃⌘"}));
+    EXPECT_EQ(server.bubbles().last().actions, QStringList({"button", "Use ⌃⌘", "default", "Settings"}));
     ASSERT_TRUE(QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     EXPECT_EQ(stored(), before);
     server.pressButton();
     EXPECT_TRUE(announces({changedByAgent()}));
     EXPECT_EQ(stored().value(KTXModifierMask), QVariant(0x1100));
+}
+
+TEST_F(NoticesByUser, leaveTheStoredModifiersAloneWhereTheChoiceCannotBeStored)
+{
+    NotificationServer server;
+    ASSERT_TRUE(other.grabKey(KEY_LEFT, controlAndAlt));
+    AgentProgram agent;
+    ASSERT_TRUE(waitForLaunchOf(agent));
+    ASSERT_TRUE(waitUntil([&] { return server.bubbles().size() == 1; }));
+    const QString folder = QFileInfo(settingsPath()).path();
+    ASSERT_TRUE(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
+    server.pressButton();
+    ASSERT_TRUE(waitUntil([&] { return server.bubbles().size() == 2; }));
+    ASSERT_TRUE(QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    QVariantMap chosen = stored();
+    chosen.insert(KTXModifierMask, 0x1900);
+    store(chosen);
+    paneAnnounces(KTXLMPrefsChanged);
+    EXPECT_TRUE(waitUntil([] {
+        return runningAgent().value("settings").toObject().value(KTXModifierMask).toInt() == 0x1900;
+    })) << "what is chosen later counts";
+    EXPECT_EQ(stored(), chosen);
+}
+
+TEST_F(NoticesByUser, beginAnewOnAServerThatTakesTheNameOver)
+{
+    std::optional<NotificationServer> server(std::in_place);
+    NotificationServer next(QDBusConnection::connectToBus(QDBusConnection::SessionBus, "next server"));
+    const AgentBundle bundle(builtVersion()); // the agent alone
+    AgentProgram agent({QStringLiteral("--foreground")}, bundle.executable());
+    ASSERT_TRUE(waitForLaunchOf(agent));
+    paneAnnounces(KTXLMRunTutorial);
+    ASSERT_TRUE(waitUntil([&] { return server->bubbles().size() == 1; }));
+    server.reset();
+    ASSERT_TRUE(next.isInCharge());
+    paneAnnounces(KTXLMRunTutorial);
+    ASSERT_TRUE(waitUntil([&] { return next.bubbles().size() == 1; }));
+    EXPECT_EQ(next.bubbles().first().replaced, 0U) << "the number is another program's here";
+}
+
+TEST_F(NoticesByUser, ofOneMatterAreOneBubbleAlsoBeforeTheServerHasAnswered)
+{
+    NotificationServer server;
+    const AgentBundle bundle(builtVersion()); // the agent alone
+    AgentProgram agent({QStringLiteral("--foreground")}, bundle.executable());
+    ASSERT_TRUE(waitForLaunchOf(agent));
+    for (int request = 0; request < 3; ++request)
+        paneAnnounces(KTXLMRunTutorial);
+    ASSERT_TRUE(waitUntil([&] { return agent.errors().count("LumarooTutorial.app does not start") == 3; }));
+    paneAnnounces(KTXLMPrefsChanged);
+    ASSERT_TRUE(agent.waitForLine("settings read (2)"));
+    ASSERT_TRUE(waitUntil([&] { return server.bubbles().size() >= 2; }));
+    for (const NotificationServer::Bubble &bubble : server.bubbles().mid(1))
+        EXPECT_EQ(bubble.replaced, 1U);
+}
+
+TEST_F(NoticesByUser, openTheSettingsWithAClick)
+{
+    NotificationServer server;
+    ASSERT_TRUE(other.grabKey(KEY_LEFT, controlAndAlt));
+    AgentProgram agent;
+    ASSERT_TRUE(waitForLaunchOf(agent));
+    ASSERT_TRUE(waitUntil([&] { return server.bubbles().size() == 1; }));
+    const QVariantMap before = stored();
+    server.pressButton(1);
+    EXPECT_TRUE(agent.waitForLine("settings opened"));
+    EXPECT_EQ(stored(), before);
 }
 
 TEST_F(NoticesByUser, tellOfHeldKeysOnceAndAgainWhenTheyAreOthers)

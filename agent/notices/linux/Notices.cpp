@@ -21,6 +21,7 @@ const QString service = QStringLiteral("org.freedesktop.Notifications");
 const QString path = QStringLiteral("/org/freedesktop/Notifications");
 const QString buttonAction = QStringLiteral("button");
 const QString secondAction = QStringLiteral("second");
+const QString clickAction = QStringLiteral("default");
 constexpr auto patience = 2s;
 constexpr int longestAnswer = 60000; // milliseconds, of a server that is started for it
 constexpr int asLongAsTheDesktopLikes = -1;
@@ -32,6 +33,8 @@ QStringList actionsOf(const Notice &notice)
         actions << buttonAction << notice.button;
     if (!notice.secondButton.isEmpty())
         actions << secondAction << notice.secondButton;
+    if (!notice.opening.isEmpty())
+        actions << clickAction << notice.opening;
     return actions;
 }
 
@@ -57,8 +60,8 @@ QDBusMessage notifyCall(const Notice &notice, quint32 replaced)
 Notices::Notices() : server_(new QDBusServiceWatcher(this))
 {
     server_->setConnection(QDBusConnection::sessionBus());
-    server_->setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
-    connect(server_, &QDBusServiceWatcher::serviceUnregistered, this, &Notices::forgetAll);
+    server_->setWatchMode(QDBusServiceWatcher::WatchForOwnerChange);
+    connect(server_, &QDBusServiceWatcher::serviceOwnerChanged, this, &Notices::forgetAll);
 }
 
 Notices::~Notices()
@@ -68,27 +71,51 @@ Notices::~Notices()
 
 void Notices::tell(const Notice &notice)
 {
+    // Its answer tells which bubble the next one of the matter takes the place of.
+    if (asked_.contains(notice.matter)) {
+        waiting_.insert(notice.matter, notice);
+        return;
+    }
+    asked_.insert(notice.matter);
+    ask(notice);
+}
+
+void Notices::ask(const Notice &notice)
+{
     const auto call =
         QDBusConnection::sessionBus().asyncCall(notifyCall(notice, shown_.value(notice.matter)), longestAnswer);
     auto *const answer = new QDBusPendingCallWatcher(call, this);
     auto *const limit = new QTimer(answer);
     limit->setSingleShot(true);
-    connect(limit, &QTimer::timeout, answer, [notice] { log(notice); });
+    connect(limit, &QTimer::timeout, this, [this, notice] {
+        log(notice);
+        goOn(notice.matter);
+    });
     limit->start(patience);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, limit, notice] {
         answer->deleteLater();
         const QDBusPendingReply<quint32> shown = *answer;
-        if (shown.isError() && limit->isActive())
-            log(notice);
-        else if (!shown.isError())
+        const bool isInTime = limit->isActive();
+        if (!shown.isError())
             handleShown(notice, shown.value());
+        else if (isInTime)
+            log(notice);
+        if (isInTime)
+            goOn(notice.matter);
     });
+}
+
+void Notices::goOn(const QString &matter)
+{
+    asked_.remove(matter);
+    if (waiting_.contains(matter))
+        tell(waiting_.take(matter));
 }
 
 void Notices::handleShown(const Notice &notice, quint32 id)
 {
     shown_.insert(notice.matter, id);
-    if (notice.button.isEmpty())
+    if (actionsOf(notice).isEmpty())
         pressable_.remove(notice.matter);
     else
         pressable_.insert(notice.matter);
@@ -104,6 +131,8 @@ void Notices::handleAction(quint32 id, const QString &action)
         Q_EMIT pressed(matter);
     else if (action == secondAction)
         Q_EMIT secondPressed(matter);
+    else if (action == clickAction)
+        Q_EMIT clicked(matter);
 }
 
 void Notices::handleClosing(quint32 id)

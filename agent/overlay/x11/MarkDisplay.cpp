@@ -40,9 +40,8 @@ std::unique_ptr<MarkDisplay> MarkDisplay::open(QString *failure)
         return nullptr;
     if (display->start())
         return display;
-    *failure = display->isLost()
-        ? QStringLiteral("the X server has gone")
-        : QStringLiteral("the X server lacks true colours or version 1.1 of the shape extension");
+    if (!display->isLost())
+        *failure = QStringLiteral("the X server lacks true colours or version 1.1 of the shape extension");
     return nullptr;
 }
 

@@ -33,7 +33,12 @@ void sendToBus(const QString &method, const QVariantList &arguments)
 
 TrayPlace::TrayPlace() : desktop_(watcher, QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForOwnerChange)
 {
-    connect(&desktop_, &QDBusServiceWatcher::serviceRegistered, this, &TrayPlace::take);
+    // One desktop's may take over from another's in one go.
+    connect(&desktop_, &QDBusServiceWatcher::serviceOwnerChanged, this,
+        [this](const QString &, const QString &, const QString &owner) {
+            if (!owner.isEmpty())
+                take();
+        });
     sendToBus(QStringLiteral("RequestName"), {ownName(), doNotQueue});
     take();
 }

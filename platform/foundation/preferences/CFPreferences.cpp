@@ -40,6 +40,12 @@ void CFPreferencesSetAppValue(const QString &key, const QVariant &value, const Q
         domain->setValue(key, value);
 }
 
+void LMPreferencesTakeBackAppValue(const QString &key, const QString &applicationID)
+{
+    if (PreferencesDomain *domain = PreferencesDomain::named(applicationID))
+        domain->takeBack(key);
+}
+
 bool CFPreferencesAppSynchronize(const QString &applicationID)
 {
     PreferencesDomain *domain = PreferencesDomain::named(applicationID);

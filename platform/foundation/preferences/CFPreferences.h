@@ -26,6 +26,10 @@ LM_FOUNDATION int CFPreferencesGetAppIntegerValue(
 /// disk) is stored only where the file turns out not to hold the key; a line tells which keys stayed as they were.
 LM_FOUNDATION void CFPreferencesSetAppValue(const QString &key, const QVariant &value, const QString &applicationID);
 
+/// Drops this process's pending write of a key: what is stored holds again. Called where what could not be stored is
+/// not to be stored later on either.
+LM_FOUNDATION void LMPreferencesTakeBackAppValue(const QString &key, const QString &applicationID);
+
 /// Flushes this process's pending writes of a domain and picks up what others wrote.
 ///
 /// Called after every change the other side must see, before it is announced. Takes a kernel lock (waits 2 s at most)

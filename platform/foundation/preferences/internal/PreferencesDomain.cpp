@@ -141,6 +141,14 @@ void PreferencesDomain::set(const QString &key, const QVariant &value)
     tellOfChange(!isEqualPropertyList(before, valueAsSeen(key)));
 }
 
+void PreferencesDomain::takeBack(const QString &key)
+{
+    const QVariant before = valueAsSeen(key);
+    pending_.remove(key);
+    blind_.remove(key);
+    tellOfChange(!isEqualPropertyList(before, valueAsSeen(key)));
+}
+
 void PreferencesDomain::addPending(const QString &key, const QVariant &value)
 {
     pending_.insert(key, value);

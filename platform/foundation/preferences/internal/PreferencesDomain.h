@@ -24,6 +24,9 @@ public:
     /// nothing that it holds: whoever set it saw nothing there.
     void setValue(const QString &key, const QVariant &value);
 
+    /// Drops what is pending of a key.
+    void takeBack(const QString &key);
+
     /// Replaces everything at once; pending as a whole where that fails. While the file cannot be read, only what
     /// differs from values() is pending: what nobody could see is not removed with the rest.
     bool replace(const QVariantMap &values);
