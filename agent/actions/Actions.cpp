@@ -246,13 +246,8 @@ void Actions::preview(const Target &target)
 {
     auto shown = ::showPreview(target.window, monitorOf(target.window, target.world.monitors));
     if (shown) {
-        // Queued, so another one may be shown by then.
-        const auto hearEndOf = [this](const Preview *ended) {
-            if (preview_.get() == ended)
-                hearPreviewsEnd();
-        };
         connect(
-            shown.get(), &Preview::ended, this, [hearEndOf, ended = shown.get()] { hearEndOf(ended); },
+            shown.get(), &Preview::ended, this, [this, ended = shown.get()] { hearPreviewsEnd(ended); },
             Qt::QueuedConnection);
         isPreviewing_ = true;
     }
@@ -272,8 +267,11 @@ void Actions::followWithPreview()
 }
 
 /// During a gesture the selection goes on, and the preview with it.
-void Actions::hearPreviewsEnd()
+void Actions::hearPreviewsEnd(const Preview *ended)
 {
+    // By now another one may be shown.
+    if (preview_.get() != ended)
+        return;
     if (gestures_.isOn())
         hidePreview();
     else

@@ -75,7 +75,7 @@ private:
     QString begunPreview();
     void preview(const Target &target);
     void followWithPreview();
-    void hearPreviewsEnd();
+    void hearPreviewsEnd(const Preview *ended);
     void hidePreview();
     void refuse(const Notice &notice, const ActionTold &told = {});
 

@@ -1,9 +1,6 @@
 #pragma once
 
-#include "Wait.h"
-
 #include <QDBusConnection>
-#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QObject>
 #include <QStringList>
@@ -26,13 +23,11 @@ public:
         QString picture; ///< its address
     };
 
-    /// One that waits has the name as soon as nobody else has it.
-    explicit NotificationServer(const QDBusConnection &bus = QDBusConnection::sessionBus()) : bus_(bus)
+    NotificationServer()
     {
         bus_.registerObject(QStringLiteral("/org/freedesktop/Notifications"), this,
             QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
-        bus_.interface()->registerService(
-            QStringLiteral("org.freedesktop.Notifications"), QDBusConnectionInterface::QueueService);
+        bus_.registerService(QStringLiteral("org.freedesktop.Notifications"));
     }
     ~NotificationServer() override
     {
@@ -40,14 +35,6 @@ public:
         bus_.unregisterObject(QStringLiteral("/org/freedesktop/Notifications"));
     }
 
-    /// Waits until it has the name; false when that does not come about.
-    bool isInCharge() const
-    {
-        return waitUntil([this] {
-            return bus_.interface()->serviceOwner(QStringLiteral("org.freedesktop.Notifications"))
-                == bus_.baseService();
-        });
-    }
     const QList<Bubble> &bubbles() const { return bubbles_; }
     /// As its user presses the button of the newest bubble, or another one, counted from 0.
     void pressButton(int button = 0)
@@ -69,6 +56,6 @@ Q_SIGNALS:
     void NotificationClosed(quint32 id, quint32 reason);
 
 private:
-    QDBusConnection bus_;
+    QDBusConnection bus_ = QDBusConnection::sessionBus();
     QList<Bubble> bubbles_;
 };

@@ -80,6 +80,20 @@ TEST_F(ActionsByUser, sTakesAPictureOfTheActiveWindowAndShowsIt)
     EXPECT_THAT(steps(), IsEmpty());
 }
 
+TEST_F(ActionsByUser, sShowsThePictureOfTheBubbleThatIsClicked)
+{
+    FileManager fileManager;
+    open();
+    press(KEY_S);
+    ASSERT_TRUE(waitUntil([this] { return !server.bubbles().isEmpty(); }));
+    ASSERT_TRUE(waitUntil([&] {
+        if (fileManager.shown().isEmpty())
+            server.pressButton(1);
+        return !fileManager.shown().isEmpty();
+    }));
+    EXPECT_EQ(fileManager.shown().first(), server.bubbles().last().picture);
+}
+
 TEST_F(ActionsByUser, sTakesAPictureOfTheSelectedWindow)
 {
     open();

@@ -109,8 +109,8 @@ TEST_F(FirstLaunch, speaksGerman)
     ASSERT_TRUE(waitUntil([&] { return server.bubbles().size() == 1; }));
     EXPECT_EQ(server.bubbles().first().title, u"Lumaroo ist an");
     EXPECT_EQ(server.bubbles().first().text, u"Halten Sie ⌃⌥ und drücken Sie ← → Pos1 ↓");
-    EXPECT_THAT(
-        server.bubbles().first().actions, ElementsAre(u"button", u"Einführung zeigen", u"second", u"Einstellungen"));
+    EXPECT_THAT(server.bubbles().first().actions,
+        ElementsAre(u"button", u"Einführung zeigen", u"second", u"Einstellungen", u"default", u"Einstellungen"));
 }
 
 TEST_F(FirstLaunch, isToldOnce)

@@ -10,7 +10,6 @@
 
 #include <QFileInfo>
 #include <linux/input-event-codes.h>
-#include <optional>
 
 namespace {
 
@@ -88,38 +87,6 @@ TEST_F(NoticesByUser, leaveTheStoredModifiersAloneWhereTheChoiceCannotBeStored)
         return runningAgent().value("settings").toObject().value(KTXModifierMask).toInt() == 0x1900;
     })) << "what is chosen later counts";
     EXPECT_EQ(stored(), chosen);
-}
-
-TEST_F(NoticesByUser, beginAnewOnAServerThatTakesTheNameOver)
-{
-    std::optional<NotificationServer> server(std::in_place);
-    NotificationServer next(QDBusConnection::connectToBus(QDBusConnection::SessionBus, "next server"));
-    const AgentBundle bundle(builtVersion()); // the agent alone
-    AgentProgram agent({QStringLiteral("--foreground")}, bundle.executable());
-    ASSERT_TRUE(waitForLaunchOf(agent));
-    paneAnnounces(KTXLMRunTutorial);
-    ASSERT_TRUE(waitUntil([&] { return server->bubbles().size() == 1; }));
-    server.reset();
-    ASSERT_TRUE(next.isInCharge());
-    paneAnnounces(KTXLMRunTutorial);
-    ASSERT_TRUE(waitUntil([&] { return next.bubbles().size() == 1; }));
-    EXPECT_EQ(next.bubbles().first().replaced, 0U) << "the number is another program's here";
-}
-
-TEST_F(NoticesByUser, ofOneMatterAreOneBubbleAlsoBeforeTheServerHasAnswered)
-{
-    NotificationServer server;
-    const AgentBundle bundle(builtVersion()); // the agent alone
-    AgentProgram agent({QStringLiteral("--foreground")}, bundle.executable());
-    ASSERT_TRUE(waitForLaunchOf(agent));
-    for (int request = 0; request < 3; ++request)
-        paneAnnounces(KTXLMRunTutorial);
-    ASSERT_TRUE(waitUntil([&] { return agent.errors().count("LumarooTutorial.app does not start") == 3; }));
-    paneAnnounces(KTXLMPrefsChanged);
-    ASSERT_TRUE(agent.waitForLine("settings read (2)"));
-    ASSERT_TRUE(waitUntil([&] { return server.bubbles().size() >= 2; }));
-    for (const NotificationServer::Bubble &bubble : server.bubbles().mid(1))
-        EXPECT_EQ(bubble.replaced, 1U);
 }
 
 TEST_F(NoticesByUser, openTheSettingsWithAClick)

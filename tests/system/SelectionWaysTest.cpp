@@ -31,7 +31,8 @@ protected:
     {
         pressKey(KEY_ESC);
         releaseModifiers();
-        ASSERT_TRUE(waitUntil([this] { return !isTaken(KEY_1); }));
+        for (const int digit : {KEY_1, KEY_2, KEY_3, KEY_4})
+            ASSERT_TRUE(waitUntil([&] { return !isTaken(digit); }));
     }
     bool isTaken(int digit) { return other.isHeldElsewhere(digit, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1); }
     /// How long after the first key the digits come up.
@@ -39,7 +40,9 @@ protected:
     {
         const quint32 start = serverTime();
         beginHeld();
-        EXPECT_TRUE(waitUntil([this] { return isTaken(KEY_4); }));
+        // They are seen once they are taken. Who asks before for a key may be in the way.
+        constexpr int frameTitleAndDigits = 3;
+        EXPECT_TRUE(waitUntil([] { return marksOnScreen() >= frameTitleAndDigits; }));
         return serverTime() - start;
     }
 
@@ -52,7 +55,7 @@ TEST_F(SelectionWays, haveDigitsForWhoHesitates)
 {
     open();
     EXPECT_GE(timeUntilDigits(), hesitation - hesitation / 20) << "as exact as a timer that may be early by 5 %";
-    for (const int digit : {KEY_1, KEY_2, KEY_3})
+    for (const int digit : {KEY_1, KEY_2, KEY_3, KEY_4})
         EXPECT_TRUE(isTaken(digit));
     EXPECT_FALSE(isTaken(KEY_5)) << "there are four windows";
     cancel();

@@ -104,16 +104,6 @@ TEST_F(TrayByUser, endsTheSelectionThatIsOn)
     EXPECT_TRUE(OtherClient().grabKeyboard());
 }
 
-TEST_F(TrayByUser, endsThePreviewThatIsShown)
-{
-    open();
-    ASSERT_TRUE(host.hasIcon());
-    pressKey(KEY_SPACE, modifiers());
-    ASSERT_TRUE(agent.waitForLine("preview shown"));
-    switchOff();
-    EXPECT_TRUE(agent.waitForLine("preview ended"));
-}
-
 TEST_F(TrayByUser, opensTheSettings)
 {
     open();
