@@ -6,9 +6,11 @@
 #include "KeyCodeTranslator.h"
 #include "pane/Controls.h"
 #include "platform/appkit/controls/AssistiveTools.h"
+#include "platform/appkit/controls/Mnemonics.h"
 #include "platform/foundation/Boundary.h"
 #include "platform/foundation/bundles/NSBundle.h"
 #include "platform/foundation/preferences/CFPreferences.h"
+#include "platform/foundation/propertylists/PropertyList.h"
 
 #include <QContextMenuEvent>
 #include <QLineEdit>
@@ -27,6 +29,11 @@ QPoint placeOfMenu(const QWidget *field, const QContextMenuEvent &event)
 {
     return event.reason() == QContextMenuEvent::Mouse ? event.globalPos()
                                                       : field->mapToGlobal(field->rect().bottomLeft());
+}
+
+bool isDefault(const QString &key, const QVariant &value)
+{
+    return isEqualPropertyList(value, KTXDefaultValue(key));
 }
 
 } // namespace
@@ -101,6 +108,7 @@ void PaneKeys::restore(int row)
         return;
     }
     storeDefaults({row});
+    caps_.showKey(row);
     tell(localized("The key for “%1” is restored.").arg(actionName(row)), caps_.fields().at(row));
 }
 
@@ -112,22 +120,29 @@ void PaneKeys::restoreAll()
     tell(localized("All keys are restored."));
 }
 
+/// What has its first key already is not replaced: the way back from the restoring before stays.
 void PaneKeys::storeDefaults(const QList<int> &rows)
 {
-    replaced_.clear();
+    QList<Stored> replaced;
     for (const int row : rows) {
         const QString &key = KTXActionKeys().at(size_t(row)).preferenceName;
-        replaced_.append({key, CFPreferencesCopyAppValue(key, KTXLMAppID)});
+        if (const QVariant before = CFPreferencesCopyAppValue(key, KTXLMAppID); !isDefault(key, before))
+            replaced.append({key, before});
         CFPreferencesSetAppValue(key, KTXDefaultValue(key), KTXLMAppID);
     }
+    if (!replaced.isEmpty())
+        replaced_ = replaced;
     pane_.showWhatIsStored();
-    offerUndo(true);
+    offerUndo(!replaced_.isEmpty());
 }
 
+/// Who has set a key meanwhile keeps it.
 void PaneKeys::undo()
 {
-    for (const auto &[key, value] : std::as_const(replaced_))
-        CFPreferencesSetAppValue(key, value, KTXLMAppID);
+    for (const auto &[key, value] : std::as_const(replaced_)) {
+        if (isDefault(key, CFPreferencesCopyAppValue(key, KTXLMAppID)))
+            CFPreferencesSetAppValue(key, value, KTXLMAppID);
+    }
     pane_.showWhatIsStored();
     offerUndo(false);
     tell(localized("The keys are as they were before."));
@@ -180,7 +195,7 @@ QString PaneKeys::actionName(int row) const
     const auto labels = view_ ? view_->findChildren<QLabel *>() : QList<QLabel *>();
     for (const QLabel *label : labels) {
         if (label->buddy() && label->buddy() == caps_.fields().at(row))
-            return label->text().remove(u'&');
+            return withoutMnemonic(label->text());
     }
     return {};
 }

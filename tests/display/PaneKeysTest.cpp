@@ -123,6 +123,30 @@ TEST_F(PaneKeysPage, undoBringsBackWhatWasStoredAndWhatWasNot)
     EXPECT_EQ(line(), "The keys are as they were before.");
 }
 
+TEST_F(PaneKeysPage, undoBringsThemBackAlsoWhereTheyWereRestoredTwice)
+{
+    storeKey(Up, codeOfB);
+    showPage();
+    performClick(control("restoreAllKeysButton"));
+    performClick(control("restoreAllKeysButton"));
+    ASSERT_TRUE(offersUndo());
+    performClick(control("undoRestoringButton"));
+    EXPECT_EQ(keyCode(Up), codeOfB);
+    EXPECT_EQ(stored(Up), QVariant(QVariantMap{{KTXKeycode, QString::number(codeOfB)}}));
+}
+
+TEST_F(PaneKeysPage, undoLeavesWhatOthersHaveSetMeanwhile)
+{
+    storeKey(Up, codeOfB);
+    storeKey(Down, codeOfB + 1);
+    showPage();
+    performClick(control("restoreAllKeysButton"));
+    storeKey(Up, codeOfB + 2);
+    performClick(control("undoRestoringButton"));
+    EXPECT_EQ(keyCode(Up), codeOfB + 2);
+    EXPECT_EQ(keyCode(Down), codeOfB + 1);
+}
+
 TEST_F(PaneKeysPage, undoLeavesTheKeyboardAtTheOtherButton)
 {
     showPage();
