@@ -1,11 +1,11 @@
 #include "host/ControlSearch.h"
 
 #include "host/FoundMark.h"
+#include "platform/appkit/controls/Mnemonics.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QLabel>
-#include <QRegularExpression>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <algorithm>
@@ -13,15 +13,6 @@
 namespace {
 
 constexpr qsizetype longestName = 60;
-
-/// Where the letter follows the text in brackets, as in languages whose own signs no key has, it goes with them.
-QString withoutMnemonic(QString text)
-{
-    static const QString escaped(QChar(0x1));
-    static const QRegularExpression inBrackets(QStringLiteral(" ?\\(&[^)]\\)"));
-    text.replace(QStringLiteral("&&"), escaped).remove(inBrackets).remove(u'&');
-    return text.replace(escaped, QStringLiteral("&")).simplified();
-}
 
 /// What the window itself writes on a control; a label speaks for its buddy.
 SearchedControl namedControl(QWidget *widget)
@@ -55,6 +46,21 @@ void addControlsOf(const QWidget *page, const QString &pageName, QList<SearchedC
     }
 }
 
+/// What counts of a text in a search: neither case nor accents, nor which apostrophe it is.
+QString comparable(const QString &text)
+{
+    QString letters;
+    for (const QChar character : text.normalized(QString::NormalizationForm_KD).toCaseFolded()) {
+        if (character == u'’')
+            letters += u'\'';
+        else if (character == u'ł')
+            letters += u'l';
+        else if (character.category() != QChar::Mark_NonSpacing)
+            letters += character;
+    }
+    return letters.simplified();
+}
+
 QTabWidget *tabsAround(const QWidget *control, int *index)
 {
     for (QWidget *around = control->parentWidget(); around; around = around->parentWidget()) {
@@ -63,6 +69,28 @@ QTabWidget *tabsAround(const QWidget *control, int *index)
             *index = page;
             if (tabs->widget(page) == control || tabs->widget(page)->isAncestorOf(control))
                 return tabs;
+        }
+    }
+    return nullptr;
+}
+
+bool takesTab(const QWidget *widget)
+{
+    return widget->focusPolicy() & Qt::TabFocus && widget->isVisible() && widget->isEnabled();
+}
+
+/// The control, or what takes the keyboard first in it or after it beside it; null where nothing does.
+QWidget *firstFocus(QWidget *control)
+{
+    if (takesTab(control))
+        return control;
+    bool isAfter = false;
+    for (const QWidget *around : {control, control->parentWidget()}) {
+        const auto widgets = around ? around->findChildren<QWidget *>() : QList<QWidget *>();
+        for (QWidget *widget : widgets) {
+            isAfter = isAfter || around == control || widget == control;
+            if (isAfter && takesTab(widget))
+                return widget;
         }
     }
     return nullptr;
@@ -88,11 +116,10 @@ QList<SearchedControl> searchedControls(const QWidget *view)
 
 bool controlMatches(const SearchedControl &control, const QString &search)
 {
-    const QString all = control.name + u' ' + control.page + u' ' + control.words;
-    const QStringList words = search.split(u' ', Qt::SkipEmptyParts);
-    return !words.isEmpty() && std::all_of(words.cbegin(), words.cend(), [&all](const QString &word) {
-        return all.contains(word, Qt::CaseInsensitive);
-    });
+    const QString all = comparable(control.name + u' ' + control.page + u' ' + control.words);
+    const QStringList words = comparable(search).split(u' ', Qt::SkipEmptyParts);
+    return !words.isEmpty()
+        && std::all_of(words.cbegin(), words.cend(), [&all](const QString &word) { return all.contains(word); });
 }
 
 void showControl(QWidget *control)
@@ -104,9 +131,7 @@ void showControl(QWidget *control)
         if (auto *area = qobject_cast<QScrollArea *>(around); area && area->widget())
             area->ensureWidgetVisible(control);
     }
-    if (control->focusPolicy() & Qt::TabFocus)
-        control->setFocus(Qt::ShortcutFocusReason);
-    else if (QWidget *first = control->nextInFocusChain())
-        first->setFocus(Qt::OtherFocusReason);
+    if (QWidget *first = firstFocus(control))
+        first->setFocus(Qt::ShortcutFocusReason);
     new FoundMark(control);
 }

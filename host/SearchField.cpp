@@ -14,6 +14,7 @@ namespace {
 
 constexpr int mostMatches = 12;
 constexpr int widthOfLens = 22;
+constexpr int marginOfLines = 24;
 constexpr double lensRadius = 4.5;
 
 QString line(const SearchedControl &match)
@@ -32,7 +33,7 @@ SearchField::SearchField(QWidget *parent)
     setAccessibleName(hostText(QStringLiteral("Search settings")));
     setToolTip(QKeySequence(Qt::CTRL | Qt::Key_F).toString(QKeySequence::NativeText));
     setClearButtonEnabled(true);
-    setTextMargins(widthOfLens, 0, 0, 0);
+    leaveRoomForLens();
     // The list holds what matches already.
     completer_->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     completer_->setMaxVisibleItems(mostMatches);
@@ -51,6 +52,19 @@ void SearchField::focusInEvent(QFocusEvent *event)
     if (event->reason() != Qt::PopupFocusReason && view_)
         controls_ = searchedControls(view_);
     QLineEdit::focusInEvent(event);
+}
+
+void SearchField::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutDirectionChange)
+        leaveRoomForLens();
+    QLineEdit::changeEvent(event);
+}
+
+void SearchField::leaveRoomForLens()
+{
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+    setTextMargins(isMirrored ? 0 : widthOfLens, 0, isMirrored ? widthOfLens : 0, 0);
 }
 
 /// The looking-glass is drawn, as an icon would not follow the palette.
@@ -80,7 +94,15 @@ void SearchField::fill(const QString &search)
     if (matches_.isEmpty())
         completer_->popup()->hide();
     else
-        completer_->complete();
+        completer_->complete(placeOfList());
+}
+
+/// As wide as its lines, where the window is; it ends where the field does.
+QRect SearchField::placeOfList() const
+{
+    const int lines = completer_->popup()->sizeHintForColumn(0) + marginOfLines;
+    const int wide = std::clamp(lines, width(), std::max(width(), window()->width()));
+    return {layoutDirection() == Qt::RightToLeft ? 0 : width() - wide, 0, wide, height()};
 }
 
 void SearchField::showFirstMatch(const QString &search)
@@ -118,7 +140,7 @@ void SearchField::keyPressEvent(QKeyEvent *event)
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (event->key() == Qt::Key_Escape)
         close();
-    else if (isReturn && !matches_.isEmpty())
+    else if (isReturn && !text().isEmpty() && !matches_.isEmpty())
         pick(std::max(0, completer_->popup()->currentIndex().row()));
     else if (!isReturn)
         QLineEdit::keyPressEvent(event);

@@ -22,12 +22,15 @@ public:
     void showFirstMatch(const QString &search);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void leaveRoomForLens();
     void fill(const QString &search);
+    QRect placeOfList() const;
     void pick(int place);
     void close();
 

@@ -5,6 +5,7 @@
 #include "KTXConstants.h"
 #include "KTXModifiers.h"
 #include "KeyCodeTranslator.h"
+#include "platform/appkit/controls/Mnemonics.h"
 #include "platform/foundation/bundles/NSBundle.h"
 
 #include <algorithm>
@@ -73,7 +74,7 @@ QStringList Words::modifierNames() const
         const QString text = QString::fromUtf8(name);
         if (keys_.modifiers & mask)
             names.append(
-                bundle_->localizedStringForKeyValueTable(text, text, QStringLiteral("LumarooPref")).remove(u'&'));
+                withoutMnemonic(bundle_->localizedStringForKeyValueTable(text, text, QStringLiteral("LumarooPref"))));
     }
     return names;
 }

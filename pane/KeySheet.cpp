@@ -1,6 +1,7 @@
 #include "pane/KeySheet.h"
 
 #include "platform/appkit/controls/KeyCapsLine.h"
+#include "platform/appkit/controls/Mnemonics.h"
 #include "platform/foundation/bundles/NSBundle.h"
 
 #include <QCheckBox>
@@ -17,11 +18,6 @@ const QStringList actions = {QStringLiteral("moveUp"), QStringLiteral("moveDown"
 const QStringList modifiers = {QStringLiteral("shiftCheckBox"), QStringLiteral("controlCheckBox"),
     QStringLiteral("optionCheckBox"), QStringLiteral("commandCheckBox")};
 constexpr int movements = 5;
-
-QString withoutMnemonic(QString text)
-{
-    return text.remove(u'&');
-}
 
 } // namespace
 
@@ -82,7 +78,7 @@ void KeySheet::showModifiers()
         if (!box || !box->isChecked())
             continue;
         held.append(withoutMnemonic(box->text()));
-        // The sign comes first, which nobody can say.
+        // The sign comes last, which nobody can say.
         spoken.append(held.last().section(u' ', 0, -2));
     }
     auto *line = view_->findChild<KeyCapsLine *>(QStringLiteral("keySheetModifiers"));

@@ -3,6 +3,7 @@
 #include "KTXActionKeys.h"
 #include "pane/Controls.h"
 #include "platform/appkit/controls/KeyCapField.h"
+#include "platform/appkit/controls/Mnemonics.h"
 #include "platform/foundation/bundles/NSBundle.h"
 
 #include <QLineEdit>
@@ -17,7 +18,7 @@ QString textOfInterface(const NSBundle *bundle, const QString &text)
 /// A modifier's check box says "Control ⌃".
 QString nameOf(const QAbstractButton *modifier)
 {
-    return modifier->text().remove(u'&').section(u' ', 0, -2);
+    return withoutMnemonic(modifier->text()).section(u' ', 0, -2);
 }
 
 QString signOf(const QAbstractButton *modifier)

@@ -17,11 +17,14 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDrag>
+#include <QGuiApplication>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QStyleOptionSlider>
 #include <QTimer>
+#include <cstdlib>
 #include <linux/input-event-codes.h>
+#include <xcb/xcb.h>
 
 namespace {
 
@@ -83,6 +86,12 @@ protected:
         ASSERT_TRUE(waitUntil([&] { return !slider->isSliderDown(); }));
     }
 
+    /// A pop-up that has closed has the pointer until the server knows.
+    static void waitForToolkit()
+    {
+        xcb_connection_t *const server = qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
+        std::free(xcb_get_input_focus_reply(server, xcb_get_input_focus(server), nullptr));
+    }
     /// Opens a pop-up and clicks on its item with a tag.
     void choose(const char *name, int itemTag)
     {
@@ -94,6 +103,7 @@ protected:
         const QModelIndex item = popUp->model()->index(popUp->findData(itemTag), 0);
         clickAt(list->viewport()->mapToGlobal(list->visualRect(item).center()));
         ASSERT_TRUE(waitUntil([&] { return !list->isVisible() && selectedItemTag(popUp) == itemTag; })) << itemTag;
+        waitForToolkit();
     }
 
     NSColorWell *well() { return control<NSColorWell>("overlayColorWell"); }

@@ -131,6 +131,9 @@ protected:
                            "switch."));
         say("keysStateField",
             QStringLiteral("Some keys do not work, since other programs use them. The page “Keys” names them."));
+        say("modifierHint",
+            QStringLiteral("Shift alone would take the capital letters you type. Choose another modifier key with "
+                           "it."));
         say("heldKeysField", QStringLiteral("%1 are used by other programs. Lumaroo cannot take them."), {keys});
         say("freeModifiersButton", QStringLiteral("Use %1 instead"), {QStringLiteral("⌃⌥⇧⌘")});
         runPendingEvents();

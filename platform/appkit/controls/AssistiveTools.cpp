@@ -1,5 +1,6 @@
 #include "platform/appkit/controls/AssistiveTools.h"
 
+#include "platform/appkit/controls/Mnemonics.h"
 #include "platform/appkit/controls/internal/DocumentAccessibility.h"
 #include "platform/appkit/controls/internal/GroupAccessibility.h"
 #include "platform/appkit/controls/internal/SwitchAccessibility.h"
@@ -20,11 +21,6 @@ QAccessibleInterface *describe(const QString &className, QObject *object)
     if (auto *document = qobject_cast<QTextBrowser *>(widget))
         return new DocumentAccessibility(document);
     return GroupAccessibility::isFor(widget) ? new GroupAccessibility(widget) : nullptr;
-}
-
-QString withoutMnemonic(QString text)
-{
-    return text.remove(u'&');
 }
 
 } // namespace

@@ -1,7 +1,9 @@
 #include "platform/appkit/controls/ColumnPage.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QEvent>
+#include <QScrollBar>
 
 namespace {
 
@@ -18,6 +20,11 @@ ColumnPage::ColumnPage(QWidget *parent) : QScrollArea(parent)
     setWidgetResizable(true);
     setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     viewport()->setAutoFillBackground(false);
+    // The toolkit itself follows the Tab key alone.
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
+        if (now && widget() && widget()->isAncestorOf(now) && QApplication::mouseButtons() == Qt::NoButton)
+            ensureWidgetVisible(now);
+    });
 }
 
 QSize ColumnPage::sizeHint() const
@@ -44,8 +51,10 @@ void ColumnPage::turnSideBySide()
     if (!layout)
         return;
     layout->setDirection(QBoxLayout::LeftToRight);
-    // What is wide enough in one language is too narrow for the texts of another.
-    if (width() < leastSideBySide || widget()->minimumSizeHint().width() > viewport()->width())
+    widget()->layout()->invalidate();
+    // What is wide enough in one language is too narrow for the texts of another. A scroll bar may come with either.
+    const int room = width() - verticalScrollBar()->sizeHint().width();
+    if (width() < leastSideBySide || widget()->minimumSizeHint().width() > room)
         layout->setDirection(QBoxLayout::TopToBottom);
 }
 

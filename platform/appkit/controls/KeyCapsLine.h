@@ -14,6 +14,7 @@ public:
     /// reader says it. An empty sentence shows nothing.
     void setSentence(const QString &sentence, const QList<QStringList> &caps, const QString &spoken);
 
+    bool hasHeightForWidth() const override { return true; }
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
     int heightForWidth(int width) const override;

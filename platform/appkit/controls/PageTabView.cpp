@@ -1,6 +1,7 @@
 #include "platform/appkit/controls/PageTabView.h"
 
 #include "platform/appkit/colors/ColorMixing.h"
+#include "platform/appkit/controls/Mnemonics.h"
 #include "platform/appkit/controls/internal/PageSymbols.h"
 
 #include <QFocusEvent>
@@ -18,11 +19,6 @@ constexpr int widthOfSymbolAlone = 40;
 constexpr int widthForAName = 52;
 constexpr qreal radius = 8;
 constexpr float shareOfHairline = 0.14f;
-
-QString withoutMnemonic(QString text)
-{
-    return text.remove(u'&');
-}
 
 } // namespace
 

@@ -1,10 +1,12 @@
 #include "platform/appkit/controls/internal/SwitchAccessibility.h"
 
+#include "platform/appkit/controls/Mnemonics.h"
+
 QString SwitchAccessibility::text(QAccessible::Text kind) const
 {
     const QString own = QAccessibleWidget::text(kind);
     // One that is a row has its own text beside it.
-    return kind == QAccessible::Name && own.isEmpty() ? control()->text().remove(u'&') : own;
+    return kind == QAccessible::Name && own.isEmpty() ? withoutMnemonic(control()->text()) : own;
 }
 
 QAccessible::State SwitchAccessibility::state() const
