@@ -6,6 +6,7 @@
 #include "agent/windows/WindowSystem.h"
 
 #include <linux/input-event-codes.h>
+#include <optional>
 #include <random>
 
 namespace {
@@ -20,6 +21,15 @@ struct Key
 };
 constexpr Key keys[]{{KEY_LEFT, Movement::Left}, {KEY_RIGHT, Movement::Right}, {KEY_UP, Movement::Up},
     {KEY_DOWN, Movement::Down}, {KEY_SLASH, Movement::Under}};
+
+/// The windows from top to bottom, behind the active one.
+QList<quint32> stackOf(const WindowWorld &world)
+{
+    QList<quint32> stack{world.activeWindow};
+    for (const WindowDescription &window : world.windows)
+        stack += window.windowID;
+    return stack;
+}
 
 class SelectionRandom : public SelectionSession
 {
@@ -36,25 +46,32 @@ protected:
         waitForWindowManager();
     }
 
-    /// Where the rule leads in the world as it is now, while the same keys are pressed.
-    quint32 walk()
+    WindowWorld world() const
     {
         WindowFailure failure{};
         const auto world = system_->read({}, &failure);
         EXPECT_TRUE(world) << qPrintable(clause(failure));
+        return world.value_or(WindowWorld());
+    }
+    /// Where the rule leads in the world as it is now, while the same keys are pressed. No value where a busy window
+    /// manager has changed the stack meanwhile: then nobody knows which one the agent has seen.
+    std::optional<quint32> walk()
+    {
+        const WindowWorld world = this->world();
         Selection selection{{}};
-        EXPECT_TRUE(world && selection.begin(*world));
+        EXPECT_TRUE(selection.begin(world));
         holdModifiers();
         for (int press = 0; press < pressesOfAGesture; ++press) {
             const Key &key = keys[number(std::size(keys))];
-            selection.move(key.movement, MovementKind::Press, *world);
+            selection.move(key.movement, MovementKind::Press, world);
             pressKey(key.evdevCode);
         }
         // Who lets go before the first press is handled means that one alone.
         presses_ += pressesOfAGesture;
         EXPECT_TRUE(waitUntil([this] { return agent.lines().filter("pressed").size() == presses_; }));
+        const bool isSameWorld = stackOf(this->world()) == stackOf(world);
         releaseModifiers();
-        return selection.selected();
+        return isSameWorld ? std::optional(selection.selected()) : std::nullopt;
     }
 
 private:
@@ -68,18 +85,20 @@ private:
 TEST_F(SelectionRandom, endsWhereTheRuleLeads)
 {
     ASSERT_TRUE(waitForLaunchOf(agent));
-    qsizetype gestures = 0;
+    qsizetype gestures = 0, certain = 0;
     for (int layout = 0; layout < layouts; ++layout) {
         std::deque<WindowOfAnotherProgram> windows;
         openWindows(windows);
         for (int gesture = 0; gesture < gesturesOfALayout; ++gesture) {
-            const quint32 expected = walk();
+            const std::optional<quint32> expected = walk();
             ++gestures;
             ASSERT_TRUE(waitUntil([&] { return steps().filter("accepted").size() == gestures; }))
                 << steps().join(u'\n').toStdString();
-            ASSERT_TRUE(waitUntil([&] { return activeWindow() == expected; }))
+            certain += expected.has_value();
+            ASSERT_TRUE(!expected || waitUntil([&] { return activeWindow() == *expected; }))
                 << layout << ' ' << gesture << ' ' << steps().mid(steps().size() - 7).join(u'\n').toStdString();
             waitForWindowManager();
         }
     }
+    EXPECT_GT(certain, gestures / 2);
 }

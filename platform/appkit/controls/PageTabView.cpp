@@ -1,7 +1,6 @@
 #include "platform/appkit/controls/PageTabView.h"
 
 #include "platform/appkit/colors/ColorMixing.h"
-#include "platform/appkit/controls/Mnemonics.h"
 #include "platform/appkit/controls/internal/PageSymbols.h"
 
 #include <QFocusEvent>
@@ -20,6 +19,12 @@ constexpr int widthForAName = 52;
 constexpr qreal radius = 8;
 constexpr float shareOfHairline = 0.14f;
 
+/// A letter in brackets stands in the tab like the rest.
+QString textAsDrawn(QString text)
+{
+    return text.remove(u'&');
+}
+
 } // namespace
 
 PageTabBar::PageTabBar(QTabWidget *tabView) : QTabBar(tabView), tabView_(tabView)
@@ -35,7 +40,7 @@ QSize PageTabBar::tabSizeHint(int) const
 {
     int widest = leastWidth;
     for (int index = 0; index < count(); ++index)
-        widest = std::max(widest, fontMetrics().horizontalAdvance(withoutMnemonic(tabText(index))) + 2 * padding);
+        widest = std::max(widest, fontMetrics().horizontalAdvance(textAsDrawn(tabText(index))) + 2 * padding);
     return {widest, padding + symbolSide + gap + fontMetrics().height() + padding};
 }
 
