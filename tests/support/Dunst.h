@@ -10,21 +10,19 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
-/// dunst, a real notification server, on the session's display. Its user's choice among a bubble's buttons is the first
-/// or the last one.
+/// dunst, a real notification server, on the session's display. Its user's choice among a bubble's buttons is the one
+/// that says a word.
 class Dunst
 {
 public:
     /// Whether this machine has it.
     static bool isInstalled() { return !program().isEmpty(); }
 
-    enum class Choice : quint8 { First, Last };
-    explicit Dunst(Choice choice)
+    explicit Dunst(const QByteArray &choice)
     {
         QFile file(folder_.filePath(QStringLiteral("dunstrc")));
         if (file.open(QIODevice::WriteOnly)) {
-            file.write("[global]\ndmenu = ");
-            file.write(choice == Choice::First ? "/usr/bin/head -n 1\n" : "/usr/bin/tail -n 1\n");
+            file.write("[global]\ndmenu = /bin/grep -m 1 -F -- '" + choice + "'\n");
         }
         file.close();
         process_.setStandardErrorFile(QProcess::nullDevice());
@@ -45,14 +43,10 @@ public:
         call << QStringLiteral("org.dunstproject.cmd0") << QStringLiteral("displayedLength");
         return QDBusConnection::sessionBus().call(call).arguments().value(0).value<QDBusVariant>().variant().toInt();
     }
-    /// As its user presses a button of the newest bubble.
-    static void press()
-    {
-        QDBusMessage call = QDBusMessage::createMethodCall(
-            service(), path(), QStringLiteral("org.dunstproject.cmd0"), QStringLiteral("NotificationAction"));
-        call << uint(0);
-        QDBusConnection::sessionBus().call(call);
-    }
+    /// As its user presses a button.
+    static void press() { ask(QStringLiteral("ContextMenuCall")); }
+    /// As its user clicks on the newest bubble.
+    static void click() { ask(QStringLiteral("NotificationAction"), {uint(0)}); }
     /// Returns when it has gone.
     void end()
     {
@@ -62,6 +56,13 @@ public:
     }
 
 private:
+    static void ask(const QString &method, const QVariantList &arguments = {})
+    {
+        QDBusMessage call =
+            QDBusMessage::createMethodCall(service(), path(), QStringLiteral("org.dunstproject.cmd0"), method);
+        call.setArguments(arguments);
+        QDBusConnection::sessionBus().call(call);
+    }
     static QString program() { return QStandardPaths::findExecutable(QStringLiteral("dunst")); }
     static QString service() { return QStringLiteral("org.freedesktop.Notifications"); }
     static QString path() { return QStringLiteral("/org/freedesktop/Notifications"); }

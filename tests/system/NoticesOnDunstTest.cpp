@@ -29,7 +29,7 @@ protected:
 
 TEST_F(NoticesOnDunst, welcomeAndShowTheTutorial)
 {
-    const Dunst dunst(Dunst::Choice::First);
+    const Dunst dunst("Show me");
     ASSERT_TRUE(Dunst::isThere());
     AgentProgram agent;
     ASSERT_TRUE(waitUntil([] { return Dunst::shown() == 1; }));
@@ -42,12 +42,12 @@ TEST_F(NoticesOnDunst, welcomeAndShowTheTutorial)
 
 TEST_F(NoticesOnDunst, welcomeAndOpenTheSettings)
 {
-    const Dunst dunst(Dunst::Choice::Last);
+    const Dunst dunst("nothing");
     ASSERT_TRUE(Dunst::isThere());
     AgentProgram agent;
     ASSERT_TRUE(waitUntil([] { return Dunst::shown() == 1; }));
     EXPECT_TRUE(waitUntil([&] {
-        Dunst::press();
+        Dunst::click();
         return agent.lines().contains("settings opened");
     }));
     ASSERT_TRUE(waitUntil([] { return activeWindowTitle() == "Lumaroo"; }));
@@ -60,12 +60,12 @@ TEST_F(NoticesOnDunst, goOnWithAServerThatWasKilled)
     OtherClient other;
     ASSERT_TRUE(other.grabKey(KEY_LEFT, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1));
     store({{KTXFirstLaunch, true}});
-    Dunst first(Dunst::Choice::First);
+    Dunst first("Use");
     AgentProgram agent;
     ASSERT_TRUE(waitForLaunchOf(agent));
     ASSERT_TRUE(waitUntil([] { return Dunst::shown() == 1; }));
     first.end();
-    const Dunst second(Dunst::Choice::First);
+    const Dunst second("Use");
     ASSERT_TRUE(other.grabKey(KEY_LEFT, XCB_MOD_MASK_CONTROL));
     store({{KTXFirstLaunch, true}, {KTXModifierMask, 0x1000}});
     paneAnnounces(KTXLMPrefsChanged);
