@@ -161,9 +161,12 @@ protected:
     }
     pid_t waitForSettingsOtherThan(pid_t old)
     {
-        const bool isBack = waitUntil([&] {
+        // A build with sanitizers is large, and on a busy machine it takes a while until it is unpacked.
+        constexpr int milliseconds = 60000;
+        const auto isThere = [&] {
             return hosts().size() == 1 && hosts().first() != old && !desktopWindowsOfProcess(hosts().first()).isEmpty();
-        });
+        };
+        const bool isBack = waitUntil(isThere, milliseconds);
         return isBack ? hosts().first() : 0;
     }
 
